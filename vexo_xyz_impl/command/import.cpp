@@ -1,0 +1,111 @@
+#include "vexo_xyz_impl/command/import.h"
+
+#include <exception>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "vexo_xyz_impl/command/insertion.h"
+#include "vexo_xyz_impl/command/module.h"
+#include "vexo_xyz_impl/command/questions.h"
+#include "vexo_xyz_impl/command/report.h"
+#include "vexo_xyz_impl/drawing/model_space.h"
+#include "vexo_xyz_impl/failure.h"
+#include "vexo_xyz_impl/host/messages.h"
+#include "vexo_xyz_impl/input/loading.h"
+#include "vexo_xyz_impl/table/layout.h"
+#include "vexo_xyz_impl/table/points.h"
+
+namespace vexo_xyz_impl {
+namespace {
+
+using host::CommandOutcome;
+
+constexpr std::size_t kSkippedShownWithoutPoints = 3;
+
+void notify_start() {
+  try {
+    host::load_sibling<host::Notices>(host::bound().host.siblings, "vexo_boot").zdarzenie(kCommandName);
+  } catch (const std::exception&) {  // NOLINT(bugprone-empty-catch): a notice is no reason not to import
+  }
+}
+
+void notify_failure(const FailureNote& failure) {
+  try {
+    host::load_sibling<host::Notices>(host::bound().host.siblings, "vexo_boot").blad(kCommandName, failure);
+  } catch (const std::exception&) {  // NOLINT(bugprone-empty-catch): the user is told in any case
+  }
+}
+
+// The table; empty, with the user told why, when the file cannot be used.
+std::optional<Table> read_table(const std::string& path) {
+  LoadResult loaded = _wczytaj(path);
+  if (loaded.typ == FileType::xls_stary) {
+    print("xyz.xls_stary_1");
+    print("xyz.xls_stary_2");
+    return std::nullopt;
+  }
+  if (!loaded.rows) {
+    print("xyz.blad_otworz_plik", {std::string_view(path)});
+    return std::nullopt;
+  }
+  if (loaded.typ == FileType::xlsx) print("xyz.info_skoroszyt");
+  return std::move(loaded.rows);
+}
+
+CommandOutcome import_file(const std::string& path) {
+  const auto table = read_table(path);
+  if (!table) return CommandOutcome::failed;
+
+  LayoutVerdict verdict = _wykryj_format(table->rows());
+  if (!verdict.fmt && !ask_layout(verdict)) return CommandOutcome::nothing_done;
+  Decomposition read;
+  if (verdict.fmt) {
+    announce_layout(verdict);
+    read = _rozbierz(verdict.dane, *verdict.fmt);
+  }
+  if (read.punkty.empty()) {
+    print("xyz.zero_wierszy");
+    print_skipped(read.pominiete, kSkippedShownWithoutPoints);
+    print("xyz.sprawdz_format");
+    return CommandOutcome::nothing_done;
+  }
+
+  if (settle_axes(read.punkty))
+    for (PointRecord& point : read.punkty) std::swap(point.x, point.y);
+
+  const double txtH = label_height(read.punkty);
+  ModelSpace model = _openModelSpace();
+  if (!model.ms) {
+    print("xyz.blad_model");
+    return CommandOutcome::failed;
+  }
+  const Inserted inserted = insert_points(*model.ms, read.punkty, txtH);
+  model.ms.finish();
+  _setPointDisplayVars();
+
+  print("xyz.wstawiono_punkty", {static_cast<long long>(inserted.placed), layout_code(*verdict.fmt)});
+  mark_and_report(inserted.oidy_punktow);
+  group_and_report(*model.db, inserted.oidy, path);
+  report_rest(read);
+  return CommandOutcome::done;
+}
+
+}  // namespace
+
+CommandOutcome importxyz() {
+  notify_start();
+  const auto path = ask_path();
+  if (!path) return CommandOutcome::nothing_done;
+  try {
+    return import_file(*path);
+  } catch (const std::exception& failure) {
+    const FailureNote note = describe(failure);
+    notify_failure(note);
+    print("xyz.blad_ogolny", {std::string_view(note.kind), std::string_view(note.text)});
+    return CommandOutcome::failed;
+  }
+}
+
+}  // namespace vexo_xyz_impl

@@ -1,0 +1,20 @@
+// Reaching model space, and making points visible in the drawing.
+#pragma once
+
+#include "vexo_xyz_impl/host/database.h"
+
+namespace vexo_xyz_impl {
+
+/// Model space opened for writing and the working database; both empty when either cannot be opened.
+struct ModelSpace {
+  host::Opened<host::GcDbBlockTableRecord> ms;
+  host::GcDbDatabase* db = nullptr;
+};
+
+[[nodiscard]] ModelSpace _openModelSpace();
+
+/// Sets PDMODE 3 (a cross) and PDSIZE -2 (per cent of the view's height). Not critical: an ordinary failure is
+/// swallowed, and what was set before it stays set.
+void _setPointDisplayVars();
+
+}  // namespace vexo_xyz_impl

@@ -1,0 +1,44 @@
+// Data rows into numbered points, and the rows that could not be used with the reason.
+#pragma once
+
+#include <cstddef>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "vexo_xyz_impl/input/table.h"
+#include "vexo_xyz_impl/table/layout.h"
+
+namespace vexo_xyz_impl {
+
+/// A point as the file states it. `nr` is a view into the table, or into the decomposition when the layout has no
+/// number column and points are counted.
+struct PointRecord {
+  std::string_view nr;
+  double x;  ///< metres, as are y and z
+  double y;
+  double z;  ///< 0.0 in layouts without heights
+};
+
+/// A row that gave no point.
+struct SkippedLine {
+  std::size_t row;     ///< counted from 1 among the rows taken apart
+  std::string reason;  ///< in the catalogue's words
+  std::string text;    ///< the row's beginning, at most 40 characters
+};
+
+/// What `_rozbierz` returns. Moving it keeps the views valid; the table must outlive it.
+struct Decomposition {
+  std::vector<PointRecord> punkty;
+  std::vector<SkippedLine> pominiete;
+  std::vector<char> counted_numbers;  ///< the texts behind `nr` when points are counted
+};
+
+/// A row for people: its cells joined with single blanks, cut to 40 characters.
+[[nodiscard]] std::string row_text(Row row);
+
+/// Takes the rows apart, each into a point or a skipped line, both in row order.
+[[nodiscard]] Decomposition _rozbierz(std::span<const Row> wiersze, Layout fmt);
+
+}  // namespace vexo_xyz_impl

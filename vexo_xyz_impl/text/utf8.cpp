@@ -1,0 +1,144 @@
+#include "vexo_xyz_impl/text/utf8.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <cstring>
+#include <iterator>
+
+#include "vexo_xyz_impl/text/unicode_tables.h"
+
+namespace vexo_xyz_impl::text {
+namespace {
+
+constexpr unsigned char byte_at(std::string_view utf8, std::size_t at) { return static_cast<unsigned char>(utf8[at]); }
+
+constexpr bool is_ascii(unsigned char byte) { return byte < 0x80; }
+constexpr bool is_continuation(unsigned char byte) { return (byte & 0xC0U) == 0x80U; }
+
+constexpr bool is_ascii_white_space(unsigned char byte) { return byte == ' ' || (byte >= '\t' && byte <= '\r'); }
+
+// Length of the run of ASCII from `at` on, eight bytes a step: most survey files are nothing else.
+std::size_t ascii_run(std::string_view utf8, std::size_t at) {
+  constexpr std::uint64_t kHighBits = 0x8080808080808080ULL;
+  const std::size_t start = at;
+  while (at + sizeof(std::uint64_t) <= utf8.size()) {
+    std::uint64_t word = 0;
+    std::memcpy(&word, utf8.data() + at, sizeof word);
+    if ((word & kHighBits) != 0) break;
+    at += sizeof word;
+  }
+  while (at < utf8.size() && is_ascii(byte_at(utf8, at))) ++at;
+  return at - start;
+}
+
+}  // namespace
+
+std::optional<CodePoint> decode(std::string_view utf8, std::size_t at) {
+  const unsigned char lead = byte_at(utf8, at);
+  if (is_ascii(lead)) return CodePoint{lead, 1};
+  std::size_t bytes = 0;
+  char32_t value = 0;
+  char32_t smallest = 0;  // anything below is an overlong form
+  if ((lead & 0xE0U) == 0xC0U) {
+    bytes = 2, value = lead & 0x1FU, smallest = 0x80;
+  } else if ((lead & 0xF0U) == 0xE0U) {
+    bytes = 3, value = lead & 0x0FU, smallest = 0x800;
+  } else if ((lead & 0xF8U) == 0xF0U) {
+    bytes = 4, value = lead & 0x07U, smallest = 0x10000;
+  } else {
+    return std::nullopt;
+  }
+  if (utf8.size() - at < bytes) return std::nullopt;
+  for (std::size_t i = 1; i < bytes; ++i) {
+    const unsigned char next = byte_at(utf8, at + i);
+    if (!is_continuation(next)) return std::nullopt;
+    value = (value << 6U) | (next & 0x3FU);
+  }
+  const bool surrogate = value >= 0xD800 && value <= 0xDFFF;
+  if (value < smallest || surrogate || value > 0x10FFFF) return std::nullopt;
+  return CodePoint{value, bytes};
+}
+
+CodePoint last_code_point(std::string_view utf8) {
+  std::size_t at = utf8.size() - 1;
+  while (at > 0 && is_continuation(byte_at(utf8, at))) --at;
+  return decode(utf8, at).value_or(CodePoint{byte_at(utf8, at), utf8.size() - at});
+}
+
+bool is_valid(std::string_view bytes) {
+  std::size_t at = 0;
+  while (true) {
+    at += ascii_run(bytes, at);
+    if (at == bytes.size()) return true;
+    const auto code_point = decode(bytes, at);
+    if (!code_point) return false;
+    at += code_point->bytes;
+  }
+}
+
+void append(std::string& utf8, char32_t code_point) {
+  const auto tail = [&](unsigned shift) { utf8.push_back(static_cast<char>(0x80U | ((code_point >> shift) & 0x3FU))); };
+  if (code_point < 0x80) {
+    utf8.push_back(static_cast<char>(code_point));
+  } else if (code_point < 0x800) {
+    utf8.push_back(static_cast<char>(0xC0U | (code_point >> 6U)));
+    tail(0);
+  } else if (code_point < 0x10000) {
+    utf8.push_back(static_cast<char>(0xE0U | (code_point >> 12U)));
+    tail(6), tail(0);
+  } else {
+    utf8.push_back(static_cast<char>(0xF0U | (code_point >> 18U)));
+    tail(12), tail(6), tail(0);
+  }
+}
+
+std::string_view first_characters(std::string_view utf8, std::size_t count) {
+  std::size_t at = 0;
+  for (; count > 0 && at < utf8.size(); --count) {
+    const auto code_point = decode(utf8, at);
+    at += code_point ? code_point->bytes : 1;
+  }
+  return utf8.substr(0, at);
+}
+
+bool is_white_space(char32_t code_point) {
+  return std::binary_search(std::begin(kWhiteSpace), std::end(kWhiteSpace), code_point);
+}
+
+std::size_t white_space_at(std::string_view utf8, std::size_t at) {
+  const unsigned char lead = byte_at(utf8, at);
+  if (is_ascii(lead)) return is_ascii_white_space(lead) ? 1 : 0;
+  const auto code_point = decode(utf8, at);
+  return code_point && is_white_space(code_point->value) ? code_point->bytes : 0;
+}
+
+std::string_view trim(std::string_view utf8) {
+  while (!utf8.empty()) {
+    const std::size_t bytes = white_space_at(utf8, 0);
+    if (bytes == 0) break;
+    utf8.remove_prefix(bytes);
+  }
+  while (!utf8.empty()) {
+    const unsigned char last = byte_at(utf8, utf8.size() - 1);
+    if (is_ascii(last)) {
+      if (!is_ascii_white_space(last)) break;
+      utf8.remove_suffix(1);
+    } else {
+      const CodePoint code_point = last_code_point(utf8);
+      if (!is_white_space(code_point.value)) break;
+      utf8.remove_suffix(code_point.bytes);
+    }
+  }
+  return utf8;
+}
+
+std::optional<int> digit_value(char32_t code_point) {
+  // Digits of a script stand in tens, so the table holds each ten's zero.
+  const auto* next = std::upper_bound(std::begin(kDigitZeros), std::end(kDigitZeros), code_point);
+  if (next == std::begin(kDigitZeros)) return std::nullopt;
+  const char32_t zero = *std::prev(next);
+  if (code_point - zero > 9) return std::nullopt;
+  return static_cast<int>(code_point - zero);
+}
+
+}  // namespace vexo_xyz_impl::text
