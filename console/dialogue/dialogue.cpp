@@ -1,0 +1,144 @@
+#include "console/dialogue/dialogue.h"
+
+#include <algorithm>
+#include <ostream>
+
+#include "vexo_xyz_impl/command/keywords.h"
+#include "vexo_xyz_impl/host/messages.h"
+#include "vexo_xyz_impl/text/utf8.h"
+
+namespace console {
+
+using namespace vexo_xyz_impl::host;  // NOLINT(google-build-using-namespace): the interface that is implemented
+namespace text = vexo_xyz_impl::text;
+
+namespace {
+
+constexpr std::string_view kReplacement = "\xEF\xBF\xBD";
+
+char lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
+
+// Letter case of ASCII aside; keywords are chosen so that nothing else is needed to tell them apart.
+bool begins_with(std::string_view word, std::string_view beginning) {
+  return word.size() >= beginning.size() && std::equal(beginning.begin(), beginning.end(), word.begin(),
+                                                       [](char a, char b) { return lower(a) == lower(b); });
+}
+
+std::vector<std::string> split_at_blanks(std::string_view words) {
+  std::vector<std::string> split;
+  while (!words.empty()) {
+    const std::size_t end = std::min(words.find(' '), words.size());
+    if (end > 0) split.emplace_back(words.substr(0, end));
+    words.remove_prefix(std::min(end + 1, words.size()));
+  }
+  return split;
+}
+
+// The keywords that an answer may mean: one that it equals, or all that it begins.
+std::vector<std::string> matches(const std::vector<std::string>& keywords, std::string_view answer) {
+  std::vector<std::string> found;
+  for (const std::string& word : keywords) {
+    if (!begins_with(word, answer)) continue;
+    if (word.size() == answer.size()) return {word};
+    found.push_back(word);
+  }
+  return found;
+}
+
+bool may_be_shown(char32_t code_point) {
+  return code_point == '\n' || code_point == '\t' ||
+         (code_point >= 0x20 && code_point != 0x7F && !(code_point >= 0x80 && code_point < 0xA0));
+}
+
+}  // namespace
+
+std::string without_control_characters(std::string_view raw) {
+  std::string shown;
+  shown.reserve(raw.size());
+  for (std::size_t at = 0; at < raw.size();) {
+    const auto code_point = text::decode(raw, at);
+    const std::size_t bytes = code_point ? code_point->bytes : 1;
+    shown += code_point && may_be_shown(code_point->value) ? raw.substr(at, bytes) : kReplacement;
+    at += bytes;
+  }
+  return shown;
+}
+
+Dialogue::Dialogue(LineSource& lines, std::ostream& out, SystemVariables& variables, std::optional<std::string> file,
+                   std::vector<PreparedAnswer> answers)
+    : lines_(lines), out_(out), variables_(variables), file_(std::move(file)), answers_(std::move(answers)) {}
+
+PromptStatus Dialogue::gcedGetFileD(std::string_view /*title*/, std::string_view /*default_name*/,
+                                    std::string_view /*filter*/, int /*flags*/, resbuf& chosen) {
+  // There are no windows here: without a file given beforehand the command goes on to the typed path.
+  chosen.restype = RTSTR;
+  chosen.resval.rstring = path_ = file_.value_or(std::string());
+  return RTNORM;
+}
+
+std::pair<PromptStatus, std::string> Dialogue::gcedGetString(int /*spaces_allowed*/, std::string_view prompt) {
+  auto typed = lines_.read_line(prompt, Completion::file_names);
+  if (!typed) return {RTCAN, {}};
+  path_ = *typed;
+  return {RTNORM, std::move(*typed)};
+}
+
+PromptStatus Dialogue::gcedInitGet(int /*flags*/, std::string_view keywords) {
+  keywords_ = split_at_blanks(keywords);
+  return RTNORM;
+}
+
+std::pair<PromptStatus, std::string> Dialogue::gcedGetKword(std::string_view prompt) {
+  if (auto word = prepared_word()) {
+    gcutPrintf(std::string(prompt) + *word + "\n");
+    return {RTNORM, std::move(*word)};
+  }
+  while (true) {
+    const auto typed = lines_.read_line(without_control_characters(prompt), Completion::none);
+    if (!typed) return {RTCAN, {}};
+    const std::string answer(text::trim(*typed));
+    if (answer.empty()) return {RTNONE, {}};
+    auto meant = matches(keywords_, answer);
+    if (meant.size() == 1) return {RTNORM, std::move(meant.front())};
+    explain(answer, meant.size());
+  }
+}
+
+std::optional<std::string> Dialogue::prepared_word() {
+  for (PreparedAnswer& answer : answers_) {
+    std::string word = vexo_xyz_impl::_slowo(answer.symbol);
+    if (std::find(keywords_.begin(), keywords_.end(), word) == keywords_.end()) continue;
+    answer.used = true;
+    return word;
+  }
+  return std::nullopt;
+}
+
+void Dialogue::explain(const std::string& answer, std::size_t matches) {
+  std::string words;
+  for (const std::string& word : keywords_) words += (words.empty() ? "" : ", ") + word;
+  gcutPrintf(vexo_xyz_impl::filled(matches == 0 ? "konsola.zle_slowo" : "konsola.niejasne_slowo",
+                                   {std::string_view(answer), std::string_view(words)}));
+}
+
+void Dialogue::gcutPrintf(std::string_view text) { out_ << without_control_characters(text) << std::flush; }
+
+PromptStatus Dialogue::gcedSetVar(std::string_view name, const resbuf& value) {
+  if (name == "PDMODE" && value.restype == RTSHORT) {
+    variables_.PDMODE = value.resval.rint;
+  } else if (name == "PDSIZE" && value.restype == RTREAL) {
+    variables_.PDSIZE = value.resval.rreal;
+  } else {
+    return RTERROR;
+  }
+  return RTNORM;
+}
+
+std::vector<std::string_view> Dialogue::unused_options() const {
+  std::vector<std::string_view> options;
+  for (const PreparedAnswer& answer : answers_)
+    if (!answer.used) options.push_back(answer.option);
+  return options;
+}
+
+}  // namespace console

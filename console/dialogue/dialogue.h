@@ -1,0 +1,68 @@
+// The host's command line at a terminal or in a pipe: prompts, keywords, printing.
+//
+// Keywords may be typed whole or by any unambiguous beginning, letter case aside; Enter is the default, a wrong word
+// is explained and asked again, the end of input, Ctrl-D and Escape are Escape. Answers given beforehand are used
+// where their question is asked; nothing is ever answered by a guess.
+#pragma once
+
+#include <iosfwd>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "console/dialogue/line_source.h"
+#include "console/drawing/drawing.h"
+#include "vexo_xyz_impl/host/command_line.h"
+
+namespace console {
+
+/// An answer given beforehand, by the symbol of the command's question.
+struct PreparedAnswer {
+  std::string_view option;  ///< as the user wrote it, for messages
+  std::string_view symbol;
+  bool used = false;
+};
+
+class Dialogue final : public vexo_xyz_impl::host::CommandLine {
+ public:
+  /// `file` answers the file dialog; without it the path is typed. Everything referred to outlives the dialogue.
+  Dialogue(LineSource& lines, std::ostream& out, SystemVariables& variables, std::optional<std::string> file,
+           std::vector<PreparedAnswer> answers);
+
+  vexo_xyz_impl::host::PromptStatus gcedGetFileD(std::string_view title, std::string_view default_name,
+                                                 std::string_view filter, int flags,
+                                                 vexo_xyz_impl::host::resbuf& chosen) override;
+  std::pair<vexo_xyz_impl::host::PromptStatus, std::string> gcedGetString(int spaces_allowed,
+                                                                          std::string_view prompt) override;
+  vexo_xyz_impl::host::PromptStatus gcedInitGet(int flags, std::string_view keywords) override;
+  std::pair<vexo_xyz_impl::host::PromptStatus, std::string> gcedGetKword(std::string_view prompt) override;
+  void gcutPrintf(std::string_view text) override;
+  vexo_xyz_impl::host::PromptStatus gcedSetVar(std::string_view name,
+                                               const vexo_xyz_impl::host::resbuf& value) override;
+
+  /// Path of the file that was asked for, given or typed; as the command was told it.
+  [[nodiscard]] const std::string& path() const { return path_; }
+
+  /// Options whose question was never asked.
+  [[nodiscard]] std::vector<std::string_view> unused_options() const;
+
+ private:
+  [[nodiscard]] std::optional<std::string> prepared_word();
+  void explain(const std::string& answer, std::size_t matches);
+
+  LineSource& lines_;
+  std::ostream& out_;
+  SystemVariables& variables_;
+  std::optional<std::string> file_;
+  std::vector<PreparedAnswer> answers_;
+  std::string path_;
+  std::vector<std::string> keywords_;
+};
+
+/// A text as it may go to a terminal: control characters other than line ends and tabs, which could steer it, are
+/// replaced by U+FFFD, and so is what is not UTF-8.
+[[nodiscard]] std::string without_control_characters(std::string_view raw);
+
+}  // namespace console

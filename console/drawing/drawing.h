@@ -1,0 +1,141 @@
+// The drawing: what a DXF file holds of it, as plain data with the few rules that keep it sound.
+//
+// Every object has a handle, unique in the drawing and never used again. Opening and closing, and whatever else a
+// host's interface is about, belong to the database (database.h).
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <deque>
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+#include "siblings/vexo_reaktywne_core/reaktywne_core.h"
+#include "vexo_xyz_impl/host/values.h"
+
+namespace console {
+
+using Handle = std::uint64_t;
+using Position = vexo_xyz_impl::host::GcGePoint3d;
+
+/// Handles of the objects that every drawing has; those of everything else begin behind them.
+enum class Fixed : Handle {
+  vport_table = 1,
+  ltype_table,
+  layer_table,
+  style_table,
+  view_table,
+  ucs_table,
+  appid_table,
+  dimstyle_table,
+  block_record_table,
+  active_vport,
+  ltype_by_block,
+  ltype_by_layer,
+  ltype_continuous,
+  layer_0,
+  style_standard,
+  appid_acad,
+  appid_vexo,
+  dimstyle_standard,
+  model_space,
+  paper_space,
+  model_space_block,
+  model_space_endblk,
+  paper_space_block,
+  paper_space_endblk,
+  root_dictionary,
+  group_dictionary,
+  layout_dictionary,
+  model_layout,
+  paper_layout,
+  block_table,  // of the interface only; a file shows its records
+  first_free = 0x40,
+};
+
+constexpr Handle handle_of(Fixed object) { return static_cast<Handle>(object); }
+
+struct PointGeometry {
+  Position position;
+};
+
+struct TextGeometry {
+  Position position;
+  double height = 0.0;
+  Handle style = handle_of(Fixed::style_standard);
+  std::string text;
+};
+
+/// An entity of model space on layer 0.
+struct Entity {
+  Handle handle = 0;  ///< 0 until it belongs to a drawing
+  std::variant<PointGeometry, TextGeometry> geometry;
+};
+
+struct TextStyle {
+  Handle handle;
+  std::string name;
+  std::string font_file;
+};
+
+struct Group {
+  Handle handle = 0;  ///< 0 until it belongs to a drawing
+  std::string name;
+  std::string description;
+  bool selectable = true;
+  std::vector<Handle> members;
+};
+
+/// System variables that are part of the drawing.
+struct SystemVariables {
+  std::int16_t PDMODE = 0;
+  double PDSIZE = 0.0;
+};
+
+class Drawing {
+ public:
+  /// Takes the entity into model space and gives it its handle; empty when its geometry is not finite or a text has
+  /// no height.
+  std::optional<Handle> add(Entity entity);
+
+  /// Takes the group in under its name; empty when the name is empty or taken, letter case aside.
+  std::optional<Handle> add(Group group);
+
+  /// The handle of the text style, made when the drawing has none of that name.
+  Handle ensure_text_style(std::string_view name, std::string_view font_file);
+
+  /// Keeps a control record on an entity, in the place of an earlier one.
+  void keep(Handle entity, vexo_reaktywne_core::ControlRecord record);
+
+  /// The entity or group of that handle; nullptr when there is none.
+  [[nodiscard]] Entity* entity(Handle handle);
+  [[nodiscard]] const Entity* entity(Handle handle) const;
+  [[nodiscard]] Group* group(Handle handle);
+  [[nodiscard]] bool has_group(std::string_view name) const;
+  [[nodiscard]] const vexo_reaktywne_core::ControlRecord* control_record(Handle entity) const;
+
+  [[nodiscard]] const std::deque<Entity>& entities() const { return entities_; }  ///< in the order they were added
+  [[nodiscard]] const std::deque<Group>& groups() const { return groups_; }
+  [[nodiscard]] const std::vector<TextStyle>& text_styles() const { return text_styles_; }
+  [[nodiscard]] Handle next_handle() const { return next_handle_; }  ///< above every handle in use
+
+  SystemVariables variables;
+
+ private:
+  Handle new_handle() { return next_handle_++; }
+  [[nodiscard]] std::optional<std::size_t> entity_index(Handle handle) const;
+
+  Handle next_handle_ = handle_of(Fixed::first_free);
+  std::deque<Entity> entities_;
+  std::vector<std::uint32_t> entity_slots_;  // by handle above first_free: index into entities_ plus 1, or 0
+  std::deque<Group> groups_;
+  std::map<std::string, Handle> group_names_;  // in lower case
+  std::vector<TextStyle> text_styles_;
+  std::map<Handle, vexo_reaktywne_core::ControlRecord> control_records_;
+};
+
+}  // namespace console

@@ -1,0 +1,225 @@
+// Everything around the entities that does not depend on what was imported, but for the extents and text styles.
+#include <algorithm>
+#include <string>
+#include <variant>
+
+#include "console/dxf/sections.h"
+
+namespace console {
+namespace {
+
+constexpr double kViewAspect = 1.6;     // width to height of an ordinary screen
+constexpr double kViewMargin = 1.15;    // of the extents' height
+constexpr double kSmallestView = 25.0;  // metres of height around a single point
+
+Handle at(Fixed object) { return handle_of(object); }
+
+void begin_section(TagWriter& tags, std::string_view name) {
+  tags.lines("0\nSECTION\n");
+  tags.text(2, name);
+}
+
+void end_section(TagWriter& tags) { tags.lines("0\nENDSEC\n"); }
+
+void begin_table(TagWriter& tags, std::string_view name, Fixed handle, std::size_t records) {
+  tags.lines("0\nTABLE\n");
+  tags.text(2, name);
+  tags.handle(5, at(handle));
+  tags.lines("330\n0\n100\nAcDbSymbolTable\n");
+  tags.whole(70, static_cast<long long>(records));
+}
+
+void end_table(TagWriter& tags) { tags.lines("0\nENDTAB\n"); }
+
+// The part that all records of symbol tables share; `handle_code` is 105 in DIMSTYLE and 5 elsewhere.
+void begin_record(TagWriter& tags, std::string_view kind, Handle handle, Fixed owner, std::string_view subclass,
+                  std::string_view name, int handle_code = 5) {
+  tags.text(0, kind);
+  tags.handle(handle_code, handle);
+  tags.handle(330, at(owner));
+  tags.lines("100\nAcDbSymbolTableRecord\n");
+  tags.text(100, subclass);
+  tags.text(2, name);
+}
+
+void write_viewport_table(TagWriter& tags, const Extents& extents) {
+  const double width = extents.largest.x - extents.smallest.x;
+  const double height = std::max(extents.largest.y - extents.smallest.y, width / kViewAspect);
+  const double view_height = std::max(height * kViewMargin, kSmallestView);
+  const double centre_x = extents.smallest.x + width / 2.0;
+  const double centre_y = (extents.smallest.y + extents.largest.y) / 2.0;
+  // The view's centre (12, 22) counts from its target (17, 27). One reader forgets the target and takes twice the
+  // centre less half the view for the middle of the screen; this split shows the points there too.
+  const double offset_x = centre_x / 2.0 + view_height * kViewAspect / 4.0;
+  const double offset_y = centre_y / 2.0 + view_height / 4.0;
+
+  begin_table(tags, "VPORT", Fixed::vport_table, 1);
+  begin_record(tags, "VPORT", at(Fixed::active_vport), Fixed::vport_table, "AcDbViewportTableRecord", "*ACTIVE");
+  tags.lines("70\n0\n10\n0.0\n20\n0.0\n11\n1.0\n21\n1.0\n");
+  tags.real(12, offset_x);
+  tags.real(22, offset_y);
+  tags.lines("13\n0.0\n23\n0.0\n14\n10.0\n24\n10.0\n15\n10.0\n25\n10.0\n16\n0.0\n26\n0.0\n36\n1.0\n");
+  tags.real(17, centre_x - offset_x);
+  tags.real(27, centre_y - offset_y);
+  tags.lines("37\n0.0\n");
+  tags.real(40, view_height);
+  tags.real(41, kViewAspect);
+  tags.lines(
+      "42\n50.0\n43\n0.0\n44\n0.0\n50\n0.0\n51\n0.0\n71\n0\n72\n1000\n73\n1\n74\n3\n75\n0\n76\n0\n77\n0\n78\n0\n");
+  end_table(tags);
+}
+
+void write_line_type_table(TagWriter& tags) {
+  begin_table(tags, "LTYPE", Fixed::ltype_table, 3);
+  const auto line_type = [&](Fixed handle, std::string_view name, std::string_view description) {
+    begin_record(tags, "LTYPE", at(handle), Fixed::ltype_table, "AcDbLinetypeTableRecord", name);
+    tags.lines("70\n0\n");
+    tags.text(3, description);
+    tags.lines("72\n65\n73\n0\n40\n0.0\n");
+  };
+  line_type(Fixed::ltype_by_block, "ByBlock", "");
+  line_type(Fixed::ltype_by_layer, "ByLayer", "");
+  line_type(Fixed::ltype_continuous, "Continuous", "Solid line");
+  end_table(tags);
+}
+
+void write_layer_table(TagWriter& tags) {
+  begin_table(tags, "LAYER", Fixed::layer_table, 1);
+  begin_record(tags, "LAYER", at(Fixed::layer_0), Fixed::layer_table, "AcDbLayerTableRecord", "0");
+  tags.lines("70\n0\n62\n7\n6\nContinuous\n370\n-3\n");
+  end_table(tags);
+}
+
+void write_style_table(TagWriter& tags, const Drawing& drawing) {
+  begin_table(tags, "STYLE", Fixed::style_table, 1 + drawing.text_styles().size());
+  const auto style = [&](Handle handle, std::string_view name, std::string_view font_file) {
+    begin_record(tags, "STYLE", handle, Fixed::style_table, "AcDbTextStyleTableRecord", name);
+    tags.lines("70\n0\n40\n0.0\n41\n1.0\n50\n0.0\n71\n0\n42\n2.5\n");
+    tags.text(3, font_file);
+    tags.lines("4\n\n");
+  };
+  style(at(Fixed::style_standard), "Standard", "txt");
+  for (const TextStyle& own : drawing.text_styles()) style(own.handle, own.name, own.font_file);
+  end_table(tags);
+}
+
+void write_application_table(TagWriter& tags) {
+  begin_table(tags, "APPID", Fixed::appid_table, 2);
+  const auto application = [&](Fixed handle, std::string_view name) {
+    begin_record(tags, "APPID", at(handle), Fixed::appid_table, "AcDbRegAppTableRecord", name);
+    tags.lines("70\n0\n");
+  };
+  application(Fixed::appid_acad, "ACAD");
+  application(Fixed::appid_vexo, vexo_reaktywne_core::kApplication);
+  end_table(tags);
+}
+
+void write_dimension_style_table(TagWriter& tags) {
+  begin_table(tags, "DIMSTYLE", Fixed::dimstyle_table, 1);
+  tags.lines("100\nAcDbDimStyleTable\n71\n0\n");
+  begin_record(tags, "DIMSTYLE", at(Fixed::dimstyle_standard), Fixed::dimstyle_table, "AcDbDimStyleTableRecord",
+               "Standard", 105);
+  tags.lines("70\n0\n");
+  tags.handle(340, at(Fixed::style_standard));
+  end_table(tags);
+}
+
+void write_block_record_table(TagWriter& tags) {
+  begin_table(tags, "BLOCK_RECORD", Fixed::block_record_table, 2);
+  const auto block = [&](Fixed handle, std::string_view name, Fixed layout) {
+    begin_record(tags, "BLOCK_RECORD", at(handle), Fixed::block_record_table, "AcDbBlockTableRecord", name);
+    tags.handle(340, at(layout));
+    tags.lines("70\n6\n280\n1\n281\n0\n");
+  };
+  block(Fixed::model_space, "*Model_Space", Fixed::model_layout);
+  block(Fixed::paper_space, "*Paper_Space", Fixed::paper_layout);
+  end_table(tags);
+}
+
+void write_block(TagWriter& tags, std::string_view name, Fixed record, Fixed begin, Fixed end, bool paper) {
+  const auto common = [&](std::string_view kind, Fixed handle) {
+    tags.text(0, kind);
+    tags.handle(5, at(handle));
+    tags.handle(330, at(record));
+    tags.lines("100\nAcDbEntity\n");
+    if (paper) tags.lines("67\n1\n");
+    tags.lines("8\n0\n");
+  };
+  common("BLOCK", begin);
+  tags.lines("100\nAcDbBlockBegin\n");
+  tags.text(2, name);
+  tags.lines("70\n0\n10\n0.0\n20\n0.0\n30\n0.0\n");
+  tags.text(3, name);
+  tags.lines("1\n\n");
+  common("ENDBLK", end);
+  tags.lines("100\nAcDbBlockEnd\n");
+}
+
+}  // namespace
+
+Extents extents_of(const Drawing& drawing) {
+  const auto position_of = [](const Entity& entity) {
+    return std::visit([](const auto& geometry) { return geometry.position; }, entity.geometry);
+  };
+  if (drawing.entities().empty()) return {{0.0, 0.0, 0.0}, {1.0, 1.0, 0.0}};
+  Extents extents{position_of(drawing.entities().front()), position_of(drawing.entities().front())};
+  const auto widen = [](double value, double& smallest, double& largest) {
+    smallest = std::min(smallest, value);
+    largest = std::max(largest, value);
+  };
+  for (const Entity& entity : drawing.entities()) {
+    const Position position = position_of(entity);
+    widen(position.x, extents.smallest.x, extents.largest.x);
+    widen(position.y, extents.smallest.y, extents.largest.y);
+    widen(position.z, extents.smallest.z, extents.largest.z);
+  }
+  return extents;
+}
+
+void write_header(TagWriter& tags, const Drawing& drawing, const Extents& extents, std::string_view code_page) {
+  begin_section(tags, "HEADER");
+  tags.lines("9\n$ACADVER\n1\nAC1021\n9\n$DWGCODEPAGE\n");
+  tags.text(3, code_page);
+  tags.lines("9\n$INSBASE\n10\n0.0\n20\n0.0\n30\n0.0\n9\n$EXTMIN\n");
+  tags.position(10, extents.smallest);
+  tags.lines("9\n$EXTMAX\n");
+  tags.position(10, extents.largest);
+  tags.lines("9\n$PDMODE\n");
+  tags.whole(70, drawing.variables.PDMODE);
+  tags.lines("9\n$PDSIZE\n");
+  tags.real(40, drawing.variables.PDSIZE);
+  tags.lines("9\n$MEASUREMENT\n70\n1\n9\n$INSUNITS\n70\n6\n9\n$HANDSEED\n");  // metric, metres
+  tags.handle(5, drawing.next_handle());
+  end_section(tags);
+}
+
+void write_classes(TagWriter& tags) {
+  begin_section(tags, "CLASSES");
+  tags.lines("0\nCLASS\n1\nLAYOUT\n2\nAcDbLayout\n3\nObjectDBX Classes\n90\n0\n91\n2\n280\n0\n281\n0\n");
+  end_section(tags);
+}
+
+void write_tables(TagWriter& tags, const Drawing& drawing, const Extents& extents) {
+  begin_section(tags, "TABLES");
+  write_viewport_table(tags, extents);
+  write_line_type_table(tags);
+  write_layer_table(tags);
+  write_style_table(tags, drawing);
+  begin_table(tags, "VIEW", Fixed::view_table, 0);
+  end_table(tags);
+  begin_table(tags, "UCS", Fixed::ucs_table, 0);
+  end_table(tags);
+  write_application_table(tags);
+  write_dimension_style_table(tags);
+  write_block_record_table(tags);
+  end_section(tags);
+}
+
+void write_blocks(TagWriter& tags) {
+  begin_section(tags, "BLOCKS");
+  write_block(tags, "*Model_Space", Fixed::model_space, Fixed::model_space_block, Fixed::model_space_endblk, false);
+  write_block(tags, "*Paper_Space", Fixed::paper_space, Fixed::paper_space_block, Fixed::paper_space_endblk, true);
+  end_section(tags);
+}
+
+}  // namespace console

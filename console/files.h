@@ -1,0 +1,43 @@
+// Files of the console: a drawing written whole or not at all, names that are free.
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+#include "console/dxf/tag_writer.h"
+
+namespace console {
+
+/// A file that appears under its name only when it is complete.
+///
+/// Bytes go to a temporary file beside the target; `commit` flushes them to the disk and renames. Without a commit, and
+/// when the program is interrupted by a signal, the temporary file is removed. Every operation fails with
+/// std::system_error, whose message says what could not be done.
+class AtomicFile final : public ByteSink {
+ public:
+  /// Creates the temporary file in the folder where the target is to stand.
+  explicit AtomicFile(const std::filesystem::path& folder);
+  AtomicFile(const AtomicFile&) = delete;
+  AtomicFile& operator=(const AtomicFile&) = delete;
+  ~AtomicFile() override;
+
+  void write(std::string_view bytes) override;
+
+  /// Makes sure that all bytes are on the disk; nothing may be written after it.
+  void flush();
+
+  /// Gives the flushed file its name. With `replace` an existing file of that name is replaced; else false is returned
+  /// when there is one, and another name may be tried.
+  [[nodiscard]] bool commit(const std::filesystem::path& target, bool replace);
+
+ private:
+  std::string temporary_;
+  int descriptor_;
+  std::size_t unflushed_ = 0;  // bytes since the kernel was last asked to write behind
+};
+
+/// `stem`.dxf beside the file at `path`, `stem`_2.dxf and so on for `number` 2 and up.
+[[nodiscard]] std::filesystem::path drawing_name(const std::filesystem::path& path, int number);
+
+}  // namespace console

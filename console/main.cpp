@@ -1,0 +1,116 @@
+// The stand-alone program: arguments, the terminal, exit codes.
+#include <clocale>
+#include <csignal>
+#include <cstring>
+#include <exception>
+#include <iostream>
+#include <memory>
+#include <string>
+
+#include <CLI/CLI.hpp>
+#include <langinfo.h>
+#include <unistd.h>
+
+#include "console/session.h"
+#include "vexo_xyz_impl/command/keywords.h"
+#include "vexo_xyz_impl/failure.h"
+
+namespace {
+
+constexpr const char* kVersion = "vexo-xyz 0.1";
+
+constexpr const char* kFooter =
+    "Questions are answered by a keyword or any beginning of it that fits only one; Enter takes the default, Escape "
+    "or\n"
+    "the end of input cancels. Answers may be piped in, a line each.\n"
+    "\n"
+    "Exit codes:\n"
+    "  0  points were imported and the drawing was saved\n"
+    "  1  nothing was imported: cancelled, or the file holds no points\n"
+    "  2  the command line was not understood\n"
+    "  3  failure: a file that cannot be read, a drawing that cannot be saved, an error during the import";
+
+struct Arguments {
+  std::string file;
+  std::string output;
+  bool force = false;
+  std::string first_column;
+  std::string axes;
+  std::string market;
+};
+
+void declare(CLI::App& app, Arguments& arguments) {
+  app.set_version_flag("--version", kVersion);
+  app.footer(kFooter);
+  app.add_option("FILE", arguments.file, "File of surveyed points: delimited text. Without it the path is asked for");
+  app.add_option("-o,--output", arguments.output,
+                 "Drawing to write. Default: beside FILE, with its name, or the next free one (_2, _3 ...)")
+      ->type_name("OUT.dxf");
+  app.add_flag("--force", arguments.force, "Replace the drawing given by -o if it exists");
+  app.add_option("--first-column", arguments.first_column,
+                 "What the first column holds, should the file not tell: 'number' or 'coordinate'")
+      ->type_name("WHAT")
+      ->check(CLI::IsMember({"number", "coordinate"}));
+  app.add_option("--axes", arguments.axes,
+                 "What to do with X and Y, should more than one reading fit: 'keep' or 'swap'")
+      ->type_name("WHAT")
+      ->check(CLI::IsMember({"keep", "swap"}));
+  app.add_option("--market", arguments.market,
+                 "Country whose coordinate systems are tried. Default: $VEXO_RYNEK, else PL")
+      ->type_name("PL|DE|RO")
+      ->check(CLI::IsMember({"PL", "DE", "RO"}));
+}
+
+console::SessionOptions options_of(const CLI::App& app, const Arguments& arguments) {
+  console::SessionOptions options;
+  if (app.count("FILE") > 0) options.file = arguments.file;
+  if (app.count("-o") > 0) options.output = arguments.output;
+  options.force = arguments.force;
+  options.market = arguments.market;
+  if (!arguments.first_column.empty()) {
+    options.answers.push_back(
+        {"--first-column", arguments.first_column == "number" ? vexo_xyz_impl::kNumer : vexo_xyz_impl::kWspolrzedna});
+  }
+  if (!arguments.axes.empty()) {
+    options.answers.push_back({"--axes", arguments.axes == "keep" ? vexo_xyz_impl::kTak : vexo_xyz_impl::kZamien});
+  }
+  return options;
+}
+
+// Texts are UTF-8 throughout; only the editing of typed lines asks the locale, and a bare system has none of its own.
+void use_utf8_locale() {
+  if (std::setlocale(LC_CTYPE, "") != nullptr && std::strcmp(nl_langinfo(CODESET), "UTF-8") == 0) return;
+  std::setlocale(LC_CTYPE, "C.UTF-8");
+}
+
+int run(const console::SessionOptions& options) {
+  const bool terminal = isatty(STDIN_FILENO) != 0 && isatty(STDOUT_FILENO) != 0;
+  const auto lines = terminal ? console::lines_of_terminal(std::cout) : console::lines_of_stream(std::cin, std::cout);
+  return console::Session(options, *lines, std::cout).run();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  // A reader that went away or a size limit is an error of writing, not the end of the program.
+  std::signal(SIGPIPE, SIG_IGN);
+  std::signal(SIGXFSZ, SIG_IGN);
+  use_utf8_locale();
+
+  CLI::App app("Imports a file of surveyed points into a new drawing: a point and its number for each row.",
+               "vexo-xyz");
+  Arguments arguments;
+  try {
+    declare(app, arguments);
+    app.parse(argc, argv);
+  } catch (const CLI::ParseError& error) {
+    return app.exit(error) == 0 ? console::kImported : console::kUsage;
+  }
+  try {
+    return run(options_of(app, arguments));
+  } catch (const std::exception& failure) {
+    const auto [kind, text] = vexo_xyz_impl::describe(failure);
+    std::cerr << "vexo-xyz: " << kind << ": " << text << '\n';
+    return console::kFailure;
+  }
+}

@@ -1,0 +1,92 @@
+#include "console/session.h"
+
+#include <cerrno>
+#include <system_error>
+#include <utility>
+
+#include "console/dxf/dxf_writer.h"
+#include "console/files.h"
+#include "vexo_xyz_impl/command/module.h"
+#include "vexo_xyz_impl/command/questions.h"
+#include "vexo_xyz_impl/host/messages.h"
+
+namespace console {
+namespace {
+
+using vexo_xyz_impl::host::CommandOutcome;
+
+constexpr int kMostNames = 10000;  // drawings of one name in one folder
+
+// The code page that converters expect of a drawing in the market's language.
+std::string_view code_page_of(std::string_view market) { return market == "DE" ? "ANSI_1252" : "ANSI_1250"; }
+
+}  // namespace
+
+Session::Session(SessionOptions options, LineSource& lines, std::ostream& out)
+    : options_(std::move(options)),
+      dialogue_(lines, out, database_.drawing().variables, options_.file, options_.answers) {
+  add_family(siblings_, database_, options_.market);
+  vexo_xyz_impl::load_module({dialogue_, *this, database_, siblings_});
+}
+
+void Session::command(std::string_view local_name, std::string_view /*global_name*/, std::string_view /*group_name*/,
+                      vexo_xyz_impl::host::CommandFunction function) {
+  if (local_name == vexo_xyz_impl::kCommandName) import_ = std::move(function);
+}
+
+ExitCode Session::run() {
+  std::error_code ignored;
+  if (options_.output && !options_.force && std::filesystem::exists(*options_.output, ignored)) {
+    say("konsola.plik_istnieje", {options_.output->string()});
+    return kFailure;
+  }
+  const CommandOutcome outcome = import_();
+  for (const std::string_view option : dialogue_.unused_options()) say("konsola.opcja_zbedna", {std::string(option)});
+  if (outcome == CommandOutcome::failed) {
+    if (!database_.drawing().entities().empty()) say("konsola.nie_zapisano", {});
+    return kFailure;
+  }
+  if (outcome == CommandOutcome::nothing_done) return kNothingImported;
+  if (database_.refused_count() > 0) {
+    dialogue_.gcutPrintf(
+        vexo_xyz_impl::filled("konsola.odrzucone", {static_cast<long long>(database_.refused_count())}));
+  }
+  return database_.drawing().entities().empty() ? kNothingImported : save();
+}
+
+ExitCode Session::save() {
+  const std::string wanted = options_.output ? options_.output->string()
+                                             : drawing_name(vexo_xyz_impl::clean_path(dialogue_.path()), 1).string();
+  try {
+    say("konsola.zapisano", {write_drawing().string()});
+    return kImported;
+  } catch (const std::system_error& failure) {
+    say("konsola.blad_zapisu", {wanted, failure.what()});
+    return kFailure;
+  }
+}
+
+std::filesystem::path Session::write_drawing() {
+  const std::filesystem::path source = vexo_xyz_impl::clean_path(dialogue_.path());
+  AtomicFile file(options_.output ? options_.output->parent_path() : source.parent_path());
+  const std::string market =
+      vexo_xyz_impl::host::load_sibling<vexo_xyz_impl::host::Market>(siblings_, "vexo_rynek").rynek();
+  write_dxf(database_.drawing(), code_page_of(market), file);
+  file.flush();
+  if (options_.output) {
+    if (file.commit(*options_.output, options_.force)) return *options_.output;
+    throw std::system_error(EEXIST, std::generic_category(), "renaming");
+  }
+  for (int number = 1; number <= kMostNames; ++number) {
+    std::filesystem::path name = drawing_name(source, number);
+    if (file.commit(name, false)) return name;
+  }
+  throw std::system_error(EEXIST, std::generic_category(), "finding a free name");
+}
+
+void Session::say(std::string_view key, const std::vector<std::string>& values) {
+  std::vector<vexo_xyz_impl::TemplateValue> template_values(values.begin(), values.end());
+  dialogue_.gcutPrintf(vexo_xyz_impl::filled(key, template_values));
+}
+
+}  // namespace console

@@ -1,0 +1,51 @@
+// One run of the program: a new drawing, the module loaded into the console, the command, the drawing saved.
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <iosfwd>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "console/dialogue/dialogue.h"
+#include "console/drawing/database.h"
+#include "console/sibling_registry.h"
+#include "vexo_xyz_impl/host/bindings.h"
+
+namespace console {
+
+/// What the command line asks for.
+struct SessionOptions {
+  std::optional<std::string> file;              ///< the file to import; without it the path is asked for
+  std::optional<std::filesystem::path> output;  ///< the drawing's name; without it one that is free is made
+  bool force = false;                           ///< an existing output may be replaced
+  std::string market;                           ///< "PL", "DE", "RO", or empty
+  std::vector<PreparedAnswer> answers;
+};
+
+/// Exit codes of the program.
+enum ExitCode { kImported = 0, kNothingImported = 1, kUsage = 2, kFailure = 3 };
+
+class Session final : private vexo_xyz_impl::host::CommandTable {
+ public:
+  Session(SessionOptions options, LineSource& lines, std::ostream& out);
+
+  /// Runs the command and saves the drawing when something was imported. The user has been told everything.
+  ExitCode run();
+
+ private:
+  void command(std::string_view local_name, std::string_view global_name, std::string_view group_name,
+               vexo_xyz_impl::host::CommandFunction function) override;
+  ExitCode save();
+  std::filesystem::path write_drawing();
+  void say(std::string_view key, const std::vector<std::string>& values);
+
+  SessionOptions options_;
+  Database database_;
+  Dialogue dialogue_;
+  SiblingRegistry siblings_;
+  vexo_xyz_impl::host::CommandFunction import_;
+};
+
+}  // namespace console

@@ -1,0 +1,44 @@
+#include "console/sibling_registry.h"
+
+#include <utility>
+
+#include "console/log_file.h"
+#include "siblings/vexo_boot/boot.h"
+#include "siblings/vexo_cad_core/cad_core.h"
+#include "siblings/vexo_reaktywne_core/reaktywne_core.h"
+#include "siblings/vexo_rynek/rynek.h"
+#include "siblings/vexo_stereo70/stereo70.h"
+#include "siblings/vexo_teksty/teksty.h"
+#include "siblings/vexo_xyz_dane_DE/dane.h"
+#include "siblings/vexo_xyz_dane_PL/dane.h"
+#include "siblings/vexo_xyz_dane_RO/dane.h"
+
+namespace console {
+
+void SiblingRegistry::add(std::string name, std::unique_ptr<vexo_xyz_impl::host::SiblingModule> module) {
+  modules_.insert_or_assign(std::move(name), std::move(module));
+}
+
+void SiblingRegistry::remove(std::string_view name) {
+  if (const auto found = modules_.find(name); found != modules_.end()) modules_.erase(found);
+}
+
+vexo_xyz_impl::host::SiblingModule& SiblingRegistry::load(std::string_view name) {
+  const auto found = modules_.find(name);
+  if (found != modules_.end()) return *found->second;
+  throw vexo_xyz_impl::ModuleNotFoundError("no module named '" + std::string(name) + "'");
+}
+
+void add_family(SiblingRegistry& registry, Database& database, const std::string& market) {
+  registry.add("vexo_teksty", std::make_unique<vexo_teksty::Catalogue>(vexo_teksty::polish()));
+  registry.add("vexo_rynek", std::make_unique<vexo_rynek::Market>(market));
+  registry.add("vexo_xyz_dane_PL", std::make_unique<vexo_xyz_dane_PL::Tables>());
+  registry.add("vexo_xyz_dane_DE", std::make_unique<vexo_xyz_dane_DE::Tables>());
+  registry.add("vexo_xyz_dane_RO", std::make_unique<vexo_xyz_dane_RO::Tables>());
+  registry.add("vexo_cad_core", std::make_unique<vexo_cad_core::Styling>(database));
+  registry.add("vexo_boot", std::make_unique<vexo_boot::Notices>(append_to_log));
+  registry.add("vexo_reaktywne_core", std::make_unique<vexo_reaktywne_core::ReactiveCore>(database));
+  registry.add("vexo_stereo70", std::make_unique<vexo_stereo70::Projection>());
+}
+
+}  // namespace console

@@ -1,0 +1,33 @@
+// The siblings that the stand-alone program brings along, by name.
+#pragma once
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "console/drawing/database.h"
+#include "vexo_xyz_impl/host/siblings.h"
+
+namespace console {
+
+class SiblingRegistry final : public vexo_xyz_impl::host::SiblingLoader {
+ public:
+  /// Adds a sibling, in the place of an earlier one of that name.
+  void add(std::string name, std::unique_ptr<vexo_xyz_impl::host::SiblingModule> module);
+
+  /// Takes a sibling out, as if it were not installed.
+  void remove(std::string_view name);
+
+  void own_folder_first() override {}  // nothing is looked up on a disk
+  vexo_xyz_impl::host::SiblingModule& load(std::string_view name) override;
+
+ private:
+  std::map<std::string, std::unique_ptr<vexo_xyz_impl::host::SiblingModule>, std::less<>> modules_;
+};
+
+/// Fills the registry with the whole family, working on `database`. `market` is what the user chose, or empty.
+void add_family(SiblingRegistry& registry, Database& database, const std::string& market);
+
+}  // namespace console
