@@ -53,6 +53,8 @@ enum class Fixed : Handle {
   layout_dictionary,
   model_layout,
   paper_layout,
+  plot_style_dictionary,
+  plot_style_normal,
   block_table,  // of the interface only; a file shows its records
   first_free = 0x40,
 };

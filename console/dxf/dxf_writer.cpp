@@ -12,7 +12,7 @@ void write_dxf(const Drawing& drawing, std::string_view code_page, ByteSink& sin
   write_tables(tags, drawing, extents);
   write_blocks(tags);
   write_entities(tags, drawing);
-  write_objects(tags, drawing);
+  write_objects(tags, drawing, extents);
   tags.lines("0\nEOF\n");
   tags.flush();
 }

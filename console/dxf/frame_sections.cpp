@@ -87,6 +87,7 @@ void write_layer_table(TagWriter& tags) {
   begin_table(tags, "LAYER", Fixed::layer_table, 1);
   begin_record(tags, "LAYER", at(Fixed::layer_0), Fixed::layer_table, "AcDbLayerTableRecord", "0");
   tags.lines("70\n0\n62\n7\n6\nContinuous\n370\n-3\n");
+  tags.handle(390, at(Fixed::plot_style_normal));  // a layer without one is repaired or refused
   end_table(tags);
 }
 
@@ -195,7 +196,17 @@ void write_header(TagWriter& tags, const Drawing& drawing, const Extents& extent
 
 void write_classes(TagWriter& tags) {
   begin_section(tags, "CLASSES");
-  tags.lines("0\nCLASS\n1\nLAYOUT\n2\nAcDbLayout\n3\nObjectDBX Classes\n90\n0\n91\n2\n280\n0\n281\n0\n");
+  const auto object_class = [&](std::string_view record, std::string_view class_name, int instances) {
+    tags.lines("0\nCLASS\n");
+    tags.text(1, record);
+    tags.text(2, class_name);
+    tags.lines("3\nObjectDBX Classes\n90\n0\n");
+    tags.whole(91, instances);
+    tags.lines("280\n0\n281\n0\n");
+  };
+  object_class("ACDBDICTIONARYWDFLT", "AcDbDictionaryWithDefault", 1);
+  object_class("ACDBPLACEHOLDER", "AcDbPlaceHolder", 1);
+  object_class("LAYOUT", "AcDbLayout", 2);
   end_section(tags);
 }
 

@@ -21,6 +21,6 @@ void write_classes(TagWriter& tags);
 void write_tables(TagWriter& tags, const Drawing& drawing, const Extents& extents);
 void write_blocks(TagWriter& tags);
 void write_entities(TagWriter& tags, const Drawing& drawing);
-void write_objects(TagWriter& tags, const Drawing& drawing);
+void write_objects(TagWriter& tags, const Drawing& drawing, const Extents& extents);
 
 }  // namespace console

@@ -134,7 +134,7 @@ std::string_view trim(std::string_view utf8) {
 
 std::optional<int> digit_value(char32_t code_point) {
   // Digits of a script stand in tens, so the table holds each ten's zero.
-  const auto* next = std::upper_bound(std::begin(kDigitZeros), std::end(kDigitZeros), code_point);
+  const auto next = std::upper_bound(std::begin(kDigitZeros), std::end(kDigitZeros), code_point);
   if (next == std::begin(kDigitZeros)) return std::nullopt;
   const char32_t zero = *std::prev(next);
   if (code_point - zero > 9) return std::nullopt;
