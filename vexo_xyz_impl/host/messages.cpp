@@ -3,6 +3,7 @@
 #include <cstddef>
 
 #include <fmt/args.h>
+#include <fmt/format.h>
 #include <fmt/printf.h>
 
 namespace vexo_xyz_impl {
@@ -44,7 +45,7 @@ std::optional<std::vector<Conversion>> conversions(std::string_view tpl) {
 bool takes(Conversion conversion, const TemplateValue& value) {
   switch (conversion) {
     case Conversion::text:
-      return true;  // %s shows any value
+      return true;
     case Conversion::whole:
       return std::holds_alternative<long long>(value);
     case Conversion::real:
@@ -61,7 +62,14 @@ std::optional<std::string> try_fill(std::string_view tpl, const std::vector<Temp
   fmt::dynamic_format_arg_store<fmt::printf_context> arguments;
   for (std::size_t i = 0; i < values.size(); ++i) {
     if (!takes((*wanted)[i], values[i])) return std::nullopt;
-    std::visit([&](const auto& value) { arguments.push_back(value); }, values[i]);
+    const auto pass = [&](const auto& value) {
+      if ((*wanted)[i] == Conversion::text) {
+        arguments.push_back(fmt::format("{}", value));  // %s shows any value as text
+      } else {
+        arguments.push_back(value);
+      }
+    };
+    std::visit(pass, values[i]);
   }
   try {
     return fmt::vsprintf(fmt::string_view(tpl.data(), tpl.size()),
