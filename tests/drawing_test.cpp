@@ -1,0 +1,197 @@
+// The drawing side: group names, the embedded database's refusals, labels and numbers as DXF spells them.
+#include <cmath>
+#include <cstdlib>
+#include <limits>
+#include <random>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "console/dxf/dxf_writer.h"
+#include "console/dxf/tag_writer.h"
+#include "tests/support/console_host.h"
+#include "vexo_xyz_impl/drawing/group.h"
+#include "vexo_xyz_impl/text/local_time.h"
+
+namespace console {
+namespace {
+
+using namespace vexo_xyz_impl::host;  // NOLINT(google-build-using-namespace): the interface under test
+using testing_support::ConsoleHost;
+
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+
+TEST(GroupName, SurvivesTheGroupDialog) {
+  const struct {
+    std::string path;
+    std::string stem;
+  } kCases[] = {
+      {"C:\\pomiary\\Działka 12.csv", "Dzia_ka_12"},
+      {"/home/jan/pomiary/punkty.v2.txt", "punkty_v2"},
+      {"punkty", "punkty"},
+      {"___.txt", "IMPORT"},
+      {"żółć.csv", "IMPORT"},
+      {".csv", "IMPORT"},
+      {"_-a-_.csv", "-a-"},
+      {std::string(60, 'x') + ".csv", std::string(40, 'x')},
+      {"__" + std::string(39, 'x') + "  y.csv", std::string(39, 'x') + "_"},  // the cut comes after the strip
+      {"100% \"nowe\".csv", "100_nowe"},
+  };
+  Database database;
+  for (const auto& [path, stem] : kCases) {
+    // Midnight may pass between the two.
+    const std::string before = vexo_xyz_impl::text::local_time("%Y-%m-%d");
+    const std::string name = vexo_xyz_impl::_nazwa_grupy(database, path);
+    const std::string after = vexo_xyz_impl::text::local_time("%Y-%m-%d");
+    EXPECT_TRUE(name == "PIKIETY_" + before + "_" + stem || name == "PIKIETY_" + after + "_" + stem) << path << name;
+  }
+}
+
+TEST(GroupName, IsFreeOrCarriesTheTime) {
+  Database database;
+  const std::string name = vexo_xyz_impl::_nazwa_grupy(database, "A.csv");
+  std::string lower = name;
+  lower.back() = 'a';  // names are unique without regard to case
+  database.drawing().add(Group{0, lower, "", true, {}});
+  for (int i = 2; i <= 98; ++i) database.drawing().add(Group{0, name + "_" + std::to_string(i), "", true, {}});
+  EXPECT_EQ(vexo_xyz_impl::_nazwa_grupy(database, "A.csv"), name + "_99");
+  database.drawing().add(Group{0, name + "_99", "", true, {}});
+  const std::string timed = vexo_xyz_impl::_nazwa_grupy(database, "A.csv");
+  EXPECT_EQ(timed.size(), name.size() + 7);
+  EXPECT_EQ(timed.find_last_not_of("0123456789"), name.size());
+
+  auto writer = database.getGroupDictionary(GcDb::kForWrite).second;
+  EXPECT_EQ(vexo_xyz_impl::_nazwa_grupy(database, "A.csv"), name);  // cannot be checked
+  writer->close();
+  EXPECT_EQ(database.open_count(), 0U);
+}
+
+TEST(Grouping, FailsWithAReason) {
+  ConsoleHost host;
+  host.load();
+  Database& database = host.database;
+  EXPECT_FALSE(vexo_xyz_impl::_grupuj(database, {}, "G").ok);
+
+  const Handle point = *database.drawing().add(Entity{0, PointGeometry{}});
+  GcDbObjectIdArray ids;
+  ids.append({point});
+  EXPECT_TRUE(vexo_xyz_impl::_grupuj(database, ids, "G").ok);
+  const auto taken = vexo_xyz_impl::_grupuj(database, ids, "g");
+  EXPECT_FALSE(taken.ok);
+  EXPECT_EQ(taken.message, "rysunek nie przyjął grupy o tej nazwie");
+  EXPECT_EQ(database.drawing().groups().size(), 1U);
+  EXPECT_EQ(database.open_count(), 0U);
+}
+
+TEST(Database, RefusesWhatWouldSpoilTheDrawing) {
+  Database database;
+  Database* const db = &database;
+  auto blocks = database.getBlockTable(GcDb::kForRead).second;
+  auto ms = blocks->getAt(GCDB_MODEL_SPACE, GcDb::kForWrite).second;
+  blocks->close();
+  const auto appended = [&](std::unique_ptr<GcDbEntity> entity) {
+    const auto status = ms->appendGcDbEntity(*entity).first;
+    entity->close();
+    return status;
+  };
+  EXPECT_EQ(appended(db->newGcDbPoint({1, 2, kInfinity})), Gcad::eInvalidInput);
+  EXPECT_EQ(appended(db->newGcDbPoint({std::numeric_limits<double>::quiet_NaN(), 2, 3})), Gcad::eInvalidInput);
+  EXPECT_EQ(appended(db->newGcDbText({1, 2, 3}, "bez wysokości")), Gcad::eInvalidInput);
+  EXPECT_EQ(db->refused_count(), 3U);
+
+  auto text = db->newGcDbText({1, 2, 3}, "A");
+  text->setHeight(2.5);
+  EXPECT_EQ(text->setTextStyle({9999}), Gcad::eNullObjectId);
+  const auto [status, id] = ms->appendGcDbEntity(*text);
+  EXPECT_EQ(status, Gcad::eOk);
+  EXPECT_EQ(ms->appendGcDbEntity(*text).first, Gcad::eInvalidInput);  // it is there already
+  text->setHeight(5.0);                                               // open until closed, now in the drawing
+  text->close();
+  EXPECT_EQ(text->setHeight(7.5), Gcad::eNotOpenForWrite);
+  EXPECT_EQ(std::get<TextGeometry>(database.drawing().entity(id.value)->geometry).height, 5.0);
+
+  ms->close();
+  auto table = database.getBlockTable(GcDb::kForRead).second;
+  auto reader = table->getAt(GCDB_MODEL_SPACE, GcDb::kForRead).second;
+  auto point = db->newGcDbPoint({1, 2, 3});
+  EXPECT_EQ(reader->appendGcDbEntity(*point).first, Gcad::eNotOpenForWrite);
+  EXPECT_EQ(table->getAt(GCDB_MODEL_SPACE, GcDb::kForWrite).first, Gcad::eWasOpenForRead);
+  EXPECT_EQ(table->getAt("*Paper_Space", GcDb::kForRead).first, Gcad::eKeyNotFound);
+  point->close();
+  reader->close();
+  table->close();
+  EXPECT_EQ(database.open_count(), 0U);
+  EXPECT_EQ(database.drawing().entities().size(), 1U);
+}
+
+TEST(Dxf, SpellsLabelsSoThatTheyShowAsTyped) {
+  const struct {
+    std::string label;
+    std::string encoded;
+  } kCases[] = {
+      {"P12", "P12"},
+      {"Źródło 1/2 {a};\\P", "Źródło 1/2 {a};\\P"},
+      {"100%", "100%"},
+      {"5%%d", "5%%037%d"},
+      {"%%%", "%%037%%037%"},
+      {"A^B^", "A^ B^ "},
+      {"\\U+0041 \\M+1", "\\U+005CU+0041 \\U+005CM+1"},
+      {"a\r\nb\tc", "a  b c"},
+      {std::string("a\0b\x7F", 4), "a b "},
+      {"a\u0085b%\u2028c", "a b% c"},
+  };
+  for (const auto& [label, encoded] : kCases) EXPECT_EQ(encoded_label(label), encoded);
+}
+
+struct StringSink final : ByteSink {
+  void write(std::string_view bytes) override { text += bytes; }
+  std::string text;
+};
+
+// Writes reals through one writer and takes each out of the sink.
+class RealWriter {
+ public:
+  std::string text_of(double value) {
+    sink_.text.clear();
+    tags_.real(10, value);
+    tags_.flush();
+    return sink_.text.substr(3, sink_.text.size() - 4);  // between "10\n" and the line's end
+  }
+
+ private:
+  StringSink sink_;
+  TagWriter tags_{sink_};
+};
+
+TEST(Dxf, WritesRealsThatReadBackToTheSameDouble) {
+  const struct {
+    double value;
+    std::string text;
+  } kCases[] = {
+      {0.0, "0.0"},
+      {-0.0, "-0.0"},
+      {5.0, "5.0"},
+      {7500846.17, "7500846.17"},
+      {-12.5, "-12.5"},
+      {0.001, "0.001"},
+      {0.0005, "0.0005"},
+      {1e-7, "0.0000001"},
+      {32356678.508, "32356678.508"},
+      {1e22, "10000000000000000000000.0"},
+      {9007199254740993.0, "9007199254740992.0"},
+      {0.1 + 0.2, "0.30000000000000004"},
+  };
+  RealWriter writer;
+  for (const auto& [value, text] : kCases) EXPECT_EQ(writer.text_of(value), text);
+
+  std::mt19937_64 random(7);  // NOLINT(cert-msc51-cpp): the same numbers at every run
+  std::uniform_real_distribution<double> exponents(-12.0, 15.0);
+  for (int i = 0; i < 20000; ++i) {
+    double value = std::pow(10.0, exponents(random)) * (i % 2 == 0 ? 1.0 : -1.0);
+    if (i % 3 == 0) value = std::round(value * 1000.0) / 1000.0;
+    EXPECT_EQ(std::strtod(writer.text_of(value).c_str(), nullptr), value);
+  }
+}
+
+}  // namespace
+}  // namespace console

@@ -1,0 +1,127 @@
+// The module loaded into the console's own host, with text streams where a terminal would be.
+#pragma once
+
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <memory>
+#include <optional>
+#include <sstream>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "console/dialogue/dialogue.h"
+#include "console/drawing/database.h"
+#include "console/sibling_registry.h"
+#include "vexo_xyz_impl/command/module.h"
+#include "vexo_xyz_impl/host/bindings.h"
+
+namespace testing_support {
+
+/// A file that lives as long as the object.
+class TemporaryFile {
+ public:
+  TemporaryFile(const std::string& name, std::string_view bytes) {
+    std::string folder = (std::filesystem::temp_directory_path() / "vexo-test-XXXXXX").string();
+    folder_ = mkdtemp(folder.data());
+    path_ = folder_ / name;
+    std::ofstream(path_, std::ios::binary) << bytes;
+  }
+  TemporaryFile(const TemporaryFile&) = delete;
+  TemporaryFile& operator=(const TemporaryFile&) = delete;
+  ~TemporaryFile() { std::filesystem::remove_all(folder_); }
+  [[nodiscard]] std::string path() const { return path_.string(); }
+
+ private:
+  std::filesystem::path folder_;
+  std::filesystem::path path_;
+};
+
+/// Keeps failure notices instead of writing them to the user's log.
+class RecordedNotices final : public vexo_xyz_impl::host::Notices {
+ public:
+  explicit RecordedNotices(std::vector<std::string>& lines) : lines_(lines) {}
+  void zdarzenie(std::string_view name) override { lines_.push_back("start " + std::string(name)); }
+  void blad(std::string_view name, const vexo_xyz_impl::FailureNote& failure) override {
+    lines_.push_back(std::string(name) + " " + failure.kind + ": " + failure.text);
+  }
+
+ private:
+  std::vector<std::string>& lines_;
+};
+
+/// A catalogue made of the pairs given; every other key has no entry.
+class OwnTexts final : public vexo_xyz_impl::host::Texts {
+ public:
+  explicit OwnTexts(std::map<std::string, std::string, std::less<>> texts = {}) : texts_(std::move(texts)) {}
+  [[nodiscard]] std::string_view T(std::string_view key) const override {
+    const auto found = texts_.find(key);
+    return found == texts_.end() ? key : std::string_view(found->second);
+  }
+
+ private:
+  std::map<std::string, std::string, std::less<>> texts_;
+};
+
+class ConsoleHost : public vexo_xyz_impl::host::CommandTable {
+ public:
+  explicit ConsoleHost(const std::string& market = "PL", const std::string& typed = "",
+                       std::optional<std::string> file = std::nullopt)
+      : in(typed),
+        lines(console::lines_of_stream(in, out)),
+        dialogue(*lines, out, database.drawing().variables, std::move(file), {}) {
+    console::add_family(siblings, database, market);
+    siblings.add("vexo_boot", std::make_unique<RecordedNotices>(notices));
+  }
+
+  /// Loads the module; siblings may be changed before.
+  void load() { vexo_xyz_impl::load_module({dialogue, *this, database, siblings}); }
+
+  void command(std::string_view local_name, std::string_view global_name, std::string_view group_name,
+               vexo_xyz_impl::host::CommandFunction function) override {
+    EXPECT_EQ(local_name, "VEXO_XYZ");
+    EXPECT_EQ(global_name, "VEXO_XYZ");
+    EXPECT_EQ(group_name, "VEXO");
+    import = std::move(function);
+  }
+
+  [[nodiscard]] std::vector<console::PointGeometry> points() { return geometries<console::PointGeometry>(); }
+  [[nodiscard]] std::vector<console::TextGeometry> labels() { return geometries<console::TextGeometry>(); }
+
+  std::istringstream in;
+  std::ostringstream out;
+  std::vector<std::string> notices;
+  console::Database database;
+  std::unique_ptr<console::LineSource> lines;
+  console::Dialogue dialogue;
+  console::SiblingRegistry siblings;
+  vexo_xyz_impl::host::CommandFunction import;
+
+ private:
+  template <class Geometry>
+  std::vector<Geometry> geometries() {
+    std::vector<Geometry> found;
+    for (const console::Entity& entity : database.drawing().entities())
+      if (const auto* geometry = std::get_if<Geometry>(&entity.geometry)) found.push_back(*geometry);
+    return found;
+  }
+};
+
+/// Whether `pieces` stand in `text` in their order.
+inline ::testing::AssertionResult in_order(std::string_view text, const std::vector<std::string>& pieces) {
+  std::size_t at = 0;
+  for (const std::string& piece : pieces) {
+    at = text.find(piece, at);
+    if (at == std::string_view::npos) {
+      return ::testing::AssertionFailure() << "not found in its place: " << piece << "\nin:\n" << text;
+    }
+    at += piece.size();
+  }
+  return ::testing::AssertionSuccess();
+}
+
+}  // namespace testing_support
