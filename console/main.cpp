@@ -1,6 +1,7 @@
 // The stand-alone program: arguments, the terminal, exit codes.
 #include <clocale>
 #include <csignal>
+#include <cstdio>
 #include <cstring>
 #include <exception>
 #include <iostream>
@@ -13,7 +14,6 @@
 
 #include "console/session.h"
 #include "vexo_xyz_impl/command/keywords.h"
-#include "vexo_xyz_impl/failure.h"
 
 namespace {
 
@@ -89,9 +89,7 @@ int run(const console::SessionOptions& options) {
   return console::Session(options, *lines, std::cout).run();
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
+int run(int argc, char** argv) {
   // A reader that went away or a size limit is an error of writing, not the end of the program.
   std::signal(SIGPIPE, SIG_IGN);
   std::signal(SIGXFSZ, SIG_IGN);
@@ -100,17 +98,22 @@ int main(int argc, char** argv) {
   CLI::App app("Imports a file of surveyed points into a new drawing: a point and its number for each row.",
                "vexo-xyz");
   Arguments arguments;
+  declare(app, arguments);
   try {
-    declare(app, arguments);
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
     return app.exit(error) == 0 ? console::kImported : console::kUsage;
   }
+  return run(options_of(app, arguments));
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
   try {
-    return run(options_of(app, arguments));
+    return run(argc, argv);
   } catch (const std::exception& failure) {
-    const auto [kind, text] = vexo_xyz_impl::describe(failure);
-    std::cerr << "vexo-xyz: " << kind << ": " << text << '\n';
+    std::fprintf(stderr, "vexo-xyz: %s\n", failure.what());
     return console::kFailure;
   }
 }
