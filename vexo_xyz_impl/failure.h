@@ -49,6 +49,8 @@ using UnpackError = FailureOf<"UnpackError">;
 using OSError = FailureOf<"OSError">;
 using ImportError = FailureOf<"ImportError">;
 using ModuleNotFoundError = FailureOf<"ModuleNotFoundError">;
+using MemoryError = FailureOf<"MemoryError">;
+using BadZipFile = FailureOf<"BadZipFile">;
 using NotImplementedError = FailureOf<"NotImplementedError">;
 
 /// Kind and text of a failure, ready to be shown.

@@ -22,21 +22,36 @@ using Row = std::span<const Cell>;
 class Table {
  public:
   Table() = default;
-  explicit Table(std::vector<char> text) : text_(std::move(text)) {}
   Table(Table&&) noexcept = default;
   Table& operator=(Table&&) noexcept = default;
   Table(const Table&) = delete;
   Table& operator=(const Table&) = delete;
   ~Table() = default;
 
-  /// The buffer that the cells point into.
-  [[nodiscard]] std::string_view text() const { return {text_.data(), text_.size()}; }
+  /// Takes over a buffer whose parts become cells; the view is valid while the table lives.
+  std::string_view adopt(std::vector<char> buffer);
 
+  /// Keeps a copy of a text that stands in no buffer.
+  std::string_view keep(std::string_view text);
+
+  /// Adds a cell to the row being made.
   void add_cell(Cell cell) { cells_.push_back(cell); }
 
-  /// Ends the row made of the cells added since the last one; does nothing when there are none.
+  /// Sets the cell at `column` of the row being made, with gaps before it where cells are missing.
+  void set_cell(std::size_t column, Cell cell) {
+    if (column >= current_size()) cells_.resize(ends_.back() + column + 1, Cell(""));
+    cells_[ends_.back() + column] = cell;
+  }
+
+  /// Cells of the row being made.
+  [[nodiscard]] std::size_t current_size() const { return cells_.size() - ends_.back(); }
+
+  /// Cells of all rows.
+  [[nodiscard]] std::size_t cell_count() const { return cells_.size(); }
+
+  /// Ends the row being made; does nothing when it has no cell.
   void end_row() {
-    if (cells_.size() != ends_.back()) ends_.push_back(cells_.size());
+    if (current_size() != 0) ends_.push_back(cells_.size());
   }
 
   [[nodiscard]] std::size_t size() const { return ends_.size() - 1; }
@@ -48,7 +63,8 @@ class Table {
   [[nodiscard]] std::vector<Row> rows() const;
 
  private:
-  std::vector<char> text_;  // not a std::string: views must survive a move
+  std::vector<std::vector<char>> buffers_;  // not strings: views must survive a move of the table
+  std::size_t kept_ = 0;                    // index of the buffer that `keep` fills, plus 1
   std::vector<Cell> cells_;
   std::vector<std::size_t> ends_{0};  // index past the last cell of each row, after a leading 0
 };

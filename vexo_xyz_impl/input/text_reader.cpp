@@ -97,8 +97,8 @@ std::vector<char> to_utf8(std::vector<char> bytes) {
 }  // namespace
 
 Table table_from_bytes(std::vector<char> bytes) {
-  Table wiersze(to_utf8(std::move(bytes)));
-  std::string_view text = wiersze.text();
+  Table wiersze;
+  std::string_view text = wiersze.adopt(to_utf8(std::move(bytes)));
   if (text.starts_with(kByteOrderMark)) text.remove_prefix(kByteOrderMark.size());
   Lines lines(text);
   while (const auto line = lines.next()) add_line(wiersze, *line);

@@ -31,6 +31,29 @@ std::size_t ascii_run(std::string_view utf8, std::size_t at) {
   return at - start;
 }
 
+// Bytes of the maximal part at `at` that begins a valid sequence but does not complete it; at least one.
+std::size_t invalid_part(std::string_view bytes, std::size_t at) {
+  const unsigned char lead = byte_at(bytes, at);
+  if (lead < 0xC2 || lead > 0xF4) return 1;  // no sequence begins so
+  // What may follow the lead byte: narrower than any continuation where overlong forms, surrogates or values above
+  // U+10FFFF would begin.
+  unsigned char least = 0x80;
+  unsigned char most = 0xBF;
+  if (lead == 0xE0) least = 0xA0;
+  if (lead == 0xED) most = 0x9F;
+  if (lead == 0xF0) least = 0x90;
+  if (lead == 0xF4) most = 0x8F;
+  const std::size_t length = lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
+  std::size_t part = 1;
+  while (part < length && at + part < bytes.size()) {
+    const unsigned char next = byte_at(bytes, at + part);
+    if (next < least || next > most) break;
+    least = 0x80, most = 0xBF;
+    ++part;
+  }
+  return part;
+}
+
 }  // namespace
 
 std::optional<CodePoint> decode(std::string_view utf8, std::size_t at) {
@@ -74,6 +97,21 @@ bool is_valid(std::string_view bytes) {
     if (!code_point) return false;
     at += code_point->bytes;
   }
+}
+
+std::string with_replacements(std::string_view bytes) {
+  std::string valid;
+  valid.reserve(bytes.size());
+  for (std::size_t at = 0; at < bytes.size();) {
+    if (const auto code_point = decode(bytes, at)) {
+      valid += bytes.substr(at, code_point->bytes);
+      at += code_point->bytes;
+    } else {
+      append(valid, U'\uFFFD');
+      at += invalid_part(bytes, at);
+    }
+  }
+  return valid;
 }
 
 void append(std::string& utf8, char32_t code_point) {

@@ -27,6 +27,9 @@ struct CodePoint {
 /// Whether all of `bytes` is valid UTF-8.
 [[nodiscard]] bool is_valid(std::string_view bytes);
 
+/// The text with one U+FFFD for each maximal part of an invalid sequence, as the Unicode standard recommends.
+[[nodiscard]] std::string with_replacements(std::string_view bytes);
+
 /// Appends one code point as UTF-8.
 void append(std::string& utf8, char32_t code_point);
 

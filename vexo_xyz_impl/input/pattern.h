@@ -1,0 +1,54 @@
+// A regular expression, compiled once and run by machine code, over bytes.
+//
+// It has no match limit that a long text could meet: a row of a worksheet may be as long as the worksheet. Groups are
+// views into the subject.
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <optional>
+#include <string_view>
+
+struct pcre2_real_code_8;
+struct pcre2_real_match_data_8;
+struct pcre2_real_match_context_8;
+
+namespace vexo_xyz_impl {
+
+class Pattern {
+ public:
+  enum Option : unsigned {
+    none = 0,
+    dot_matches_line_ends = 1,
+    anchored = 2,  ///< matches at the place where it is tried only
+    unicode = 4,   ///< the subject is UTF-8, and \d, \s, \w have all scripts' digits, spaces, letters
+  };
+
+  /// A match: where it stands in the subject, and its groups; a group that took no part is empty.
+  struct Match {
+    std::size_t begin;
+    std::size_t end;
+    std::string_view group1;
+    std::string_view group2;
+  };
+
+  /// Fails with ValueError for an expression that does not compile.
+  explicit Pattern(std::string_view expression, unsigned options = none);
+
+  /// The first match at or after `from`, or at `from` exactly when anchored. Fails with MemoryError when the matcher
+  /// runs out of memory. Not for use from several threads at once.
+  [[nodiscard]] std::optional<Match> find(std::string_view subject, std::size_t from = 0) const;
+
+ private:
+  struct Free {
+    void operator()(pcre2_real_code_8* code) const;
+    void operator()(pcre2_real_match_data_8* data) const;
+    void operator()(pcre2_real_match_context_8* context) const;
+  };
+
+  std::unique_ptr<pcre2_real_code_8, Free> code_;
+  std::unique_ptr<pcre2_real_match_data_8, Free> data_;
+  std::unique_ptr<pcre2_real_match_context_8, Free> context_;
+};
+
+}  // namespace vexo_xyz_impl
