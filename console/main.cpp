@@ -36,13 +36,14 @@ struct Arguments {
   bool force = false;
   std::string first_column;
   std::string axes;
-  std::string market;
+  console::Choice choice;
 };
 
 void declare(CLI::App& app, Arguments& arguments) {
   app.set_version_flag("--version", kVersion);
   app.footer(kFooter);
-  app.add_option("FILE", arguments.file, "File of surveyed points: delimited text. Without it the path is asked for");
+  app.add_option("FILE", arguments.file,
+                 "File of surveyed points: delimited text or .xlsx. Without it the path is asked for");
   app.add_option("-o,--output", arguments.output,
                  "Drawing to write. Default: beside FILE, with its name, or the next free one (_2, _3 ...)")
       ->type_name("OUT.dxf");
@@ -55,10 +56,13 @@ void declare(CLI::App& app, Arguments& arguments) {
                  "What to do with X and Y, should more than one reading fit: 'keep' or 'swap'")
       ->type_name("WHAT")
       ->check(CLI::IsMember({"keep", "swap"}));
-  app.add_option("--market", arguments.market,
+  app.add_option("--market", arguments.choice.market,
                  "Country whose coordinate systems are tried. Default: $VEXO_RYNEK, else PL")
       ->type_name("PL|DE|RO")
       ->check(CLI::IsMember({"PL", "DE", "RO"}));
+  app.add_option("--lang", arguments.choice.language, "Language of the messages. Default: the market's")
+      ->type_name("PL|DE|RO|EN")
+      ->check(CLI::IsMember({"PL", "DE", "RO", "EN"}));
 }
 
 console::SessionOptions options_of(const CLI::App& app, const Arguments& arguments) {
@@ -66,7 +70,7 @@ console::SessionOptions options_of(const CLI::App& app, const Arguments& argumen
   if (app.count("FILE") > 0) options.file = arguments.file;
   if (app.count("-o") > 0) options.output = arguments.output;
   options.force = arguments.force;
-  options.market = arguments.market;
+  options.choice = arguments.choice;
   if (!arguments.first_column.empty()) {
     options.answers.push_back(
         {"--first-column", arguments.first_column == "number" ? vexo_xyz_impl::kNumer : vexo_xyz_impl::kWspolrzedna});

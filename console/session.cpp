@@ -25,7 +25,7 @@ std::string_view code_page_of(std::string_view market) { return market == "DE" ?
 Session::Session(SessionOptions options, LineSource& lines, std::ostream& out)
     : options_(std::move(options)),
       dialogue_(lines, out, database_.drawing().variables, options_.file, options_.answers) {
-  add_family(siblings_, database_, options_.market);
+  add_family(siblings_, database_, options_.choice);
   vexo_xyz_impl::load_module({dialogue_, *this, database_, siblings_});
 }
 

@@ -20,7 +20,7 @@ struct SessionOptions {
   std::optional<std::string> file;              ///< the file to import; without it the path is asked for
   std::optional<std::filesystem::path> output;  ///< the drawing's name; without it one that is free is made
   bool force = false;                           ///< an existing output may be replaced
-  std::string market;                           ///< "PL", "DE", "RO", or empty
+  Choice choice;                                ///< market and language
   std::vector<PreparedAnswer> answers;
 };
 

@@ -29,9 +29,11 @@ vexo_xyz_impl::host::SiblingModule& SiblingRegistry::load(std::string_view name)
   throw vexo_xyz_impl::ModuleNotFoundError("no module named '" + std::string(name) + "'");
 }
 
-void add_family(SiblingRegistry& registry, Database& database, const std::string& market) {
-  registry.add("vexo_teksty", std::make_unique<vexo_teksty::Catalogue>(vexo_teksty::polish()));
-  registry.add("vexo_rynek", std::make_unique<vexo_rynek::Market>(market));
+void add_family(SiblingRegistry& registry, Database& database, const Choice& choice) {
+  auto market = std::make_unique<vexo_rynek::Market>(choice.market);
+  const auto& language = vexo_teksty::language_of(choice.language.empty() ? market->rynek() : choice.language);
+  registry.add("vexo_teksty", std::make_unique<vexo_teksty::Catalogue>(language.entries));
+  registry.add("vexo_rynek", std::move(market));
   registry.add("vexo_xyz_dane_PL", std::make_unique<vexo_xyz_dane_PL::Tables>());
   registry.add("vexo_xyz_dane_DE", std::make_unique<vexo_xyz_dane_DE::Tables>());
   registry.add("vexo_xyz_dane_RO", std::make_unique<vexo_xyz_dane_RO::Tables>());

@@ -27,7 +27,13 @@ class SiblingRegistry final : public vexo_xyz_impl::host::SiblingLoader {
   std::map<std::string, std::unique_ptr<vexo_xyz_impl::host::SiblingModule>, std::less<>> modules_;
 };
 
-/// Fills the registry with the whole family, working on `database`. `market` is what the user chose, or empty.
-void add_family(SiblingRegistry& registry, Database& database, const std::string& market);
+/// What the user chose; empty leaves it to the environment, and to the market for the language.
+struct Choice {
+  std::string market;    ///< "PL", "DE", "RO"
+  std::string language;  ///< "PL", "DE", "RO", "EN"
+};
+
+/// Fills the registry with the whole family, working on `database`.
+void add_family(SiblingRegistry& registry, Database& database, const Choice& choice);
 
 }  // namespace console

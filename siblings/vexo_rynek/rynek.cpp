@@ -1,5 +1,6 @@
 #include "siblings/vexo_rynek/rynek.h"
 
+#include <algorithm>
 #include <cstdlib>
 
 namespace vexo_rynek {
@@ -7,7 +8,10 @@ namespace vexo_rynek {
 std::string Market::rynek() const {
   if (!chosen_.empty()) return chosen_;
   const char* from_environment = std::getenv("VEXO_RYNEK");  // NOLINT(concurrency-mt-unsafe): one thread
-  return from_environment != nullptr && *from_environment != '\0' ? from_environment : "PL";
+  std::string code = from_environment == nullptr || *from_environment == '\0' ? "PL" : from_environment;
+  std::transform(code.begin(), code.end(), code.begin(),
+                 [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; });
+  return code;
 }
 
 }  // namespace vexo_rynek

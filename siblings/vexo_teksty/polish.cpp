@@ -18,37 +18,29 @@ constexpr auto kPolish = [] {
       {"xyz.anulowano", "\nAnulowano. Nic nie wczytano, rysunek bez zmian.\n"},
       {"xyz.xls_stary_1", "\nTo jest skoroszyt w dawnym formacie .xls, którego ten program nie czyta.\n"},
       {"xyz.xls_stary_2", "Otwórz go w arkuszu kalkulacyjnym, zapisz jako .xlsx albo .csv i wczytaj ponownie.\n"},
-      // path
       {"xyz.blad_otworz_plik",
        "\nNie można otworzyć pliku: %s\nSprawdź, czy istnieje, czy jest zwykłym plikiem i czy masz prawo go czytać.\n"},
       {"xyz.info_skoroszyt", "\nSkoroszyt .xlsx: wczytuję tylko pierwszy arkusz.\n"},
 
       // Layout of the columns
-      // description of the layout
       {"xyz.info_opis", "\nNie można rozpoznać układu kolumn: %s.\n"},
-      // first cells of the first row
       {"xyz.pierwszy_wiersz", "Pierwszy wiersz danych: %s\n"},
       {"xyz.wybor_numer", "  Numer: w pierwszej kolumnie są numery punktów\n"},
       {"xyz.wybor_wspolrzedna", "  Wspolrzedna: pierwsza kolumna to już współrzędna, numery nada program\n"},
-      // words, default word
       {"xyz.prompt_pierwsza_kolumna_tpl", "Co zawiera pierwsza kolumna? [%s] <%s>: "},
       {"xyz.kw_numer", "Numer"},
       {"xyz.kw_wspolrzedna", "Wspolrzedna"},
       {"xyz.opis_wybor_uzytkownika", "układ wskazany przez użytkownika"},
-      // layout code, description
       {"xyz.rozpoznany_format", "\nUkład kolumn: %s (%s).\n"},
       {"xyz.z_brak", "Plik nie zawiera wysokości: punkty otrzymają Z = 0.\n"},
       {"xyz.z_wczytuje", "Wysokości z pliku zostaną wczytane jako Z.\n"},
       {"xyz.fmt_mniej_2", "w wierszach jest mniej niż dwie kolumny"},
       {"xyz.fmt_brak_danych", "żaden wiersz nie zawiera dwóch sąsiednich liczb"},
       {"xyz.fmt_2kol", "dwie kolumny: X i Y"},
-      // column count
       {"xyz.fmt_niejasny", "kolumn jest %d, ale nie wiadomo, czy pierwsza to numer punktu"},
       {"xyz.fmt_3_nrxy", "trzy kolumny: numer, X i Y"},
       {"xyz.fmt_3_xyz", "trzy kolumny: X, Y i wysokość"},
-      // column count
       {"xyz.fmt_n_nrxyz", "liczba kolumn: %d; kolejno numer, X, Y i wysokość"},
-      // column count
       {"xyz.fmt_n_xyz", "liczba kolumn: %d; kolejno X, Y i wysokość"},
 
       // Rows
@@ -56,74 +48,53 @@ constexpr auto kPolish = [] {
       {"xyz.sprawdz_format",
        "Sprawdź plik: w wierszu powinny stać kolejno [numer] X Y [wysokość], rozdzielone średnikiem, tabulatorem\n"
        "lub odstępem; przecinek jest znakiem dziesiętnym; tekst w kodowaniu UTF-8 lub Windows-1250.\n"},
-      // row number, reason, row
       {"xyz.linia_pominieta", "  wiersz danych %d: %s: %s\n"},
       {"xyz.pow_naglowek", "w miejscu współrzędnej nie ma liczby (nagłówek lub opis)"},
-      // cells in the row, cells needed
       {"xyz.pow_za_malo_kolumn", "za mało kolumn (jest %d, potrzeba %d)"},
       {"xyz.pominieto_naglowek", "\nPominięte wiersze:\n"},
-      // count of the rest
       {"xyz.pominieto_dalsze", "  … i dalsze, nie pokazane: %d\n"},
-      // duplicate count
       {"xyz.dubli", "\nUwaga: powtórzone numery punktów: %d. Te punkty też wstawiono; sprawdź je.\n"},
 
       // Coordinate system
-      // system name
       {"xyz.uklad_wykryto", "\nRozpoznany układ współrzędnych: %s.\n"},
       {"xyz.uklad_zamiana", "W pliku X to współrzędna północna: zamieniono X i Y, aby w rysunku północ była u góry.\n"},
       {"xyz.uklad_nierozpoznany",
        "\nNie rozpoznano układu współrzędnych (układ lokalny?). Punkty wstawiono tak, jak stoją w pliku.\n"},
       {"xyz.osie_niejednoznaczne",
        "\nWspółrzędne pasują do więcej niż jednego odczytu. Położenie pierwszego punktu według każdego z nich:\n"},
-      // word, system name, latitude and longitude in degrees
       {"xyz.osie_wiersz", "  %s: %s, szerokość %.6f°, długość %.6f°\n"},
-      // word for keeping, word for exchanging
       {"xyz.osie_legenda_tpl", "%s: wstaw tak, jak stoi w pliku; %s: zamień X i Y miejscami.\n"},
-      // words, default word
       {"xyz.prompt_zamien_osie_tpl", "Czy kolejność osi jest właściwa? [%s] <%s>: "},
       {"xyz.kw_tak", "Tak"},
       {"xyz.kw_zamien", "Zamien"},
 
       // Drawing
       {"xyz.blad_model", "\nNie można otworzyć obszaru modelu do zapisu. Rysunek bez zmian.\n"},
-      // points, layout code
       {"xyz.wstawiono_punkty", "\nWstawiono punkty wraz z numerami: %d (układ kolumn %s).\n"},
-      // points marked
       {"xyz.kontrola_ok", "Punkty objęte kontrolą przesunięć: %d.\n"},
-      // kind of failure, its text
       {"xyz.kontrola_niedostepna", "Kontrola przesunięć niedostępna (%s: %s). Punkty wstawiono bez niej.\n"},
-      // points, limit
       {"xyz.kontrola_za_duzo", "Kontrola przesunięć pominięta: punktów jest %d, a kontrola obejmuje najwyżej %d.\n"},
       {"xyz.grupa_opis", "Pikiety wczytane z pliku współrzędnych"},
-      // group name
       {"xyz.grupa_ok", "Punkty i numery zebrano w grupie %s.\n"},
       {"xyz.grupa_hint_1", "  Wskazanie jednego punktu wybiera całą grupę.\n"},
       {"xyz.grupa_hint_2", "  Poleceniem GRUPA można ją nazwać inaczej, wyłączyć jej wybieralność lub ją rozbić.\n"},
-      // reason
       {"xyz.grupa_blad", "Nie utworzono grupy: %s.\n"},
       {"xyz.grupa_reczne", "  Punkty są w rysunku; można je zgrupować ręcznie poleceniem GRUPA.\n"},
-      // kind of failure
       {"xyz.grupa_pominieta", "Nie utworzono grupy (%s). Punkty są w rysunku.\n"},
       {"xyz.grup_brak_encji", "nie ma czego grupować"},
       {"xyz.grup_brak_slownika", "słownik grup rysunku jest niedostępny"},
       {"xyz.grup_setat", "rysunek nie przyjął grupy o tej nazwie"},
       {"xyz.punkty_sa", "Punkty są w obszarze modelu.\n"},
       {"xyz.zoom_hint", "Aby je zobaczyć: ZOOM, Zakres.\n"},
-      // kind of failure, its text
       {"xyz.blad_ogolny", "\nWczytywanie przerwał błąd: %s: %s\n"},
 
       // The stand-alone program
-      // reason of the wrong answer: the answer, the words
       {"konsola.zle_slowo", "Nie ma takiej odpowiedzi: „%s”. Możliwe: %s (wystarczy początek słowa; Esc przerywa).\n"},
       {"konsola.niejasne_slowo", "Odpowiedź „%s” pasuje do kilku słów: %s. Wpisz więcej liter.\n"},
-      // option
       {"konsola.opcja_zbedna", "Opcja %s nie była potrzebna: to pytanie nie padło.\n"},
-      // objects refused
       {"konsola.odrzucone", "Uwaga: rysunek nie przyjął obiektów: %d (współrzędne nie są skończonymi liczbami).\n"},
-      // path
       {"konsola.zapisano", "Rysunek: %s\n"},
       {"konsola.nie_zapisano", "Rysunku nie zapisano.\n"},
-      // path, reason
       {"konsola.blad_zapisu", "Nie można zapisać rysunku %s: %s.\nNie pozostawiono niepełnego pliku.\n"},
       {"konsola.plik_istnieje",
        "Plik %s już istnieje. Podaj inną nazwę przy -o albo dodaj --force, aby go zastąpić.\n"},

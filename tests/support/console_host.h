@@ -74,7 +74,7 @@ class ConsoleHost : public vexo_xyz_impl::host::CommandTable {
       : in(typed),
         lines(console::lines_of_stream(in, out)),
         dialogue(*lines, out, database.drawing().variables, std::move(file), {}) {
-    console::add_family(siblings, database, market);
+    console::add_family(siblings, database, {market, "PL"});
     siblings.add("vexo_boot", std::make_unique<RecordedNotices>(notices));
   }
 
