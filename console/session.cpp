@@ -34,12 +34,25 @@ void Session::command(std::string_view local_name, std::string_view /*global_nam
   if (local_name == vexo_xyz_impl::kCommandName) import_ = std::move(function);
 }
 
-ExitCode Session::run() {
+// Whether the drawing may not have the name asked for, the user told: an existing file is replaced only when that is
+// asked for, and the file of points never.
+bool Session::output_is_refused() {
+  if (!options_.output) return false;
+  const std::string source = options_.file.value_or(dialogue_.path());
   std::error_code ignored;
-  if (options_.output && !options_.force && std::filesystem::exists(*options_.output, ignored)) {
-    say("konsola.plik_istnieje", {options_.output->string()});
-    return kFailure;
+  if (std::filesystem::equivalent(*options_.output, vexo_xyz_impl::clean_path(source), ignored)) {
+    say("konsola.plik_zrodlowy", {options_.output->string()});
+    return true;
   }
+  if (!options_.force && std::filesystem::exists(*options_.output, ignored)) {
+    say("konsola.plik_istnieje", {options_.output->string()});
+    return true;
+  }
+  return false;
+}
+
+ExitCode Session::run() {
+  if (output_is_refused()) return kFailure;  // before any question
   const CommandOutcome outcome = import_();
   for (const std::string_view option : dialogue_.unused_options()) say("konsola.opcja_zbedna", {std::string(option)});
   if (outcome == CommandOutcome::failed) {
@@ -55,6 +68,7 @@ ExitCode Session::run() {
 }
 
 ExitCode Session::save() {
+  if (output_is_refused()) return kFailure;  // a path that was typed is known only now
   const std::string wanted = options_.output ? options_.output->string()
                                              : drawing_name(vexo_xyz_impl::clean_path(dialogue_.path()), 1).string();
   try {

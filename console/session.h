@@ -37,6 +37,7 @@ class Session final : private vexo_xyz_impl::host::CommandTable {
  private:
   void command(std::string_view local_name, std::string_view global_name, std::string_view group_name,
                vexo_xyz_impl::host::CommandFunction function) override;
+  [[nodiscard]] bool output_is_refused();
   ExitCode save();
   std::filesystem::path write_drawing();
   void say(std::string_view key, const std::vector<std::string>& values);

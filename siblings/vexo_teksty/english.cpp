@@ -99,6 +99,8 @@ constexpr auto kEnglish = [] {
       {"konsola.zapisano", "Drawing: %s\n"},
       {"konsola.nie_zapisano", "The drawing was not saved.\n"},
       {"konsola.blad_zapisu", "The drawing %s cannot be saved: %s.\nNo incomplete file was left behind.\n"},
+      {"konsola.plik_zrodlowy",
+       "The file %s holds the points and is not replaced by the drawing. Give another name with -o.\n"},
       {"konsola.plik_istnieje", "The file %s exists already. Give another name with -o, or replace it with --force.\n"},
   });
   std::sort(entries.begin(), entries.end());

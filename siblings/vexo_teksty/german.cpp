@@ -108,6 +108,9 @@ constexpr auto kGerman = [] {
       {"konsola.nie_zapisano", "Die Zeichnung wurde nicht gespeichert.\n"},
       {"konsola.blad_zapisu",
        "Die Zeichnung %s kann nicht gespeichert werden: %s.\nEine unvollständige Datei ist nicht zurückgeblieben.\n"},
+      {"konsola.plik_zrodlowy",
+       "Die Datei %s enthält die Punkte und wird nicht durch die Zeichnung ersetzt. Bitte bei -o einen anderen Namen "
+       "angeben.\n"},
       {"konsola.plik_istnieje",
        "Die Datei %s gibt es bereits. Bitte bei -o einen anderen Namen angeben oder mit --force ersetzen.\n"},
   });

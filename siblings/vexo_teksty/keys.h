@@ -80,6 +80,7 @@ inline constexpr auto kKeys = std::to_array<Key>({
     {"konsola.odrzucone", "d"},        // objects refused
     {"konsola.opcja_zbedna", "s"},     // option
     {"konsola.plik_istnieje", "s"},    // path
+    {"konsola.plik_zrodlowy", "s"},    // path
     {"konsola.zapisano", "s"},         // path
     {"konsola.zle_slowo", "ss"},       // answer, words
 });

@@ -96,6 +96,8 @@ constexpr auto kPolish = [] {
       {"konsola.zapisano", "Rysunek: %s\n"},
       {"konsola.nie_zapisano", "Rysunku nie zapisano.\n"},
       {"konsola.blad_zapisu", "Nie można zapisać rysunku %s: %s.\nNie pozostawiono niepełnego pliku.\n"},
+      {"konsola.plik_zrodlowy",
+       "Plik %s zawiera wczytywane punkty i nie może zostać zastąpiony rysunkiem. Podaj inną nazwę przy -o.\n"},
       {"konsola.plik_istnieje",
        "Plik %s już istnieje. Podaj inną nazwę przy -o albo dodaj --force, aby go zastąpić.\n"},
   });

@@ -104,6 +104,8 @@ constexpr auto kRomanian = [] {
       {"konsola.zapisano", "Desen: %s\n"},
       {"konsola.nie_zapisano", "Desenul nu a fost salvat.\n"},
       {"konsola.blad_zapisu", "Desenul %s nu poate fi salvat: %s.\nNu a rămas niciun fișier incomplet.\n"},
+      {"konsola.plik_zrodlowy",
+       "Fișierul %s conține punctele și nu poate fi înlocuit cu desenul. Dați alt nume la -o.\n"},
       {"konsola.plik_istnieje",
        "Fișierul %s există deja. Dați alt nume la -o sau adăugați --force pentru a-l înlocui.\n"},
   });
