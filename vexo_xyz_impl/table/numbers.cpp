@@ -39,6 +39,9 @@ double beyond_double(std::string_view unsigned_literal) {
     if (text.starts_with('+') || negative) text.remove_prefix(1);
     if (std::from_chars(text.data(), text.data() + text.size(), exponent).ec != std::errc())
       return negative ? 0.0 : std::numeric_limits<double>::infinity();
+    // No token is so long that a larger exponent could be made up for by its digits.
+    constexpr long long kDecisive = 1LL << 60U;
+    exponent = std::min(exponent, kDecisive);
     if (negative) exponent = -exponent;
   }
   const auto point = static_cast<long long>(std::min(digits.find('.'), digits.size()));
@@ -83,6 +86,7 @@ bool remove_underscores(std::string& literal) {
 
 // The general way, for tokens with anything beyond plain ASCII digits, signs, letters, blanks and commas.
 std::optional<double> parse_general(std::string_view tok) {
+  if (!text::is_valid(tok)) return std::nullopt;
   std::string joined;
   for (std::size_t at = 0; at < tok.size();) {
     const bool no_break_space = tok.substr(at).starts_with(kNoBreakSpace);

@@ -1,0 +1,241 @@
+#include <array>
+#include <cmath>
+#include <cstdlib>
+#include <functional>
+#include <limits>
+#include <numbers>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "siblings/vexo_xyz_dane_DE/dane.h"
+#include "siblings/vexo_xyz_dane_PL/dane.h"
+#include "siblings/vexo_xyz_dane_RO/dane.h"
+#include "tests/support/console_host.h"
+#include "vexo_xyz_impl/crs/detection.h"
+#include "vexo_xyz_impl/crs/systems.h"
+#include "vexo_xyz_impl/crs/transverse_mercator.h"
+#include "vexo_xyz_impl/failure.h"
+
+namespace vexo_xyz_impl {
+namespace {
+
+using host::MarketData;
+using testing_support::ConsoleHost;
+using Pair = std::pair<double, double>;
+
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
+
+// A market of the test's own.
+struct MadeUpMarket final : host::MarketTables {
+  explicit MadeUpMarket(MarketData data) : market(std::move(data)) {}
+  [[nodiscard]] const MarketData& tables() const override { return market; }
+  MarketData market;
+};
+
+struct Loaded : ConsoleHost {
+  explicit Loaded(const MarketData& market) {
+    siblings.add("vexo_xyz_dane_PL", std::make_unique<MadeUpMarket>(market));
+    load();
+  }
+};
+
+// One zone around 21 degrees, whose radians turn back into exactly 21, on the equator.
+MarketData one_zone() {
+  return {{{1, {"TM", {21.0, 1.0, 500000.0, 0.0}}}}, {1}, {}, {-1.0, 1.0}, {20.0, 22.0}, {}, {}, {}};
+}
+
+MarketData systems_of_all_markets() {
+  MarketData all = vexo_xyz_dane_PL::Tables().tables();
+  for (MarketData market : {vexo_xyz_dane_DE::Tables().tables(), vexo_xyz_dane_RO::Tables().tables()})
+    all.UKLADY.merge(market.UKLADY);
+  return all;
+}
+
+// The numbers of each line but the first, decimal or hexadecimal.
+std::vector<std::vector<double>> csv(const std::string& name) {
+  std::ifstream file(TEST_DATA "/geodesy/" + name);
+  std::vector<std::vector<double>> lines;
+  std::string line;
+  for (std::getline(file, line); std::getline(file, line);) {
+    std::istringstream fields(line);
+    lines.emplace_back();
+    for (std::string field; std::getline(fields, field, ',');)
+      lines.back().push_back(std::strtod(field.c_str(), nullptr));
+  }
+  EXPECT_GE(lines.size(), 10U) << name;
+  return lines;
+}
+
+// Nothing is looked up for no pairs, not even a market: this is the first test, and no module is loaded.
+TEST(Detection, NothingIsNowhere) { EXPECT_TRUE(_wykryj_uklad({}).empty()); }
+
+TEST(TransverseMercator, CoefficientsToTheLastBit) {
+  const auto [A, beta, delta] = _wspolczynniki();
+  EXPECT_EQ(A, 6367449.145771048);
+  EXPECT_EQ(beta, (std::array{0.0008377321681620317, 5.905870211016957e-08, 1.673482676154112e-10,
+                              2.1648237311010903e-13, 3.7940918788755123e-16}));
+  EXPECT_EQ(delta, (std::array{0.0033565514856044075, 6.5718732630720645e-06, 1.7646403789109516e-08,
+                               5.387817090169992e-11, 1.7692141010784007e-13}));
+}
+
+TEST(TransverseMercator, PositionsToTheLastBit) {
+  const Loaded host(systems_of_all_markets());
+  for (const auto& line : csv("do_geo_bits.csv"))
+    EXPECT_EQ(_do_geo(line[3], line[4], static_cast<int>(line[0])), Pair(line[5], line[6])) << line[0];
+  // The order of the factors in either sum shows in these; checked with elementary functions of 200 bits.
+  EXPECT_EQ(_do_geo(461000.0, 650000.0, 2180), Pair(0x1.dffc956e65cfep-1, 0x1.4901cee0b9d24p-2));
+  EXPECT_EQ(_do_geo(592000.0, 776000.0, 2180), Pair(0x1.ea0bee44f365bp-1, 0x1.6d2e6d89486bep-2));
+  EXPECT_EQ(_do_geo(7500000.0, 0.0, 2178), Pair(0.0, radians(21.0)));
+  EXPECT_NEAR(_do_geo(kNan, 0.0, 2178).first, std::numbers::pi / 2.0, 1e-15);  // the arc sine of no number is that of 1
+}
+
+// Against the exact projection in quadruple precision, and another library's stereographic one.
+TEST(TransverseMercator, PositionsAgreeWithReferenceValues) {
+  const Loaded host(systems_of_all_markets());
+  for (const char* name : {"tm_2176.csv", "tm_2178.csv", "tm_2178_far.csv", "tm_2180.csv", "tm_25832.csv",
+                           "tm_5650.csv", "stereo70.csv"}) {
+    double worst = 0.0;
+    Pair where;
+    for (const auto& line : csv(name)) {
+      const auto [lat, lon] = _do_geo(line[1], line[2], static_cast<int>(line[0]));
+      const double error = std::hypot(degrees(lat) - line[3], degrees(lon) - line[4]);
+      if (error <= worst) continue;
+      worst = std::isnan(error) ? kInfinity : error;
+      where = {line[1], line[2]};
+    }
+    EXPECT_LE(worst, 1e-12) << "degrees, worst of " << name << ", at " << testing::PrintToString(where);
+  }
+}
+
+std::string kind_of_failure(const std::function<void()>& operation) try {
+  operation();
+  return "";
+} catch (const Failure& failure) {
+  return failure.kind();
+}
+
+TEST(TransverseMercator, FailuresByKind) {
+  MarketData market = one_zone();
+  for (const auto& items : {std::vector{21.0, 1.0, 0.0}, {21.0, 1.0, 0.0, 0.0, 0.0}, {21.0, 0.0, 0.0, 0.0}})
+    market.UKLADY[static_cast<int>(items.size())] = {"TM", items};
+  market.KRAJ_LAT = market.KRAJ_LON = {-360.0, 360.0};
+  const Loaded host(market);
+  const struct {
+    const char* name;
+    double E, N;
+    int srid;
+    const char* kind;  // of the failure of the conversion
+    bool merely_implausible;
+  } cases[] = {
+      {"unknown system", 0.0, 0.0, 99, "KeyError", false},
+      {"record of four items", 0.0, 0.0, 3, "UnpackError", false},
+      {"record of six items", 0.0, 0.0, 5, "UnpackError", false},
+      {"scale of zero", 1e6, 5.8e6, 4, "ZeroDivisionError", true},
+      {"infinite northing", 500000.0, -kInfinity, 1, "ValueError", true},
+      {"easting beyond the hyperbolic functions", -1e10, 5.8e6, 1, "OverflowError", true},
+      {"infinite easting", kInfinity, 5.8e6, 1, "", true},
+      {"nan", kNan, kNan, 1, "", true},
+  };
+  for (const auto& [name, E, N, srid, kind, merely_implausible] : cases) {
+    SCOPED_TRACE(name);
+    EXPECT_EQ(kind_of_failure([&] { static_cast<void>(_do_geo(E, N, srid)); }), kind);
+    EXPECT_EQ(kind_of_failure([&] { EXPECT_FALSE(_sensowny(E, N, srid)); }), merely_implausible ? "" : kind);
+  }
+}
+
+// Its record holds nothing that is read, no zone is checked, and the projection is a sibling's.
+TEST(Stereo70, HasNoZone) {
+  MarketData market = vexo_xyz_dane_RO::Tables().tables();
+  market.UKLADY = {{3844, {"stereo70", {kNan}}}};
+  market.EASTING_HALF = market.LON_HALF = 0.0;
+  Loaded host(market);
+  EXPECT_TRUE(_sensowny(587785.603, 325790.205, 3844));
+  EXPECT_FALSE(_sensowny(1587785.603, 325790.205, 3844));
+  host.siblings.remove("vexo_stereo70");
+  EXPECT_THROW(static_cast<void>(_sensowny(587785.603, 325790.205, 3844)), ModuleNotFoundError);
+}
+
+TEST(Detection, BoundsBelongToTheInside) {
+  constexpr double kHair = std::numeric_limits<double>::denorm_min();
+  const struct {
+    double east;  // metres from the central meridian
+    Pair lat, lon;
+    std::optional<double> easting_half, lon_half;
+    bool plausible, plausible_exempt;
+  } cases[] = {
+      {0.0, {0.0, 1.0}, {21.0, 22.0}, {}, {}, true, true},
+      {0.0, {-1.0, 0.0}, {20.0, 21.0}, {}, {}, true, true},
+      {0.0, {kHair, 1.0}, {20.0, 22.0}, {}, {}, false, false},
+      {0.0, {-1.0, -kHair}, {20.0, 22.0}, {}, {}, false, false},
+      {0.0, {-1.0, 1.0}, {std::nextafter(21.0, 22.0), 22.0}, {}, {}, false, false},
+      {0.0, {-1.0, 1.0}, {20.0, std::nextafter(21.0, 20.0)}, {}, {}, false, false},
+      {1000.0, {-1.0, 1.0}, {20.0, 22.0}, 1000.0, {}, true, true},
+      {-1000.0625, {-1.0, 1.0}, {20.0, 22.0}, 1000.0, {}, false, true},
+      {0.0, {-1.0, 1.0}, {20.0, 22.0}, {}, 0.0, true, true},
+      {-0.0625, {-1.0, 1.0}, {20.0, 22.0}, {}, 0.0, false, true},
+  };
+  for (std::size_t i = 0; i < std::size(cases); ++i) {
+    MarketData market = one_zone();
+    const auto& [east, lat, lon, easting_half, lon_half, plausible, plausible_exempt] = cases[i];
+    std::tie(market.KRAJ_LAT, market.KRAJ_LON, market.EASTING_HALF, market.LON_HALF) =
+        std::tie(lat, lon, easting_half, lon_half);
+    EXPECT_EQ((Loaded(market), _sensowny(500000.0 + east, 0.0, 1)), plausible) << "row " << i;
+    market.ZONE_EXEMPT = {1};
+    EXPECT_EQ((Loaded(market), _sensowny(500000.0 + east, 0.0, 1)), plausible_exempt) << "exempt, row " << i;
+  }
+}
+
+// Readings as codes, "x" behind those with exchanged axes, with shares below 1.
+std::string candidates(const std::vector<Pair>& pary) {
+  std::ostringstream list;
+  for (const auto& [srid, swap, frac] : _wykryj_uklad(pary)) {
+    list << (list.tellp() == 0 ? "" : " ") << srid << (swap ? "x" : "");
+    if (frac != 1.0) list << '(' << frac << ')';
+  }
+  return list.str();
+}
+
+TEST(Detection, NineTenthsOfTheFirstTwoHundredPairs) {
+  const Loaded host(one_zone());
+  const struct {
+    std::size_t good, bad, good_again;
+    const char* found;
+  } cases[] = {{18, 2, 0, "1(0.9)"}, {17, 3, 0, ""},         {180, 20, 0, "1(0.9)"}, {179, 21, 5000, ""},
+               {200, 5000, 0, "1"},  {0, 20, 180, "1(0.9)"}, {1, 0, 0, "1"},         {0, 1, 0, ""}};
+  for (const auto& [good, bad, good_again, found] : cases) {
+    std::vector<Pair> pary(good, {500000.0, 0.0});
+    pary.resize(good + bad, {500000.0, 1e6});
+    pary.resize(good + bad + good_again, {500000.0, 0.0});
+    EXPECT_EQ(candidates(pary), found) << good << " good, " << bad << " bad, " << good_again << " good";
+  }
+}
+
+TEST(Detection, OrderedByShareThenByTheMarket) {
+  MarketData market = one_zone();
+  // 53 degrees north are 5 874 620 m from the equator; 7 and 8 count their northings 1 km higher than 9.
+  market.KRAJ_LAT = {52.0, 53.0};
+  for (const int srid : {7, 8, 9}) market.UKLADY[srid] = {"TM", {21.0, 1.0, 500000.0, srid == 9 ? 0.0 : 1000.0}};
+  std::vector<Pair> pary(18, {500000.0, 5.8e6});
+  pary.resize(20, {500000.0, 5875000.0});
+  market.KOLEJNOSC = {9, 8, 7};
+  EXPECT_EQ((Loaded(market), candidates(pary)), "8 7 9(0.9)");
+  market.KOLEJNOSC = {7, 9, 8};
+  EXPECT_EQ((Loaded(market), candidates(pary)), "7 8 9(0.9)");
+}
+
+TEST(Detection, AxesAndNames) {
+  ConsoleHost host("PL");
+  host.load();
+  EXPECT_EQ(candidates({{7500833.5, 5788456.5}}), "2178");
+  EXPECT_EQ(candidates({{5788456.5, 7500833.5}}), "2178x");
+  EXPECT_EQ(candidates({{500000.0, 460000.0}}), "2180 2180x");
+  EXPECT_EQ(candidates({{1000.0, 2000.0}}), "");
+  EXPECT_EQ(_uklad_nazwa(2178), "PL-2000 strefa 7 (EPSG:2178)");
+  EXPECT_EQ(_uklad_nazwa(3844), "EPSG:3844");
+}
+
+}  // namespace
+}  // namespace vexo_xyz_impl

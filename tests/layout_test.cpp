@@ -1,0 +1,155 @@
+#include "vexo_xyz_impl/table/layout.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <random>
+#include <string>
+#include <string_view>
+#include <tuple>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "tests/support/console_host.h"
+#include "vexo_xyz_impl/crs/detection.h"
+#include "vexo_xyz_impl/failure.h"
+#include "vexo_xyz_impl/input/text_reader.h"
+#include "vexo_xyz_impl/table/points.h"
+#include "vexo_xyz_impl/table/text_height.h"
+
+namespace vexo_xyz_impl {
+namespace {
+
+// A Polish host whose catalogue shows keys, some of them with the values that they are given.
+struct Host : testing_support::ConsoleHost {
+  Host() {
+    std::map<std::string, std::string, std::less<>> texts{{"xyz.pow_za_malo_kolumn", "xyz.pow_za_malo_kolumn(%d, %d)"}};
+    for (const char* key : {"xyz.fmt_n_nrxyz", "xyz.fmt_n_xyz", "xyz.fmt_niejasny"})
+      texts[key] = key + std::string("(%d)");
+    siblings.add("vexo_teksty", std::make_unique<testing_support::OwnTexts>(texts));
+    load();
+  }
+};
+
+Table read(std::string_view text) { return table_from_bytes({text.begin(), text.end()}); }
+
+// Layout, key of the description, number of data rows.
+std::string verdict_on(std::span<const Row> rows) {
+  const auto [fmt, opis, dane] = _wykryj_format(rows);
+  EXPECT_TRUE(opis.starts_with("xyz.fmt_")) << opis;
+  return std::string(fmt ? layout_code(*fmt) : "?") + " " + opis.substr(8) + " " + std::to_string(dane.size());
+}
+
+TEST(Layout, RowsToVerdict) {
+  const Host host;
+  const struct {
+    const char* name;
+    std::string_view text;
+    const char* verdict;
+  } cases[] = {
+      // Which rows are data.
+      {"no rows", "", "? mniej_2 0"},
+      {"one column", "1\n2\n3 4", "? mniej_2 0"},
+      {"numbers that are no neighbours", "1 A 2\n3 B 4", "? brak_danych 0"},
+      {"equally common lengths: the greater", "1 2 3\n1 2 3\nP 1 2 3\nP 4 5 6", "NrXYZ n_nrxyz(4) 2"},
+      {"the commonest length, not the greatest", "1 2\nA 1 2 3\n3 4", "XY 2kol 3"},
+      {"header above numbers", "Nr;X;Y;Z\n1;10;20;5\n2;14;25;5\n3;19;28;5", "NrXYZ n_nrxyz(4) 3"},
+      {"header with a number", "Y 2000 Z\nP 1 2\nQ 3 4", "NrXY 3_nrxy 2"},
+      {"short rows dropped, long ones kept", "P 1 2\nQ 1 2\nR 1\nS 3 4 x\nT 5 6 7 8", "NrXY 3_nrxy 4"},
+      {"two columns", "X Y\n1 2\n3 4\nP 5 x", "XY 2kol 2"},
+      // A label that is no number settles it, before any coordinate system is tried.
+      {"one label among numbers", "1 2 3\n2 2 3\nA-3 2 3", "NrXY 3_nrxy 3"},
+      {"one label among coordinates", "5788456 7500833 1\nA 7500834 5788457", "NrXY 3_nrxy 2"},
+      // Coordinate systems: columns 1 and 2 (A), columns 2 and 3 (B).
+      {"B, the same number", "7;5788456,5;7500833,5\n7;5788490;7500850", "NrXY 3_nrxy 2"},
+      {"A, two rows", "5788456 7500833 110,5\n5788490 7500850 110,7", "XYZ 3_xyz 2"},
+      {"A, whole and rising", "5788456 7500833 1 0\n5788457 7500850 1 0\n5788458 7500890 1 0", "XYZ n_xyz(4) 3"},
+      {"both", "450000.5 500000 480000\n450001.5 500010 480000\n450002.5 500020 480000", "? niejasny(3) 3"},
+      {"both, long numbers", "400001 500000 480000\n400002 500010 480050\n400003 500020 480090", "NrXY 3_nrxy 3"},
+      // Neither: whole rising numbers that span less than the column beside them are a numbering.
+      {"gaps, and a fall beside them", "-5 900 1 0\n7 300 1 0\n1e2 100 1 0", "NrXYZ n_nrxyz(4) 3"},
+      {"two rows", "1 10 1\n2 20 1", "? niejasny(3) 2"},
+      {"equal spans", "1 5 1\n2 6 1\n3 7 1", "? niejasny(3) 3"},
+      {"the same number twice", "1 10 1\n2 20 1\n2 30 1", "? niejasny(3) 3"},
+      {"whole within 1e-9", "1,0000000005 10 1\n1,9999999995 20 1\n3 30 1", "NrXY 3_nrxy 3"},
+      {"not whole by 2e-9", "1,000000002 10 1\n2 20 1\n3 30 1", "? niejasny(3) 3"},
+      // A nan compares with nothing, so it only spoils a span when it comes first.
+      {"nan among the numbers", "1 10 1\nnan 20 1\n3 30 1", "? niejasny(3) 3"},
+      {"nan beside them, first", "1 nan 1\n2 20 1\n3 30 1", "? niejasny(3) 3"},
+      {"nan beside them, last", "1 10 1\n2 20 1\n3 nan 1", "NrXY 3_nrxy 3"},
+      {"inf behind the numbers", "1 10 1\n2 20 1\ninf 30 1", "? niejasny(3) 3"},
+      {"inf beside them", "1 10 1\n2 inf 1\n3 30 1", "NrXY 3_nrxy 3"},
+  };
+  for (const auto& [name, text, verdict] : cases) {
+    const Table table = read(text);
+    EXPECT_EQ(verdict_on(table.rows()), verdict) << name;
+  }
+  const Table label_and_number = read("1 2\n3 4\nP12 5\n6 7");
+  EXPECT_THROW(static_cast<void>(_wykryj_format(label_and_number.rows())), IndexError);
+}
+
+// Where a labelled row stands says nothing about its columns.
+TEST(Layout, OrderOfLabelledRowsIsIrrelevant) {
+  const Host host;
+  std::string text = "Nr N E H\nkoniec\nP0 5788456 1,5 100\nP00 1,5 7500833 100\n";
+  for (int i = 10; i < 40; ++i) text += "P 57884" + std::to_string(i) + ",25 75008" + std::to_string(i) + ",5 99\n";
+  const Table table = read(text);
+  std::vector<Row> rows = table.rows();
+  std::mt19937 random(7);
+  for (int i = 0; i < 20; ++i, std::shuffle(rows.begin(), rows.end(), random)) {
+    EXPECT_EQ(verdict_on(rows), "NrXYZ n_nrxyz(4) 32");
+    const auto candidates = _wykryj_uklad(_pary(_wykryj_format(rows).dane, 1, 2));
+    ASSERT_EQ(candidates.size(), 1U);
+    EXPECT_EQ(std::tuple(candidates[0].srid, candidates[0].swap, candidates[0].frac),
+              std::tuple(2178, true, 30.0 / 32));
+  }
+}
+
+TEST(Points, RowsToPointsAndSkippedLines) {
+  const Host host;
+  // Points as "number x y z", then skipped lines as "row! key of the reason: text".
+  const struct {
+    std::string_view text;
+    Layout fmt;
+    std::string results;
+  } cases[] = {
+      {"", Layout::NrXYZ, ""},
+      {"P7;1 234,5;6 789,0\n01,50;1;2\nnan;3;4", Layout::NrXY, "P7 1234.5 6789 0\n01,50 1 2 0\nnan 3 4 0\n"},
+      {"A 1 2 -3,5 x 9\n1 4 5 6", Layout::NrXYZ, "A 1 2 -3.5\n1 4 5 6\n"},
+      {"1 2 3\n4 5 x", Layout::XY, "1 1 2 0\n2 4 5 0\n"},
+      {"1 2 3\n1 2 -\n4 5 6", Layout::XYZ, "1 1 2 3\n2 4 5 6\n2! naglowek: 1 2 -\n"},
+      {"P1;100,5;200,25", Layout::NrXYZ, "1! za_malo_kolumn(3, 4): P1 100,5 200,25\n"},
+      {"X Y\n1 2\nA x\n3 4\n5", Layout::XY,
+       "1 1 2 0\n2 3 4 0\n1! naglowek: X Y\n3! naglowek: A x\n5! za_malo_kolumn(1, 2): 5\n"},
+      // Cut after 40 characters of one to four bytes; the last may be the blank between two cells.
+      {"zażółć gęślą jaźń \U0001F4CD 234567890 234567890 koniec", Layout::XY,
+       "1! naglowek: zażółć gęślą jaźń \U0001F4CD 234567890 234567890 \n"},
+      {"ąćęłńóśźż0ąćęłńóśźż0ąćęłńóśźż0ąćęłńóśźż0końcówka;b", Layout::XY,
+       "1! naglowek: ąćęłńóśźż0ąćęłńóśźż0ąćęłńóśźż0ąćęłńóśźż0\n"},
+  };
+  for (const auto& [text, fmt, results] : cases) {
+    const Table table = read(text);
+    const Decomposition taken_apart = _rozbierz(table.rows(), fmt);
+    std::ostringstream got;
+    for (const auto& [nr, x, y, z] : taken_apart.punkty) got << nr << ' ' << x << ' ' << y << ' ' << z << '\n';
+    for (const auto& [row, reason, line] : taken_apart.pominiete)
+      got << row << "! " << reason.substr(reason.find('_') + 1) << ": " << line << '\n';
+    EXPECT_EQ(got.str(), results) << text;
+  }
+}
+
+TEST(TextHeight, RoundHeights) {
+  constexpr double kInfinity = std::numeric_limits<double>::infinity();
+  // Pairs of raw and round: the nearest, the smaller of two equally near; whole tens above 100, halves to the even one.
+  std::istringstream heights(
+      "0 2.5 -3 2.5 1e-9 0.1 0.15 0.1 1.207 1.2 1.36 1.5 2.25 2 87.4 75 87.5 75 87.6 100 96 100 100 100 100.0001 100 "
+      "104.9 100 105 100 105.1 110 115 120 125.1 130 145 140 155 160");
+  for (double raw = 0.0, round = 0.0; heights >> raw >> round;) EXPECT_EQ(_rowna_wysokosc(raw), round) << raw;
+  EXPECT_EQ(_rowna_wysokosc(std::nan("")), 0.1);
+  EXPECT_EQ(_rowna_wysokosc(-kInfinity), 2.5);
+  EXPECT_THROW(static_cast<void>(_rowna_wysokosc(kInfinity)), OverflowError);
+}
+
+}  // namespace
+}  // namespace vexo_xyz_impl

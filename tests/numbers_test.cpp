@@ -1,0 +1,114 @@
+#include "vexo_xyz_impl/table/numbers.h"
+
+#include <bit>
+#include <cmath>
+#include <cstdint>
+#include <cstdio>
+#include <limits>
+#include <random>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "vexo_xyz_impl/failure.h"
+
+namespace vexo_xyz_impl {
+namespace {
+
+using namespace std::string_view_literals;
+
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+
+// Equal to the last bit, so that -0.0 is not 0.0; any nan equals any other.
+void expect_number(std::string_view tok, double expected) {
+  SCOPED_TRACE(testing::PrintToString(tok));
+  ASSERT_TRUE(_czy_liczba(tok));
+  const double number = _num(tok);
+  if (std::isnan(number) && std::isnan(expected)) return;
+  EXPECT_EQ(std::bit_cast<std::uint64_t>(number), std::bit_cast<std::uint64_t>(expected)) << number;
+}
+
+TEST(Numbers, TokensThatAreNumbers) {
+  const std::string zeros(400, '0');
+  const struct {
+    double number;
+    std::vector<std::string> spellings;
+  } cases[] = {
+      {5.0, {"5", "5.", "5,", "+5", "005", "5e0", "0.05E+2", "5" + zeros + "e-400", "0," + zeros + "5e401"}},
+      {0.5, {".5", ",5", "+.5", "0,5", "5e-1", "5.e-01"}},
+      {-0.0, {"-0", "-,0", "-0e400", "-1e-400", "-0.000e99999999999999999999", "-0," + zeros + "1e5"}},
+      // Blanks and no-break spaces are removed wherever they stand, other white space at the ends only.
+      {12345.67, {"12 345,67", "12\u00A0345,67", " 1 2345 , 67 ", "\u00A0123\u00A0\u00A045.67\u00A0", "1234 567e - 2"}},
+      {-7.25, {" -7.25\t", "- 7,25", "\r\n-7,25\v\f", "\u2009-7,25\u202F", "\u3000\u2003 \u0085-7,25 \u2028\u1680"}},
+      // Single underscores between digits, also where a blank stood beside one.
+      {1000.5, {"1_000,5", "1_0_0_0.5", "1000.5_0", "1 _000.5", "1_ 000.5", "1_0.005e0_2", "1_000,5\t"}},
+      // Digits of other scripts: Arabic-Indic, Devanagari, fullwidth, of four bytes; mixed; in an exponent.
+      {12.5, {"\u0661\u0662,\u0665", "\u0967\u0968.5", "\uFF11\uFF12.\uFF15", "\U0001D7CF2.\U0001D7FB"}},
+      {12.5, {"1\u0662,5", "1_\u0662,5", "\u0661\u00A0\u0662,5\t", "125e-\u0661", "0.125e\u0660\uFF12"}},
+      // Words.
+      {kInfinity, {"inf", "INF", "+Infinity", "iNfInItY", "i n f", "\tinf\u2003"}},
+      {-kInfinity, {"-inf", "-INFINITY", "- inf", "-1e400", "-1e99999999999999999999"}},
+      {std::nan(""), {"nan", "NaN", "-nan", "+NAN", "n\u00A0an"}},
+      // To nearest, ties to even; the ends of the range; exponents that no integer holds, or just so.
+      {9007199254740992.0, {"9007199254740992", "9007199254740993", "9007199254740993." + zeros}},
+      {9007199254740994.0, {"9007199254740993." + zeros + "1", "9007199254740993." + zeros + "1_0"}},
+      {0x1.fffffffffffffp1023,
+       {"1,7976931348623157e308", "1.7976931348623158e308", "17976931348623157" + zeros + "e-108"}},
+      {kInfinity, {"1.7976931348623159e308", "1e400", "1" + zeros, zeros + "1e400", "1e9223372036854775807"}},
+      {0x0.fffffffffffffp-1022, {"2.2250738585072011e-308", "2,225073858507201e-308"}},
+      {0x1p-1074, {"4.9e-324", "5e-324", "2.4703282292062328e-324", "0." + zeros + "5e77"}},
+      {0.0, {"2.4703282292062327e-324", "0." + zeros + "1e5", "1e-400", "0e400", "0,0e99999999999999999999"}},
+      {0.0, {"1e-99999999999999999999", "0.01e-9223372036854775807", zeros + zeros + ",e1"}},
+  };
+  for (const auto& [number, spellings] : cases)
+    for (const std::string& tok : spellings) expect_number(tok, number);
+}
+
+TEST(Numbers, TokensThatAreNot) {
+  const std::vector<std::string_view> cases[] = {
+      {"", " ", "\u00A0 \u00A0", "\t", ".", ",", "-", "+.", "-+5", "--5", "+ -5", "5-", "P12", "12a", "5%", "1/2"},
+      // Two decimal marks, other marks, other thousands.
+      {"1,234,5", "1.234,5", "1.234.567,89", "1,,5", "1'234", "1;2", "1\u066B5", "5\uFF0E4", "1\u20092", "1\u202F2"},
+      // White space inside, what is no white space at the ends, signs of other kinds.
+      {"1\t2", "-\t5", "5\u200B", "\uFEFF5", "\u180E5", "\u22125", "\uFF0B5"},
+      // Exponents without digits or with more than digits; other notations.
+      {"e5", ".e5", "1e", "1e+", "1e+-5", "1e5,5", "1e5e5", "1d5", "1f", "0x10", "0x1p3", "0b1"},
+      // Underscores that do not stand singly between digits.
+      {"_", "_1", "1_", "1__0", "1_.5", "1._5", "1_e5", "1e_5", "-_1", "1e-_5", "i_nf", "1_\t"},
+      {"in", "infin", "infinityx", "nan(1)", "nano", "1nan", "inf5", "+-inf", "\u0131nf"},
+      // Numeric characters that are no decimal digits; NUL, a character like others; what is not UTF-8.
+      {"\u00B2", "\u00BD", "\u2167", "\u4E00", "1\u06955", "\0"sv, "5\0"sv, "1\0002"sv},
+      {"5\x80", "\xC2", "5\xC2", "\2405", "\xC0\xB5", "\xED\xA0\x80", "5\t\x80"},
+  };
+  for (const auto& tokens : cases) {
+    for (const std::string_view tok : tokens) {
+      EXPECT_FALSE(_czy_liczba(tok)) << testing::PrintToString(tok);
+      EXPECT_THROW(static_cast<void>(_num(tok)), ValueError) << testing::PrintToString(tok);
+    }
+  }
+  EXPECT_FALSE(_czy_liczba(std::string(1000, '7') + "," + std::string(1000, '7') + ","));
+}
+
+// Whatever a program wrote with 17 digits comes back, with a comma, with blanks in it, with a digit of another script.
+TEST(Numbers, EveryDoubleComesBackBitForBit) {
+  std::mt19937_64 random(20240229);
+  for (int i = 0; i < 20000 && !HasFailure(); ++i) {
+    // Any bit pattern, and coordinates in metres, which random bits never are.
+    const double value = i % 2 == 0 ? std::bit_cast<double>(random()) : static_cast<double>(random() >> 11U) * 0x1p-30;
+    if (!std::isfinite(value)) continue;
+    char printed[64];
+    ASSERT_GT(std::snprintf(printed, sizeof printed, "%.17g", value), 0);
+    std::string dressed;
+    for (const char c : std::string_view(printed)) {
+      dressed += c == '.' ? "," : c == '3' && i % 3 == 0 ? "\uFF13" : std::string(1, c);
+      dressed += random() % 4 == 0 ? " " : random() % 8 == 0 ? "\u00A0" : "";
+    }
+    expect_number(printed, value);
+    expect_number(dressed, value);
+  }
+}
+
+}  // namespace
+}  // namespace vexo_xyz_impl
