@@ -59,7 +59,7 @@ constexpr auto kPolish = [] {
       {"xyz.uklad_wykryto", "\nRozpoznany układ współrzędnych: %s.\n"},
       {"xyz.uklad_zamiana", "W pliku X to współrzędna północna: zamieniono X i Y, aby w rysunku północ była u góry.\n"},
       {"xyz.uklad_nierozpoznany",
-       "\nNie rozpoznano układu współrzędnych (układ lokalny?). Punkty wstawiono tak, jak stoją w pliku.\n"},
+       "\nNie rozpoznano układu współrzędnych (układ lokalny?). Punkty zostaną wstawione tak, jak stoją w pliku.\n"},
       {"xyz.osie_niejednoznaczne",
        "\nWspółrzędne pasują do więcej niż jednego odczytu. Położenie pierwszego punktu według każdego z nich:\n"},
       {"xyz.osie_wiersz", "  %s: %s, szerokość %.6f°, długość %.6f°\n"},
