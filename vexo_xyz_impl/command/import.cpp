@@ -40,7 +40,8 @@ void notify_failure(const FailureNote& failure) {
 
 // The table; empty, with the user told why, when the file cannot be used.
 std::optional<Table> read_table(const std::string& path) {
-  LoadResult loaded = _wczytaj(path);
+  LoadResult loaded;
+  host::run_work([&] { loaded = _wczytaj(path); });
   if (loaded.typ == FileType::xls_stary) {
     print("xyz.xls_stary_1");
     print("xyz.xls_stary_2");
@@ -58,12 +59,13 @@ CommandOutcome import_file(const std::string& path) {
   const auto table = read_table(path);
   if (!table) return CommandOutcome::failed;
 
-  LayoutVerdict verdict = _wykryj_format(table->rows());
+  LayoutVerdict verdict;
+  host::run_work([&] { verdict = _wykryj_format(table->rows()); });
   if (!verdict.fmt && !ask_layout(verdict)) return CommandOutcome::nothing_done;
   Decomposition read;
   if (verdict.fmt) {
     announce_layout(verdict);
-    read = _rozbierz(verdict.dane, *verdict.fmt);
+    host::run_work([&] { read = _rozbierz(verdict.dane, *verdict.fmt); });
   }
   if (read.punkty.empty()) {
     print("xyz.zero_wierszy");

@@ -19,4 +19,16 @@ const Bindings& bound() {
   return *slot();
 }
 
+bool is_bound() { return slot().has_value(); }
+
+void unbind() { slot().reset(); }
+
+void run_work(const std::function<void()>& work) {
+  if (Worker* worker = bound().host.worker) {
+    worker->run(work);
+  } else {
+    work();
+  }
+}
+
 }  // namespace vexo_xyz_impl::host

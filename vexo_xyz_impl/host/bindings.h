@@ -4,6 +4,8 @@
 // Module set-up (command/module.h) is the only one that calls `bind`.
 #pragma once
 
+#include <functional>
+
 #include "vexo_xyz_impl/host/command_line.h"
 #include "vexo_xyz_impl/host/database.h"
 #include "vexo_xyz_impl/host/market_data.h"
@@ -17,6 +19,7 @@ struct Host {
   CommandTable& commands;
   DatabaseServices& database;
   SiblingLoader& siblings;
+  Worker* worker = nullptr;  ///< none: work is simply done
 };
 
 /// A host together with what loading has found.
@@ -32,6 +35,15 @@ void bind(const Bindings& bindings);
 
 /// What was bound. Fails with ImportError before any load.
 [[nodiscard]] const Bindings& bound();
+
+/// Whether a load has bound anything.
+[[nodiscard]] bool is_bound();
+
+/// Forgets what was bound, when the host that it belongs to goes away.
+void unbind();
+
+/// Does `work` through the bound host's worker.
+void run_work(const std::function<void()>& work);
 
 /// The bound host's command line, for short.
 [[nodiscard]] inline CommandLine& command_line() { return bound().host.command_line; }

@@ -42,6 +42,14 @@ enum class CommandOutcome { done, nothing_done, failed };
 
 using CommandFunction = std::function<CommandOutcome()>;
 
+/// Runs work that does not concern the host, so that one that guards its interpreter with a lock can let go of it.
+/// What the work does call of the host (texts, siblings) must then take the lock itself.
+class Worker {
+ public:
+  virtual ~Worker() = default;
+  virtual void run(const std::function<void()>& work) = 0;
+};
+
 class CommandTable {
  public:
   virtual ~CommandTable() = default;

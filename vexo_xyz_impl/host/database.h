@@ -4,6 +4,7 @@
 // a status and, with `eOk` only, an object. Every operation may also fail with an exception of the host's.
 #pragma once
 
+#include <exception>
 #include <memory>
 #include <string_view>
 #include <utility>
@@ -26,8 +27,9 @@ class OpenObject {
 
 /// Owns one opening of a host object and closes it exactly once on every path.
 ///
-/// On the way out of a failure the object is closed quietly, for the first failure is the one to report, and so it is
-/// by `discard()`; on the ordinary path `finish()` closes it and lets a failure of closing travel to the caller.
+/// On the way out of a failure the object is closed quietly, for the first failure is the one to report; on the
+/// ordinary path `finish()` closes it and lets a failure of closing travel to the caller, and `discard()` closes it
+/// without a word about an ordinary failure.
 template <class Object>
 class Opened {
  public:
@@ -37,18 +39,26 @@ class Opened {
   Opened(const Opened&) = delete;
   Opened& operator=(Opened&&) = delete;
   Opened& operator=(const Opened&) = delete;
-  ~Opened() { discard(); }
+  ~Opened() {
+    try {
+      finish();
+    } catch (...) {  // NOLINT(bugprone-empty-catch): an earlier failure is already on its way
+    }
+  }
 
   void finish() {
     if (const std::unique_ptr<Object> closing = std::move(object_)) closing->close();
   }
 
-  void discard() noexcept {
+  void discard() {
     try {
       finish();
-    } catch (...) {  // NOLINT(bugprone-empty-catch): by contract a failure of closing is not worth a word here
+    } catch (const std::exception&) {  // NOLINT(bugprone-empty-catch): what is thrown away cannot fail
     }
   }
+
+  /// Hands the opening over to the caller, who closes it.
+  [[nodiscard]] std::unique_ptr<Object> release() { return std::move(object_); }
 
   explicit operator bool() const { return object_ != nullptr; }
   Object* operator->() const { return object_.get(); }
