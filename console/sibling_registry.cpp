@@ -2,8 +2,8 @@
 
 #include <utility>
 
-#include "console/log_file.h"
 #include "siblings/vexo_boot/boot.h"
+#include "siblings/vexo_boot/log_file.h"
 #include "siblings/vexo_cad_core/cad_core.h"
 #include "siblings/vexo_reaktywne_core/reaktywne_core.h"
 #include "siblings/vexo_rynek/rynek.h"
@@ -38,7 +38,7 @@ void add_family(SiblingRegistry& registry, Database& database, const Choice& cho
   registry.add("vexo_xyz_dane_DE", std::make_unique<vexo_xyz_dane_DE::Tables>());
   registry.add("vexo_xyz_dane_RO", std::make_unique<vexo_xyz_dane_RO::Tables>());
   registry.add("vexo_cad_core", std::make_unique<vexo_cad_core::Styling>(database));
-  registry.add("vexo_boot", std::make_unique<vexo_boot::Notices>(append_to_log));
+  registry.add("vexo_boot", std::make_unique<vexo_boot::Notices>(vexo_boot::append_to_log));
   registry.add("vexo_reaktywne_core", std::make_unique<vexo_reaktywne_core::ReactiveCore>(database));
   registry.add("vexo_stereo70", std::make_unique<vexo_stereo70::Projection>());
 }

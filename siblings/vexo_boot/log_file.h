@@ -3,9 +3,9 @@
 
 #include <string_view>
 
-namespace console {
+namespace vexo_boot {
 
 /// Appends a line. A log that cannot be written is no reason to stop: then nothing happens.
 void append_to_log(std::string_view line);
 
-}  // namespace console
+}  // namespace vexo_boot

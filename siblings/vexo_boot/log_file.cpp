@@ -1,4 +1,4 @@
-#include "console/log_file.h"
+#include "siblings/vexo_boot/log_file.h"
 
 #include <cstdlib>
 #include <filesystem>
@@ -6,7 +6,7 @@
 #include <optional>
 #include <system_error>
 
-namespace console {
+namespace vexo_boot {
 namespace {
 
 std::optional<std::filesystem::path> state_folder() {
@@ -29,4 +29,4 @@ void append_to_log(std::string_view line) {
   std::ofstream(*state / "vexo-xyz" / "log", std::ios::app) << line << '\n';
 }
 
-}  // namespace console
+}  // namespace vexo_boot
