@@ -44,7 +44,12 @@ bool Session::output_is_refused() {
     say("konsola.plik_zrodlowy", {options_.output->string()});
     return true;
   }
-  if (!options_.force && std::filesystem::exists(*options_.output, ignored)) {
+  const auto status = std::filesystem::status(*options_.output, ignored);
+  if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status)) {
+    say("konsola.blad_zapisu", {options_.output->string(), "not a regular file"});
+    return true;
+  }
+  if (!options_.force && std::filesystem::exists(status)) {
     say("konsola.plik_istnieje", {options_.output->string()});
     return true;
   }

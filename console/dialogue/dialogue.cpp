@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <ostream>
 
+#include "console/dialogue/shown_text.h"
 #include "vexo_xyz_impl/command/keywords.h"
 #include "vexo_xyz_impl/host/messages.h"
 #include "vexo_xyz_impl/text/utf8.h"
@@ -13,8 +14,6 @@ using namespace vexo_xyz_impl::host;  // NOLINT(google-build-using-namespace): t
 namespace text = vexo_xyz_impl::text;
 
 namespace {
-
-constexpr std::string_view kReplacement = "\xEF\xBF\xBD";
 
 char lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
 
@@ -45,24 +44,7 @@ std::vector<std::string> matches(const std::vector<std::string>& keywords, std::
   return found;
 }
 
-bool may_be_shown(char32_t code_point) {
-  return code_point == '\n' || code_point == '\t' ||
-         (code_point >= 0x20 && code_point != 0x7F && !(code_point >= 0x80 && code_point < 0xA0));
-}
-
 }  // namespace
-
-std::string without_control_characters(std::string_view raw) {
-  std::string shown;
-  shown.reserve(raw.size());
-  for (std::size_t at = 0; at < raw.size();) {
-    const auto code_point = text::decode(raw, at);
-    const std::size_t bytes = code_point ? code_point->bytes : 1;
-    shown += code_point && may_be_shown(code_point->value) ? raw.substr(at, bytes) : kReplacement;
-    at += bytes;
-  }
-  return shown;
-}
 
 Dialogue::Dialogue(LineSource& lines, std::ostream& out, SystemVariables& variables, std::optional<std::string> file,
                    std::vector<PreparedAnswer> answers)
@@ -121,7 +103,7 @@ void Dialogue::explain(const std::string& answer, std::size_t matches) {
                                    {std::string_view(answer), std::string_view(words)}));
 }
 
-void Dialogue::gcutPrintf(std::string_view text) { out_ << without_control_characters(text) << std::flush; }
+void Dialogue::gcutPrintf(std::string_view text) { out_ << shown_text(text) << std::flush; }
 
 PromptStatus Dialogue::gcedSetVar(std::string_view name, const resbuf& value) {
   if (name == "PDMODE" && value.restype == RTSHORT) {

@@ -61,8 +61,4 @@ class Dialogue final : public vexo_xyz_impl::host::CommandLine {
   std::vector<std::string> keywords_;
 };
 
-/// A text as it may go to a terminal: control characters other than line ends and tabs, which could steer it, are
-/// replaced by U+FFFD, and so is what is not UTF-8.
-[[nodiscard]] std::string without_control_characters(std::string_view raw);
-
 }  // namespace console

@@ -2,6 +2,7 @@
 #include <ostream>
 
 #include "console/dialogue/line_source.h"
+#include "console/dialogue/shown_text.h"
 
 namespace console {
 namespace {
@@ -18,7 +19,7 @@ class StreamLines final : public LineSource {
     const bool read = static_cast<bool>(std::getline(in_, line));
     if (read && line.ends_with('\r')) line.pop_back();
     const bool answered = read && line.find(kEscape) == std::string::npos;
-    out_ << (answered ? line : std::string()) << '\n';
+    out_ << (answered ? shown_text(line) : std::string()) << '\n';
     return answered ? std::optional(std::move(line)) : std::nullopt;
   }
 

@@ -11,6 +11,8 @@
 #include <unistd.h>
 
 #include "console/dialogue/line_source.h"
+#include "console/dialogue/path_completion.h"
+#include "console/dialogue/shown_text.h"
 #include "vexo_xyz_impl/text/utf8.h"
 
 namespace console {
@@ -45,7 +47,7 @@ class TerminalLines final : public LineSource {
     el_set(editor_.get(), EL_EDITOR, "emacs");
     el_set(editor_.get(), EL_PROMPT, &TerminalLines::prompt_of);
     el_wset(editor_.get(), EL_GETCFN, &TerminalLines::read_key);
-    el_set(editor_.get(), EL_ADDFN, "complete-file-name", "Complete a file name", _el_fn_complete);
+    el_set(editor_.get(), EL_ADDFN, "complete-path", "Complete a path", &TerminalLines::complete);
   }
 
   std::optional<std::string> read_line(std::string_view prompt, Completion completion) override {
@@ -53,7 +55,7 @@ class TerminalLines final : public LineSource {
     const std::size_t last_line = prompt.rfind('\n') + 1;
     out_ << prompt.substr(0, last_line) << std::flush;
     prompt_ = prompt.substr(last_line);
-    el_set(editor_.get(), EL_BIND, "\t", completion == Completion::file_names ? "complete-file-name" : "ed-unassigned",
+    el_set(editor_.get(), EL_BIND, "\t", completion == Completion::file_names ? "complete-path" : "ed-unassigned",
            nullptr);
     escaped_ = false;
     int count = 0;
@@ -82,6 +84,21 @@ class TerminalLines final : public LineSource {
   }
 
   static char* prompt_of(EditLine* editor) { return self_of(editor).prompt_.data(); }
+
+  // The library's own completion spells blanks and quotes as a shell would, which no path prompt takes.
+  static unsigned char complete(EditLine* editor, int /*key*/) {
+    const LineInfo* line = el_line(editor);
+    const std::string_view typed(line->buffer, static_cast<std::size_t>(line->cursor - line->buffer));
+    const PathCompletion completion = complete_path(typed);
+    if (!completion.addition.empty()) {
+      return el_insertstr(editor, completion.addition.c_str()) == 0 ? CC_REFRESH : CC_ERROR;
+    }
+    if (completion.names.size() < 2) return CC_ERROR;
+    std::ostream& out = self_of(editor).out_;
+    for (const std::string& name : completion.names) out << '\n' << without_control_characters(name);
+    out << '\n' << std::flush;
+    return CC_REDISPLAY;
+  }
 
   static int read_key(EditLine* editor, wchar_t* key) {
     std::array<char, 4> bytes{};

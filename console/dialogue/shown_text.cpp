@@ -1,0 +1,49 @@
+#include "console/dialogue/shown_text.h"
+
+#include <cstddef>
+
+#include "vexo_xyz_impl/text/utf8.h"
+
+namespace console {
+namespace {
+
+namespace text = vexo_xyz_impl::text;
+
+constexpr std::string_view kReplacement = "\xEF\xBF\xBD";
+constexpr std::size_t kMostBytes = 8000;  // some screens
+constexpr std::size_t kHeadCharacters = 1500;
+constexpr std::size_t kTailBytes = 500;
+
+bool may_be_shown(char32_t code_point) {
+  return code_point == '\n' || code_point == '\t' ||
+         (code_point >= 0x20 && code_point != 0x7F && !(code_point >= 0x80 && code_point < 0xA0));
+}
+
+// The end of a text, from the beginning of a character on.
+std::string_view tail(std::string_view raw) {
+  std::string_view end = raw.substr(raw.size() - kTailBytes);
+  while (!end.empty() && !text::decode(end, 0)) end.remove_prefix(1);
+  return end;
+}
+
+}  // namespace
+
+std::string without_control_characters(std::string_view raw) {
+  std::string shown;
+  shown.reserve(raw.size());
+  for (std::size_t at = 0; at < raw.size();) {
+    const auto code_point = text::decode(raw, at);
+    const std::size_t bytes = code_point ? code_point->bytes : 1;
+    shown += code_point && may_be_shown(code_point->value) ? raw.substr(at, bytes) : kReplacement;
+    at += bytes;
+  }
+  return shown;
+}
+
+std::string shown_text(std::string_view raw) {
+  if (raw.size() <= kMostBytes) return without_control_characters(raw);
+  return without_control_characters(text::first_characters(raw, kHeadCharacters)) + " … " +
+         without_control_characters(tail(raw));
+}
+
+}  // namespace console
