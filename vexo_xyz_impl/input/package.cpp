@@ -1,6 +1,8 @@
 #include "vexo_xyz_impl/input/package.h"
 
 #include <algorithm>
+#include <filesystem>
+#include <system_error>
 #include <utility>
 
 #include <zip.h>
@@ -63,6 +65,8 @@ Package::Package(const std::string& path) {
     if (code == ZIP_ER_OPEN || code == ZIP_ER_READ || code == ZIP_ER_NOENT) throw OSError(path + ": " + reason);
     throw BadZipFile("not a sound workbook (a ZIP package): " + reason);
   }
+  std::error_code unknown;
+  size_ = std::filesystem::file_size(path, unknown);
   const zip_int64_t count = zip_get_num_entries(archive_.get(), 0);
   for (zip_int64_t i = 0; i < count; ++i) {
     const auto index = static_cast<zip_uint64_t>(i);
@@ -84,7 +88,8 @@ std::vector<char> Package::read(std::string_view name) const {
   if (zip_stat_index(archive_.get(), index, 0, &claimed) != 0 || (claimed.valid & ZIP_STAT_SIZE) == 0) {
     throw BadZipFile(quoted(name) + " has no size");
   }
-  refuse_if_too_large(name, claimed.size, claimed.comp_size);
+  const std::uint64_t packed = std::min<std::uint64_t>(claimed.comp_size, size_);
+  refuse_if_too_large(name, claimed.size, packed);
 
   const std::unique_ptr<zip_file_t, CloseMember> member(zip_fopen_index(archive_.get(), index, 0));
   if (!member) {
@@ -103,7 +108,7 @@ std::vector<char> Package::read(std::string_view name) const {
     if (got == 0) break;
     filled += static_cast<std::size_t>(got);
     if (filled < content.size()) continue;
-    refuse_if_too_large(name, filled, claimed.comp_size);
+    refuse_if_too_large(name, filled, packed);
     content.resize(content.size() + kBlock);
   }
   content.resize(filled);

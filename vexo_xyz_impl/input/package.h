@@ -50,6 +50,7 @@ class Package {
   };
 
   std::unique_ptr<zip, Close> archive_;
+  std::uint64_t size_ = 0;  // of the whole package: no member is packed larger, whatever it claims
   std::map<std::string, std::uint64_t, std::less<>> members_;  // name to index
 };
 

@@ -63,14 +63,15 @@ class Matches {
     while (true) {
       at_ = text_.find(element_.opening, at_);
       if (at_ == std::string_view::npos || !find_tag_end()) break;
-      const bool worth_trying = may_match();
-      if (const auto match = worth_trying ? element_.pattern.find(text_, at_) : std::nullopt) {
+      if (!opening_is_whole()) {
+        ++at_;
+        continue;
+      }
+      if (const auto match = may_match() ? element_.pattern.find(text_, at_) : std::nullopt) {
         at_ = match->end;
         return match;
       }
-      // Another opening before the end of this tag would have the same end and fail as this one did; unless this one
-      // failed for the character behind it, as "<cols" does.
-      at_ = worth_trying && element_.is_cell ? at_ + 1 : tag_end_;
+      at_ = tag_end_;  // another opening before the end of this tag would have the same end and fail as this one did
     }
     at_ = text_.size();
     return std::nullopt;
@@ -84,10 +85,17 @@ class Matches {
     return tag_end_ != std::string_view::npos;
   }
 
+  // "<c" may begin "<cols" as well.
+  [[nodiscard]] bool opening_is_whole() const {
+    return !element_.is_cell || kWhiteSpace.find(text_[at_ + element_.opening.size()]) != std::string_view::npos;
+  }
+
   [[nodiscard]] bool may_match() const {
     if (element_.is_cell && text_[tag_end_ - 1] == '/') return true;
     return last_closing_ != std::string_view::npos && last_closing_ > tag_end_;
   }
+
+  static constexpr std::string_view kWhiteSpace = " \t\n\v\f\r";
 
   const Element& element_;
   std::string_view text_;
