@@ -47,7 +47,7 @@ class TerminalLines final : public LineSource {
     el_set(editor_.get(), EL_EDITOR, "emacs");
     el_set(editor_.get(), EL_PROMPT, &TerminalLines::prompt_of);
     el_wset(editor_.get(), EL_GETCFN, &TerminalLines::read_key);
-    el_set(editor_.get(), EL_ADDFN, "complete-path", "Complete a path", &TerminalLines::complete);
+    el_wset(editor_.get(), EL_ADDFN, L"complete-path", L"Complete a path", &TerminalLines::complete);
   }
 
   std::optional<std::string> read_line(std::string_view prompt, Completion completion) override {
