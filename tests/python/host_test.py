@@ -1,0 +1,530 @@
+"""Loads the extension module into the stand-in of the CAD host and uses it as the host and its scripts do.
+
+    host_test.py DIST_DIR PROGRAM SAMPLES_DIR [unittest options]
+
+DIST_DIR holds the extension and the family's modules, PROGRAM is the console program.
+"""
+import csv
+import gc
+import itertools
+import json
+import math
+import os
+import pathlib
+import re
+import subprocess
+import sys
+import tempfile
+import threading
+import time
+import types
+import unittest
+import zipfile
+
+sys.dont_write_bytecode = True
+HERE = pathlib.Path(__file__).resolve().parent
+sys.path.insert(0, str(HERE.parent / "interop"))
+
+import dxf_graph
+from pygcad.core import runtime
+from pygcad.stand_in import STATUS, GcDb, GcDbObjectId, session
+
+PATIENCE = 120  # seconds
+VALUES = "T _D _rynek _il _r _A_GRS80 _F_GRS80 _A_K _BETA _DELTA _ROWNE_WYSOKOSCI _MAX_KONTROLA".split()
+OPERATIONS = """importxyz _slowo _kword _wspolczynniki _do_geo _sensowny _uklad_nazwa _wykryj_uklad _kol_nr _czytaj_xlsx
+_czytaj_tekst _typ_pliku _wczytaj _num _czy_liczba _liczba_kolumn _pary _pierwsza_to_numer _wykryj_format _rozbierz
+_rowna_wysokosc _openModelSpace _nazwa_grupy _grupuj _oznacz_do_kontroli _setPointDisplayVars _nadaj_styl_pl""".split()
+AXES = "K1 5590435.97 5588346.40 392.34\nK2 5590429.97 5588342.20 393.60\nK3 5590428 5588334 394\n"  # one question
+COLUMNS = "7 100 200\n9 110 220\n"  # another one
+BOTH = "5590435.97 5588346.40 5590400.5\n5590429.97 5588342.20 5590401.5\n5590428 5588334 5590402.5\n"
+INDEX_ERROR = "1 2\nbaza 100\n3 4\n"
+
+# Scripts for processes that have loaded nothing yet; each prints what it found out as JSON.
+LOAD = """
+import json, sys, types
+from pygcad.stand_in import session
+class Broken(types.ModuleType):
+    def __getattr__(self, name):
+        raise AttributeError(name) if name.startswith("__") else ValueError("brak licencji")
+def market(answer):
+    sys.modules["vexo_rynek"] = types.SimpleNamespace(rynek=answer)
+def absent(name):
+    sys.modules[name] = None
+def broken(name):
+    sys.modules[name] = Broken(name)
+def outcome():
+    try:
+        import vexo_xyz_impl as m
+    except BaseException as failure:
+        return f"{type(failure).__name__}: {failure}", list(session.commands)
+    return m._D.__name__, list(session.commands)
+"""
+RELOAD = LOAD + """
+import vexo_xyz_impl as first
+del sys.modules["vexo_xyz_impl"]
+market(lambda: "DE")
+import vexo_xyz_impl as m
+m.importxyz()
+print(json.dumps([sys.path[:2], m is first, m._D.__name__, m._uklad_nazwa(4647), bool(session.shown)]))
+"""
+IMPORT = """
+import json, sys
+from pygcad.stand_in import session
+import vexo_xyz_impl as m
+session.file, session.typed = sys.argv[1], [m._slowo(sys.argv[2])]
+m.importxyz()
+entities, groups = ([vars(one) for one in kept.values()] for kept in (session.entities, session.groups))
+print(json.dumps([session.shown, m._slowo(sys.argv[2]), entities, groups, session.variables, session.open]))
+"""
+GEODESY = """
+import json, sys
+import vexo_xyz_impl as m
+print(json.dumps([[x.hex() for x in m._do_geo(*map(float.fromhex, point), srid)] if srid in m._D.UKLADY else None
+                  for srid, *point in json.loads(sys.argv[1])]))
+"""
+
+
+class Boot(types.ModuleType):
+    """Notices that are kept. That of a failure fails itself, which nobody may notice."""
+    notices = []
+
+    def zdarzenie(self, name):
+        session.fails("zdarzenie", False)
+        self.notices.append(name)
+
+    def blad(self, name, failure):
+        self.notices.append((name, failure))
+        raise RuntimeError("no log")
+
+
+class Injected(Exception):
+    pass
+
+
+def fresh_process(script, *arguments, market="PL"):
+    with tempfile.TemporaryDirectory() as home:
+        environment = os.environ | {"PYTHONPATH": f"{HERE}:{dist}", "VEXO_RYNEK": market, "XDG_STATE_HOME": home}
+        run = subprocess.run([sys.executable, "-B", "-c", script, *arguments], env=environment, capture_output=True,
+                             text=True, timeout=PATIENCE)
+    if run.returncode:
+        raise AssertionError(f"exit status {run.returncode}\n{run.stdout}{run.stderr}")
+    return json.loads(run.stdout)
+
+
+def without_date(text):
+    return re.sub(r"\d{4}-\d\d-\d\d", "DATE", text)
+
+
+class Loading(unittest.TestCase):
+    def test_market_and_failing_steps(self):
+        needed = ["vexo_teksty", "vexo_xyz_dane_PL", "vexo_cad_core"]
+        interface = ["pygcad.core", "pygcad.core.runtime", "pygcad.pygrx"]
+        for steps, market, expected in [
+            ("", "", "vexo_xyz_dane_PL"), ("", "XX", "vexo_xyz_dane_PL"), ("", "RO", "vexo_xyz_dane_RO"),
+            ("", "DE", "vexo_xyz_dane_DE"), ("market(lambda: 'DE')", "PL", "vexo_xyz_dane_DE"),
+            *((steps, "DE", "vexo_xyz_dane_PL") for steps in (
+                "absent('vexo_rynek')", "absent('vexo_xyz_dane_DE')", "broken('vexo_rynek')",
+                "broken('vexo_xyz_dane_DE')", "market(lambda: 1 / 0)", "market(lambda: None)", "market(lambda: '')")),
+            *((f"absent('{name}')", "PL", "ModuleNotFoundError: ") for name in needed + interface),
+            *((f"broken('{name}')", "PL", "ValueError: brak licencji") for name in needed),
+            ("market(lambda: sys.exit('koniec'))", "DE", "SystemExit: koniec"),
+            ("import pygcad.core; pygcad.core.command = lambda **names: open('/brak')", "PL",
+             "FileNotFoundError: [Errno 2] No such file or directory: '/brak'"),
+        ]:
+            with self.subTest(steps, market=market):
+                found, commands = fresh_process(LOAD + steps + "\nprint(json.dumps(outcome()))", market=market)
+                self.assertEqual(found[:len(expected)], expected)
+                self.assertEqual(commands, ["VEXO_XYZ"] if expected.startswith("vexo") else [])
+
+    def test_loading_again(self):
+        self.assertEqual(fresh_process(RELOAD), [[str(dist)] * 2, False, "vexo_xyz_dane_DE",
+                                                 "ETRS89 / UTM Zone 32N mit Zonenkennung (EPSG:4647)", True])
+        for name in ("vexo_teksty", "vexo_cad_core", "pygcad.pygrx"):
+            failed_before = f"absent('{name}')\noutcome()\ndel sys.modules['{name}']\nprint(json.dumps(outcome()))"
+            self.assertEqual(fresh_process(LOAD + failed_before), ["vexo_xyz_dane_PL", ["VEXO_XYZ"]], name)
+
+    def test_names(self):
+        self.assertEqual([name for name in VALUES + OPERATIONS if not hasattr(m, name)], [])
+        self.assertEqual([name for name in OPERATIONS if not callable(getattr(m, name))], [])
+        family = [sys.modules["vexo_" + name] for name in ("teksty", "cad_core", "rynek", "xyz_dane_PL")]
+        self.assertEqual([m.T, m._nadaj_styl_pl, m._rynek, m._D],
+                         [family[0].T, family[1].nadaj_styl_pl, family[2], family[3]])
+        self.assertEqual((m._F_GRS80, m._A_K), (1 / 298.257222101, 6367449.145771048))
+        self.assertEqual((m._BETA[4], m._DELTA[4]), (3.7940918788755123e-16, 1.7692141010784007e-13))
+        self.assertEqual(m._wspolczynniki(), (m._A_K, list(m._BETA), list(m._DELTA)))
+        self.assertIs(m.importxyz, session.commands["VEXO_XYZ"])
+        self.assertEqual(m.importxyz.names, ("VEXO_XYZ", "VEXO_XYZ", "VEXO"))
+
+
+class HostTest(unittest.TestCase):
+    def setUp(self):
+        session.clear()
+        Boot.notices = []
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        self.folder = folder.name
+
+    def put(self, name, content):
+        path = os.path.join(self.folder, name)
+        with open(path, "wb") as file:
+            file.write(content if isinstance(content, bytes) else content.encode())
+        return path
+
+    def check_nothing_is_held(self):
+        self.assertEqual((session.open, session.closed_twice), ([], []))
+        self.assertEqual(session.live_objects(), idle)
+
+    def check_raises(self, failure, call, *arguments):
+        with self.assertRaises(type(failure)) as raised:
+            call(*arguments)
+        self.assertIs(raised.exception, failure)
+
+
+class Odd:
+    """A cell without a text form."""
+    def __str__(self):
+        raise TypeError("no text")
+
+
+class Scripts(HostTest):
+    def test_results(self):
+        book = os.path.join(self.folder, "pomiar.csv")
+        with zipfile.ZipFile(book, "w") as archive:
+            archive.writestr("xl/worksheets/sheet1.xml", '<row><c r="A1"><v>1</v></c><c r="C1"><v>ą</v></c></row>')
+        few, junk = m.T("xyz.pow_za_malo_kolumn") % (1, 2), m.T("xyz.pow_naglowek")
+        known = vars(m) | {
+            "Odd": Odd, "folder": self.folder, "book": book, "text": self.put("a.csv", "1;2,5\n#\nł;3\n"),
+            "old": self.put("b", bytes.fromhex("D0CF11E0A1B11AE1")), "damaged": self.put("c", b"PK\3\4" + b"x" * 99),
+            "odd_name": self.put(os.fsdecode(b"\xb9.csv"), "1 2"), "surrogate": "\udc80",
+            "labelled": [["P1", 1.5, "2"], (7, 8, 9), ["x"]],
+            "bare": [[6542052.26, 6024823.93, 2.85], ["6542057,52", "6024830.58", 3]]}
+        for call, expected in [
+            ("_num('1 234,5')", 1234.5), ("_num(5)", 5.0), ("_num(' \\u0661\\t')", 1.0), ("_num('1_0')", 10.0),
+            ("_num(10**400)", math.inf), ("_num('x')", ValueError), ("_num(None)", ValueError),
+            ("_num(True)", ValueError), ("_num(surrogate)", ValueError), ("_num('1\\0')", ValueError),
+            ("_num(Odd())", TypeError), ("_num()", TypeError), ("_num(1, 2)", TypeError),
+            ("_czy_liczba('-1e3')", True), ("_czy_liczba('')", False), ("_czy_liczba(None)", False),
+            ("_czy_liczba(Odd())", False), ("_czy_liczba(surrogate)", False), ("_czy_liczba('\\ud800')", False),
+            ("_kol_nr('C7')", 2), ("_kol_nr('BA')", 52), ("_kol_nr(None)", None), ("_kol_nr('7')", None),
+            ("_liczba_kolumn([])", 0), ("_liczba_kolumn([[1], (1, 2), [], [3, 4], ['x']])", 2),
+            ("_pary(labelled, 1, 2)", [(1.5, 2.0), (8.0, 9.0)]), ("_pary(bare, 0, 3)", []),
+            ("_pierwsza_to_numer(labelled)", True), ("_pierwsza_to_numer(bare)", False),
+            ("_pierwsza_to_numer([])", None),
+            ("_wykryj_format([])", (None, m.T("xyz.fmt_mniej_2"), [])),
+            ("_wykryj_format([['7', '1', '2']])", (None, m.T("xyz.fmt_niejasny") % 3, [["7", "1", "2"]])),
+            ("_wykryj_format([[1, 2], ['x', 3]])", IndexError), ("_wykryj_format(7)", TypeError),
+            ("_rozbierz([['7', '1,5', '2'], [8, 3, 4.5]], 'NrXY')", ([("7", 1.5, 2.0, 0.0), ("8", 3.0, 4.5, 0.0)], [])),
+            ("_rozbierz([['1'], ['a', 'ą' * 50], ('1', '2')], 'XY')",
+             ([("1", 1.0, 2.0, 0.0)], [(1, few, "1"), (2, junk, "a " + "ą" * 38)])),
+            ("_rozbierz(None, 'YX')", KeyError), ("_rozbierz([], None)", KeyError),
+            ("_rowna_wysokosc(105)", 100.0), ("_rowna_wysokosc(1.36)", 1.5), ("_rowna_wysokosc('x')", TypeError),
+            ("_wykryj_uklad([])", []), ("_wykryj_uklad([(1, 2)])", []),
+            ("_wykryj_uklad([(5590435.97, 5588346.4)])", [(2176, False, 1.0), (2176, True, 1.0)]),
+            ("_wykryj_uklad([(1, 2, 3)])", ValueError), ("_wykryj_uklad([(1,)])", ValueError),
+            ("_wykryj_uklad([1])", TypeError), ("_wykryj_uklad([('1', 2)])", TypeError),
+            ("_sensowny(7500846, 5788467, 2178)", True), ("_sensowny(5788467, 7500846, 2178)", False),
+            ("_sensowny(1, 2, 7)", KeyError), ("_do_geo(1, 2, 7)", KeyError), ("_do_geo(1, 2, '2178')", KeyError),
+            ("_do_geo('1', 2, 2178)", TypeError), ("_do_geo(500000, -5300000, 2180)", (0.0, math.radians(19))),
+            ("_uklad_nazwa(2180)", "PL-1992 (EPSG:2180)"), ("_uklad_nazwa(7)", "EPSG:7"),
+            ("_uklad_nazwa('7a')", "EPSG:7a"),
+            ("_typ_pliku(book)", "xlsx"), ("_typ_pliku(odd_name)", "tekst"), ("_typ_pliku(old)", "xls_stary"),
+            ("_typ_pliku(folder)", None), ("_typ_pliku(text + '\\0')", ValueError),
+            ("_wczytaj(book)", ([["1", "", "ą"]], "xlsx")), ("_wczytaj(text)", ([["1", "2,5"], ["ł", "3"]], "tekst")),
+            ("_wczytaj(odd_name)", ([["1", "2"]], "tekst")), ("_wczytaj(old)", (None, "xls_stary")),
+            ("_wczytaj(text + 'x')", (None, None)), ("_wczytaj(damaged)", zipfile.BadZipFile),
+            ("_czytaj_tekst(text + 'x')", None), ("_czytaj_xlsx(text + 'x')", OSError),
+            ("_czytaj_xlsx(text)", zipfile.BadZipFile), ("_czytaj_xlsx(book)", [["1", "", "ą"]]),
+            ("_slowo('Zamien')", "Zamien"), ("_slowo('Brak')", "Brak"), ("_setPointDisplayVars()", None),
+            ("_oznacz_do_kontroli([])", (0, None)),
+            ("_oznacz_do_kontroli([7] * 2001)", (0, m.T("xyz.kontrola_za_duzo") % (2001, 2000))),
+        ]:
+            with self.subTest(call):
+                if isinstance(expected, type):
+                    self.assertRaises(expected, eval, call, known)
+                else:
+                    self.assertEqual(repr(eval(call, known)), repr(expected))  # the types agree, too
+        self.assertEqual(session.variables, {"PDMODE": 3, "PDSIZE": -2.0})
+
+    def test_rows_stay_the_script_s_own(self):
+        rows = [["Nr", "X", "Y"], ["P1", "1", "2"], ("P2", 3, 4.5), ["P3", "3"]]
+        before = [sys.getrefcount(row) for row in rows]
+        for _ in range(50):
+            fmt, text, dane = m._wykryj_format(rows)
+            m._rozbierz(rows, fmt), m._pary(rows, 1, 2), m._pierwsza_to_numer(dane), m._liczba_kolumn(rows)
+        self.assertEqual((fmt, text), ("NrXY", m.T("xyz.fmt_3_nrxy")))
+        self.assertEqual([id(row) for row in dane], [id(row) for row in rows[1:3]])
+        del dane
+        self.assertEqual([sys.getrefcount(row) for row in rows], before)
+
+    def test_geodesy_to_the_last_bit(self):
+        with open(HERE.parent / "data" / "geodesy" / "do_geo_bits.csv", encoding="utf-8") as file:
+            rows = list(csv.DictReader(file))
+        points = json.dumps([[int(row["srid"]), row["E_hex"], row["N_hex"]] for row in rows])
+        for row, *found in zip(rows, fresh_process(GEODESY, points), fresh_process(GEODESY, points, market="DE")):
+            due = [float.fromhex(row[name]).hex() for name in ("lat_rad_hex", "lon_rad_hex")]
+            self.assertEqual([one for one in found if one], [due], row["place"])
+
+    def test_questions(self):
+        symbols, key = ["Tak", "Zamien"], "xyz.prompt_zamien_osie_tpl"
+        for typed, default, expected in [("Zamien", [], (True, "Zamien")), ("", [], (True, "Tak")),
+                                         ("", [1], (True, "Zamien")), (None, [], (False, None))]:
+            session.typed = [typed]
+            self.assertEqual(m._kword(symbols, key, *default), expected)
+        session.shown, session.typed = "", [""]
+        self.assertEqual(m._kword(["Numer", "Ż"], "xyz.brak"), (True, "Numer"))
+        self.assertEqual(session.shown, "\n[Numer/Ż] <Numer>: \n")
+        failure = Injected()
+        session.fail(1, failure)
+        self.check_raises(failure, m._kword, symbols, key)
+
+    def draw(self, count):
+        """Points in model space, drawn by a script with the module's help: the database and the ids."""
+        ms, db = m._openModelSpace()
+        self.assertEqual([type(ms), type(db)], [runtime.GcDbBlockTableRecord, runtime.GcDbDatabase])
+        ids = runtime.GcDbObjectIdArray()
+        for i in range(count):
+            point = runtime.GcDbPoint(runtime.GcGePoint3d(float(i), 0.0, 0.0))
+            ids.append(ms.appendGcDbEntity(point)[1])
+            point.close()
+        self.assertEqual(m._openModelSpace(), (None, None))  # it is open
+        ms.close()
+        return db, ids
+
+    def test_groups_and_control_records(self):
+        db, ids = self.draw(3)
+        names = []
+        for _ in range(3):
+            names.append(m._nazwa_grupy(db, "C:\\pomiary\\Działka 12.v2.csv"))
+            self.assertEqual(m._grupuj(db, ids, names[-1]), (True, ""))
+        self.assertRegex(names[0], r"^PIKIETY_\d{4}-\d\d-\d\d_Dzia_ka_12_v2$")
+        self.assertEqual(names[1:], [names[0] + "_2", names[0] + "_3"])
+        self.assertEqual([group.members for group in session.groups.values()], [list(session.entities)] * 3)
+        self.assertEqual(m._grupuj(db, ids, names[0]), (False, m.T("xyz.grup_setat")))
+        self.assertEqual(m._grupuj(None, runtime.GcDbObjectIdArray(), ""), (False, m.T("xyz.grup_brak_encji")))
+        self.assertEqual(m._oznacz_do_kontroli([*ids.ids, GcDbObjectId(1)]), (3, None))
+        self.assertEqual(session.records, [(f"{key:X}", "XYZPKT", [f"{key:X}"]) for key in session.entities])
+        m._nazwa_grupy(db, "x")
+        del db, ids
+        self.check_nothing_is_held()
+
+    def test_a_failing_script_leaves_nothing_behind(self):
+        db, ids = self.draw(2)
+        for failure in (Injected(), KeyboardInterrupt()):
+            session.fail(1, failure)
+            self.check_raises(failure, m._grupuj, db, ids, "nowa")
+            session.fail(1, failure)
+            self.check_raises(failure, m._nazwa_grupy, db, "x")
+        session.fail(1, failure)
+        self.check_raises(failure, m._oznacz_do_kontroli, ids.ids)
+        session.fail(math.inf, STATUS)
+        del db, ids, failure
+        self.check_nothing_is_held()
+        session.file = self.put("p.txt", AXES)
+        m.importxyz()
+        group, = session.groups.values()
+        self.assertEqual(group.members, list(session.entities)[2:])  # not what the script would have grouped
+
+
+class Imports(HostTest):
+    def test_samples_as_the_console_imports_them(self):
+        with open(samples / "manifest.json", encoding="utf-8") as file:
+            manifest = json.load(file)["files"]
+        for sample in manifest:
+            for symbol in ["Tak", "Zamien"] if "readings" in sample["expected"] else ["Tak"]:
+                with self.subTest(sample["file"], answer=symbol):
+                    self.check_sample(str(samples / sample["file"]), sample["market"], symbol)
+
+    def check_sample(self, source, market, symbol):
+        shown, word, entities, groups, variables, still_open = fresh_process(IMPORT, source, symbol, market=market)
+        target = os.path.join(self.folder, f"{os.path.basename(source)} {symbol}.dxf")
+        run = subprocess.run([program, "--market", market, "-o", target, source], input=f"{word}\n", text=True,
+                             env=os.environ | {"XDG_STATE_HOME": self.folder}, capture_output=True, timeout=PATIENCE)
+        said, imported = without_date(run.stdout), without_date(shown)
+        self.assertEqual(said[:len(imported)], imported)
+        self.assertRegex(said[len(imported):], rf"^[^\n]*{re.escape(target)}\n$" if entities else "^$")
+        self.assertEqual((still_open, os.path.exists(target)), ([], bool(entities)))
+        if entities:
+            self.check_same_drawing(target, entities, groups, variables)
+
+    def check_same_drawing(self, target, entities, groups, variables):
+        tags = dxf_graph.read_tags(target)
+        records = dxf_graph.split(tags, [])
+        drawn = []
+        for one in (record for record in records if record.section == "ENTITIES" and record.has_handle):
+            drawn.append({"kind": one.kind, "position": [float(one.first(code)) for code in (10, 20, 30)]})
+            if one.kind == "TEXT":
+                drawn[-1] |= {"text": one.first(1), "height": float(one.first(40)), "style": one.first(7)}
+        self.assertEqual(drawn, entities)
+        group, = [one for one in records if one.kind == "GROUP"]
+        self.assertEqual([(one["description"], one["selectable"], len(one["members"])) for one in groups],
+                         [(group.first(300), group.first(71).strip() == "1", len(group.all(340)))])
+        header = {name: value for (_, name), (_, value) in zip(tags, tags[1:])}
+        self.assertEqual(variables, {name: float(header["$" + name]) for name in ("PDMODE", "PDSIZE")})
+
+    def test_ways_through_the_dialogue(self):
+        axes, columns = self.put("50%s %d.txt", AXES), self.put("u.txt", COLUMNS)
+        odd, refused = self.put(os.fsdecode(b"\xb9.csv"), AXES), self.put("r.csv", "%s\x1b𝄞;1;2;3\nB;1;2;nan\n")
+        cancelled, cannot_open, imported = (m.T("xyz." + key) for key in ("anulowano", "blad_otworz_plik", "zoom_hint"))
+        for case, file, typed, end, points in [
+            ("dialog cancelled", None, [], m.T("xyz.anulowano_brak_pliku"), 0),
+            ("path cancelled", "", [None], cancelled, 0), ("blank path", "", [" \t"], cancelled, 0),
+            ("quoted path", "", [f' "{axes}" ', ""], imported, 3), ("no UTF-8 in the path", odd, [""], imported, 3),
+            ("no such file", odd + "x", [], cannot_open % (odd + "x"), 0),
+            ("column question cancelled", columns, [None], cancelled, 0),
+            ("column question answered", columns, [""], imported, 2),
+            ("axis question cancelled", axes, [None], imported, 3),
+            ("one point refused", refused, [], imported, 1),
+        ]:
+            with self.subTest(case):
+                session.clear()
+                session.file, session.typed = file, typed
+                m.importxyz()
+                self.assertTrue(session.shown.endswith(end), session.shown)
+                self.assertEqual([one.kind for one in session.entities.values()], ["POINT", "TEXT"] * points)
+                members = [list(session.entities)] * bool(points)
+                self.assertEqual([group.members for group in session.groups.values()], members)
+                self.check_nothing_is_held()
+        self.assertEqual([*session.entities.values()][1].text, "%s\x1b𝄞")
+
+    def test_objects_open_elsewhere_and_no_reactive_core(self):
+        session.file = self.put("p.txt", AXES)
+        groups = runtime.GcDbDatabase().getGroupDictionary(GcDb.kForRead)[1]
+        sys.modules["vexo_reaktywne_core"] = None
+        self.addCleanup(sys.modules.pop, "vexo_reaktywne_core")
+        m.importxyz()
+        groups.close()
+        because = ("ModuleNotFoundError", "import of vexo_reaktywne_core halted; None in sys.modules")
+        no_group = m.T("xyz.grupa_blad") % m.T("xyz.grup_brak_slownika") + m.T("xyz.grupa_reczne")
+        self.assertTrue(session.shown.endswith(m.T("xyz.kontrola_niedostepna") % because + no_group
+                                               + m.T("xyz.punkty_sa") + m.T("xyz.zoom_hint")), session.shown)
+        self.assertEqual(len(session.entities), 6)
+
+    def end_due(self, call, way):
+        """The failure rules: how what is shown ends, None where the exception leaves the command."""
+        T, name = m.T, call.rstrip("0123456789 ")
+        rest = T("xyz.punkty_sa") + T("xyz.zoom_hint")
+        if way == STATUS:
+            refused = T("xyz.grupa_reczne") + rest
+            return {"gcedGetFileD 1": T("xyz.anulowano_brak_pliku"), "gcedGetString 1": T("xyz.anulowano"),
+                    "gcedGetKword 1": T("xyz.anulowano"), "GcDbDatabase.getBlockTable 1": T("xyz.blad_model"),
+                    "GcDbBlockTable.getAt 1": T("xyz.blad_model"),
+                    "GcDbDatabase.getGroupDictionary 2": T("xyz.grupa_blad") % T("xyz.grup_brak_slownika") + refused,
+                    "GcDbDictionary.setAt 1": T("xyz.grupa_blad") % T("xyz.grup_setat") + refused}.get(call, rest)
+        if call in ("resbuf 1", "gcedGetFileD 1", "gcedGetString 1") or isinstance(way, KeyboardInterrupt):
+            return None  # before the path is known nothing guards the command
+        if name.startswith(("GcDbDictionary", "GcDbGroup", "GcDbObjectIdArray", "GcDbDatabase.getGroup")):
+            return T("xyz.grupa_pominieta") % "Injected" + rest
+        alone = ("zdarzenie", "resbuf", "gcedSetVar", "handle_z_oid", "zapisz_reakt")
+        styling = "Style" in name or (name == "gcdbWorkingDatabase" and call[-2:] != " 1")
+        return rest if name in alone or styling else T("xyz.blad_ogolny") % ("Injected", str(way))
+
+    def import_with_fault(self, path, at, way, lasting):
+        """One import; whether an exception, which can only be that one, left the command."""
+        session.clear()
+        session.file, session.typed, Boot.notices = "", [path, "", ""], []
+        session.fail(at, way, lasting)
+        try:
+            m.importxyz()
+        except BaseException as failure:
+            self.assertIs(failure, way)
+            return True
+        finally:
+            self.assertEqual((session.open, session.closed_twice), ([], []), session.failed_call())
+        return False
+
+    def check_outcome(self, call, way, left):
+        due = self.end_due(call, way)
+        self.assertEqual(left, due is None)
+        self.assertTrue(session.shown.endswith(due or ""), session.shown)
+        if due == m.T("xyz.blad_ogolny") % ("Injected", str(way)):
+            self.assertIs(Boot.notices[-1][1], way)
+        elif due:
+            refused = way == STATUS and call.split()[0].endswith((".appendGcDbEntity", ".setHeight"))
+            imported = due.endswith(m.T("xyz.zoom_hint"))
+            self.assertEqual(len(session.entities), (6 - refused) * imported)
+
+    def test_every_call_fails_in_turn(self):
+        path = self.put("p.txt", BOTH)
+        for way, kinds in [(STATUS, 28), (Injected("tekst 100%"), 41), (KeyboardInterrupt(), 41)]:
+            tried = set()
+            for at in itertools.count():
+                with self.subTest(way=way, at=at):
+                    left = self.import_with_fault(path, at, way, lasting=False)
+                    if call := session.failed_call():
+                        tried.add(call.split()[0])
+                        self.check_outcome(call, way, left)
+                        self.import_with_fault(path, at, way, lasting=True)  # the host fails for good
+                if not session.failed_call():
+                    break
+            self.assertEqual(len(tried), kinds, sorted(tried))  # else an import that calls nothing would pass
+        session.clear()
+        Boot.notices = []
+        del way
+        self.check_nothing_is_held()
+
+    def test_a_thousand_imports_leave_nothing_behind(self):
+        ways = [(AXES, math.inf, STATUS), (INDEX_ERROR, math.inf, STATUS), (AXES, 60, Injected("x" * 1000)),
+                (AXES, 30, KeyboardInterrupt())]
+        files = [self.put(f"{i}.txt", content) for i, (content, *_) in enumerate(ways)]
+
+        def resident():
+            gc.collect()
+            return int(pathlib.Path("/proc/self/statm").read_text().split()[1]) * os.sysconf("SC_PAGE_SIZE")
+
+        for number in range(1100):
+            if number == 100:
+                before = resident()
+            session.clear()
+            Boot.notices = []
+            session.file, session.typed = files[number % 4], [""]
+            session.fail(*ways[number % 4][1:])
+            try:
+                m.importxyz()
+            except KeyboardInterrupt as interruption:
+                interruption.__traceback__ = None
+        growth = resident() - before
+        session.clear()
+        Boot.notices = []
+        del ways
+        self.check_nothing_is_held()
+        if "libasan" not in pathlib.Path("/proc/self/maps").read_text():  # which keeps what was freed
+            self.assertLess(growth, 3_000_000)
+
+    def test_other_threads_run_while_a_file_is_read(self):
+        # Not UTF-8 at its end, so that it is read twice; hardly a row in it, for making rows needs the lock.
+        path = self.put("duzy.txt", ("# " + "komentarz " * 20 + "\n").encode() * 300_000 + b"P1 100 200\n# \xb9\n")
+        session.file = path
+        for read in (lambda: m._wczytaj(path), m.importxyz):
+            blocked = min(self.longest_block(read) for _ in range(5))  # the machine may be busy
+            self.assertLess(blocked, 0.5)
+
+    def longest_block(self, read):
+        """The longest time in which another thread stood still, as a share of all the reading."""
+        ticks, over = [], threading.Event()
+
+        def tick():
+            while not over.wait(0.001):
+                ticks.append(time.perf_counter())
+
+        ticker = threading.Thread(target=tick)
+        ticker.start()
+        start = time.perf_counter()
+        read()
+        end = time.perf_counter()
+        over.set()
+        ticker.join()
+        inside = [start, *(tick for tick in ticks if start < tick < end), end]
+        return max(after - before for before, after in zip(inside, inside[1:])) / (end - start)
+
+
+if __name__ == "__main__":
+    if len(sys.argv) < 4:
+        sys.exit(__doc__)
+    dist, program, samples = (pathlib.Path(argument).resolve() for argument in sys.argv[1:4])
+    os.environ.pop("VEXO_RYNEK", None)
+    os.environ.pop("VEXO_JEZYK", None)
+    sys.path.insert(1, str(dist))
+    sys.modules["vexo_boot"] = Boot("vexo_boot")
+    import vexo_xyz_impl as m
+    idle = session.live_objects()
+    unittest.main(argv=sys.argv[:1] + sys.argv[4:])
