@@ -19,6 +19,8 @@ sections (all of them unless named):
   growth   time by number of lines
   phases   one import, its steps timed one by one
   micro    single functions, each beside a baseline
+  workbook a workbook into the table of rows against ogr2ogr: time, memory
+  script   the module's own share of an import in the CAD host's scripting layer
 
 options:
   --in DIR       folder for the files, some 1.5 GB (default: $TMPDIR, else /tmp); all are removed at the end
@@ -47,7 +49,7 @@ while (($#)); do
     --pairs) whole_number "$1" "$2"; pairs=$2; shift ;;
     --runs) whole_number "$1" "$2"; runs=$2; shift ;;
     --write) page=$2; shift ;;
-    whole | growth | phases | micro) sections+=("$1") ;;
+    whole | growth | phases | micro | workbook | script) sections+=("$1") ;;
     -h | --help) usage; exit ;;
     *) usage >&2; die "not understood: $1" ;;
   esac
@@ -57,9 +59,9 @@ if [[ -n $page ]]; then
   ((${#sections[@]} == 0)) || die '--write takes no sections: the page would lose the others'
   python3 "$tables" check "$page" || die "no place for the results in $page"
 fi
-((${#sections[@]})) || sections=(whole growth phases micro)
+((${#sections[@]})) || sections=(whole growth phases micro workbook script)
 
-for needed in "$program" "$tree/bench/phases" "$tree/bench/microbench"; do
+for needed in "$program" "$tree/bench/phases" "$tree/bench/microbench" "$tree/bench/read_workbook"; do
   [[ -x $needed ]] || die "not built: $needed (./dev bench builds it)"
 done
 for needed in ogr2ogr python3 /usr/bin/time; do
@@ -214,6 +216,18 @@ micro() {
     die 'failed: microbench'
   }
   python3 "$tables" micro "$work/micro.json"
+}
+
+workbook() {
+  say 'workbook: making the file'
+  python3 "$here/workbook.py" "$tree/bench/read_workbook" "$work" "$pairs"
+}
+
+# The modules are for Debian's own interpreter.
+script() {
+  say 'script: this takes a minute or two'
+  printf '### The module in the scripting layer\n\n'
+  /usr/bin/python3 "$here/host_share.py" "$tree/python/vexo_xyz" "$here/../tests/python"
 }
 
 {
