@@ -28,7 +28,7 @@ py::object class_of(const std::string& kind) {
   return is_exception ? found : py::reinterpret_borrow<py::object>(PyExc_RuntimeError);
 }
 
-void translate(std::exception_ptr failure) {
+void translate(std::exception_ptr failure) {  // NOLINT(performance-unnecessary-value-param): as pybind11 wants it
   try {
     if (failure) std::rethrow_exception(failure);
   } catch (Interruption& interruption) {
