@@ -1,4 +1,5 @@
 // Survey files of three markets against what is known of them: layout, candidates, points, skipped lines.
+#include <algorithm>
 #include <cstdio>
 #include <fstream>
 #include <set>
@@ -80,6 +81,31 @@ TEST(Samples, AreReadAsTheyAreKnownToBe) {
       if (value.is_null() || key == "decoded_as" || key == "first_column_step" || key == "command" || key == "readings")
         continue;
       EXPECT_EQ(found.value(key, json()), value) << key;
+    }
+  }
+}
+
+// A workbook keeps the cells of a file in their columns, be they texts as they stand in it or numbers of the sheet.
+TEST(Samples, AreReadAlikeFromWorkbooks) {
+  for (const json& sample : manifest()) {
+    const std::string file = sample.at("file");
+    ConsoleHost host(sample.at("market"));
+    host.siblings.add("vexo_teksty", std::make_unique<testing_support::OwnTexts>());
+    host.load();
+    for (const std::string form : {"texts", "numbers"}) {
+      SCOPED_TRACE(file + ", " + form);
+      json expected = found_in(kSamples + file);  // which holds what the manifest states, or else the test above fails
+      if (file.starts_with("04")) {
+        // Point 23 has no height. Its line loses the cell, and with it the length of a data row; in a workbook the gap
+        // stays, and the row is one that is skipped and shown.
+        expected["data_rows"] = 40;
+        expected["skipped"] = {{23, "xyz.pow_naglowek", "23 5921840,56 5470497,62  łąka"},
+                               {31, "xyz.pow_naglowek", "31 5921799,49 5470414,64 - łąka"}};
+        if (form == "numbers") {
+          for (json& line : expected["skipped"]) std::ranges::replace(line[2].get_ref<std::string&>(), ',', '.');
+        }
+      }
+      EXPECT_EQ(found_in(std::string(WORKBOOKS) + "/samples/" + file + "." + form + ".xlsx"), expected);
     }
   }
 }

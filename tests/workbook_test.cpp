@@ -1,0 +1,109 @@
+#include <chrono>
+#include <cstdint>
+#include <fstream>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+#include "vexo_xyz_impl/failure.h"
+#include "vexo_xyz_impl/input/workbook_reader.h"
+
+namespace vexo_xyz_impl {
+namespace {
+
+using nlohmann::json;
+using Rows = std::vector<std::vector<std::string>>;
+
+struct Outcome {
+  Rows rows;
+  std::string kind;  // of the failure, if there was one
+  std::string text;
+};
+
+Outcome read(const std::string& path) {
+  Outcome outcome;
+  try {
+    const Table table = _czytaj_xlsx(path);
+    for (const Row row : table.rows()) outcome.rows.emplace_back(row.begin(), row.end());
+  } catch (const Failure& failure) {
+    outcome.kind = failure.kind();
+    outcome.text = failure.what();
+  }
+  return outcome;
+}
+
+// Tags without end take minutes where each is looked up to the end of the text; a bomb is not to be unpacked.
+constexpr std::chrono::seconds kAtOnce(5);
+
+// What make_workbooks.py wrote, beside what it says of it.
+TEST(Workbook, OddOnesAreReadOrRefusedAsTheyMustBe) {
+  const std::string folder = std::string(WORKBOOKS) + "/";
+  std::ifstream list(folder + "expected.json");
+  ASSERT_TRUE(list) << "the workbooks are made by ctest, or by tests/data/make_workbooks.py " << WORKBOOKS;
+  for (const json& book : json::parse(list)) {
+    const std::string name = book.at("name");
+    SCOPED_TRACE(name);
+    const auto start = std::chrono::steady_clock::now();
+    const Outcome outcome = read(folder + name + ".xlsx");
+    EXPECT_LT(std::chrono::steady_clock::now() - start, kAtOnce);
+
+    const std::vector<std::string> failure = book.at("failure");
+    if (outcome.kind.empty() && !book.at("rows").is_null()) {
+      EXPECT_EQ(outcome.rows, book.at("rows").get<Rows>());
+      continue;
+    }
+    EXPECT_EQ(outcome.kind, failure.empty() ? "" : failure[0]) << outcome.text;
+    for (std::size_t piece = 1; piece < failure.size(); ++piece)
+      EXPECT_NE(outcome.text.find(failure[piece]), std::string::npos) << failure[piece] << " in: " << outcome.text;
+    EXPECT_LT(outcome.text.size(), 300U) << "too much for a screen";
+  }
+}
+
+TEST(Workbook, ThatIsNotThereFailsAsAFile) { EXPECT_EQ(read("/nowhere/punkty.xlsx").kind, "OSError"); }
+
+TEST(ColumnNumber, OfReferences) {
+  const struct {
+    std::string_view reference;
+    std::optional<std::uint64_t> column;
+  } cases[] = {
+      {"A", 0},
+      {"Z", 25},
+      {"AA", 26},
+      {"AZ", 51},
+      {"BA", 52},
+      {"C7", 2},
+      {"ZZ1", 701},
+      {"XFD1048576", 16383},
+      {"Ab1", 0},
+      {"BĄ", 1},
+      {"", std::nullopt},
+      {"a1", std::nullopt},
+      {"7", std::nullopt},
+      {" A1", std::nullopt},
+      {"$A$1", std::nullopt},
+      {"Ą1", std::nullopt},
+      {"AAAAAAAAAAAAA", 99246114928149462},
+  };
+  for (const auto& [reference, column] : cases) EXPECT_EQ(_kol_nr(reference), column) << reference;
+  for (const char* reference : {"AAAAAAAAAAAAAAAAAAAA1", "ZZZZZZZZZZZZZZZZZZZZ"})
+    EXPECT_THROW(static_cast<void>(_kol_nr(reference)), OverflowError) << reference;
+}
+
+// Shorter names first, then by the alphabet, they number the columns without a hole.
+TEST(ColumnNumber, CountsAllNames) {
+  std::vector<std::string> names{""};
+  std::uint64_t next = 0;
+  for (std::size_t at = 0; next < 26 + 26 * 26 + 26 * 26 * 26; ++at) {
+    for (char letter = 'A'; letter <= 'Z'; ++letter) {
+      names.push_back(names[at] + letter);
+      ASSERT_EQ(_kol_nr(names.back()), next++) << names.back();
+    }
+  }
+}
+
+}  // namespace
+}  // namespace vexo_xyz_impl
