@@ -14,6 +14,7 @@ import unittest
 
 import ezdxf
 
+sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "..", "tools"))
 import dxf_graph
 
 NOTHING_RECOGNISED = 3  # exit status of an import that ended without a layout

@@ -21,6 +21,7 @@ import unittest
 import openpyxl
 import xlsxwriter
 
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "tools"))
 import dxf_graph
 
 BOOKS = pathlib.Path(__file__).resolve().parents[1] / "data" / "workbooks"

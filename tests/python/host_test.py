@@ -23,7 +23,7 @@ import zipfile
 
 sys.dont_write_bytecode = True
 HERE = pathlib.Path(__file__).resolve().parent
-sys.path.insert(0, str(HERE.parent / "interop"))
+sys.path.insert(0, str(HERE.parents[1] / "tools"))
 
 import dxf_graph
 from pygcad.core import runtime

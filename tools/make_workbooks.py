@@ -3,7 +3,7 @@
     make_workbooks.py FOLDER
 
 FOLDER/expected.json lists them with their rows, or with the kind of failure and pieces of its text, worked out by hand
-from the patterns that pick a worksheet's cells. FOLDER/samples holds the survey files of samples/ as workbooks.
+from the patterns that pick a worksheet's cells. FOLDER/samples holds the survey files of tests/data/samples as workbooks.
 """
 import io
 import json
@@ -208,7 +208,7 @@ def main(folder):
     (folder / "samples").mkdir(parents=True, exist_ok=True)
     for name, (data, *_) in books.items():
         (folder / f"{name}.xlsx").write_bytes(data)
-    for name, data in samples(pathlib.Path(__file__).parent / "samples"):
+    for name, data in samples(pathlib.Path(__file__).resolve().parents[1] / "tests" / "data" / "samples"):
         (folder / "samples" / f"{name}.xlsx").write_bytes(data)
     expected = [{"name": name, "rows": rows, "failure": failure} for name, (_, rows, *failure) in books.items()]
     (folder / "expected.json").write_text(json.dumps(expected), "utf-8")
