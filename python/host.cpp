@@ -37,10 +37,13 @@ std::string from_script(py::handle text) {
   const py::str own = py::isinstance<py::str>(text) ? py::reinterpret_borrow<py::str>(text) : py::str(text);
   Py_ssize_t size = 0;
   if (const char* utf8 = PyUnicode_AsUTF8AndSize(own.ptr(), &size)) return {utf8, static_cast<std::size_t>(size)};
-  PyErr_Clear();  // lone surrogates: the bytes of a path that are no UTF-8
-  const auto bytes = py::reinterpret_steal<py::bytes>(PyUnicode_AsEncodedString(own.ptr(), "utf-8", "surrogateescape"));
-  if (!bytes) throw py::error_already_set();
-  return bytes;
+  // Lone surrogates: mostly the bytes of a path that are no UTF-8; any other is kept as no UTF-8, and is no number.
+  for (const char* errors : {"surrogateescape", "surrogatepass"}) {
+    PyErr_Clear();
+    const auto bytes = py::reinterpret_steal<py::bytes>(PyUnicode_AsEncodedString(own.ptr(), "utf-8", errors));
+    if (bytes) return bytes;
+  }
+  throw py::error_already_set();
 }
 
 ScriptHost::ScriptHost(py::module_ module) : module_(std::move(module)) {
