@@ -169,6 +169,18 @@ class Program(unittest.TestCase):
             self.assertEqual((code, self.tree()), (3, before))
             self.check_texts([str(target), "--force"], out)
 
+    def test_the_points_are_never_replaced(self):
+        self.start("dane.csv", POINTS)
+        (self.folder / "drugi.csv").hardlink_to(self.folder / "dane.csv")
+        (self.folder / "link.csv").symlink_to("dane.csv")
+        before = self.tree()
+        for target in ("dane.csv", "./dane.csv", "drugi.csv", "link.csv"):
+            for given, answers in [(["dane.csv"], ""), ([' "dane.csv"'], ""), ([], "dane.csv\n")]:
+                with self.subTest(target, given=given):
+                    code, out, _ = self.call("--force", "-o", target, *given, answers=answers)
+                    self.assertEqual((code, self.tree()), (3, before), out)
+                    self.assertIn(f"Plik {target} ", out)
+
     def test_drawings_that_cannot_be_saved(self):
         read_only = forbidden(lambda path: path.mkdir(0o555), os.W_OK)
         forced, unlimited = ["--force", "-o", "rysunek.dxf"], resource.getrlimit(resource.RLIMIT_FSIZE)[0]
