@@ -17,6 +17,7 @@ constexpr const char* kBindingModules[] = {"pygcad.core", "pygcad.core.runtime",
 
 // What `from module import *` would bring.
 py::list exported_names(const py::module_& module) {
+  // NOLINTNEXTLINE(modernize-return-braced-init-list): that would be a list in a list
   if (py::hasattr(module, "__all__")) return py::list(module.attr("__all__"));
   py::list names;
   for (const py::handle name : py::list(module.attr("__dict__"))) {

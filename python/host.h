@@ -70,7 +70,7 @@ class ScriptHost final : public host::CommandLine,
   host::PromptStatus gcedInitGet(int flags, std::string_view keywords) override;
   std::pair<host::PromptStatus, std::string> gcedGetKword(std::string_view prompt) override;
   void gcutPrintf(std::string_view text) override;
-  host::PromptStatus gcedSetVar(std::string_view name, const host::resbuf& value) override;
+  host::PromptStatus gcedSetVar(std::string_view variable, const host::resbuf& value) override;
 
   // ---- CommandTable
   void command(std::string_view local_name, std::string_view global_name, std::string_view group_name,

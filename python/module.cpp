@@ -172,6 +172,7 @@ void define_dialogue_and_drawing(py::module_& m, ScriptHost& scripts) {
       "_kword",
       [](const std::vector<py::object>& symbole, const py::object& kl_prompt, std::size_t i_dom) {
         std::vector<std::string> texts;
+        texts.reserve(symbole.size());
         for (const py::object& symbol : symbole) texts.push_back(from_script(symbol));
         const std::vector<std::string_view> symbols(texts.begin(), texts.end());
         if (i_dom >= symbols.size()) throw xyz::IndexError("there is no default symbol");
