@@ -8,7 +8,8 @@
 #include "console/files.h"
 #include "vexo_xyz_impl/command/module.h"
 #include "vexo_xyz_impl/command/questions.h"
-#include "vexo_xyz_impl/host/messages.h"
+#include "vexo_xyz_impl/messages.h"
+#include "vexo_xyz_impl/notices.h"
 
 namespace console {
 namespace {
@@ -24,9 +25,10 @@ std::string_view code_page_of(std::string_view market) { return market == "DE" ?
 
 Session::Session(SessionOptions options, LineSource& lines, std::ostream& out)
     : options_(std::move(options)),
-      dialogue_(lines, out, database_.drawing().variables, options_.file, options_.answers) {
-  add_family(siblings_, database_, options_.choice);
-  vexo_xyz_impl::load_module({dialogue_, *this, database_, siblings_});
+      dialogue_(lines, out, database_.drawing().variables, options_.file, options_.answers),
+      siblings_(family(database_, options_.choice)),
+      entered_({{dialogue_, database_, siblings_}, vexo_xyz_impl::bind_siblings(siblings_)}) {
+  vexo_xyz_impl::register_command(*this);
 }
 
 void Session::command(std::string_view local_name, std::string_view /*global_name*/, std::string_view /*group_name*/,
@@ -89,7 +91,7 @@ std::filesystem::path Session::write_drawing() {
   const std::filesystem::path source = vexo_xyz_impl::clean_path(dialogue_.path());
   AtomicFile file(options_.output ? options_.output->parent_path() : source.parent_path());
   const std::string market =
-      vexo_xyz_impl::host::load_sibling<vexo_xyz_impl::host::Market>(siblings_, "vexo_rynek").rynek();
+      vexo_xyz_impl::host::load_sibling<vexo_xyz_impl::host::Market>(siblings_, "vexo_rynek")->rynek();
   write_dxf(database_.drawing(), code_page_of(market), file);
   file.flush();
   if (options_.output) {

@@ -11,7 +11,7 @@
 #include "console/dialogue/dialogue.h"
 #include "console/drawing/database.h"
 #include "console/sibling_registry.h"
-#include "vexo_xyz_impl/host/bindings.h"
+#include "vexo_xyz_impl/bindings.h"
 
 namespace console {
 
@@ -47,6 +47,7 @@ class Session final : private vexo_xyz_impl::host::CommandTable {
   Dialogue dialogue_;
   SiblingRegistry siblings_;
   vexo_xyz_impl::host::CommandFunction import_;
+  vexo_xyz_impl::Entered entered_;  // for as long as the session lasts
 };
 
 }  // namespace console

@@ -15,7 +15,7 @@
 
 namespace console {
 
-void SiblingRegistry::add(std::string name, std::unique_ptr<vexo_xyz_impl::host::SiblingModule> module) {
+void SiblingRegistry::add(std::string name, std::shared_ptr<vexo_xyz_impl::host::SiblingModule> module) {
   modules_.insert_or_assign(std::move(name), std::move(module));
 }
 
@@ -23,24 +23,26 @@ void SiblingRegistry::remove(std::string_view name) {
   if (const auto found = modules_.find(name); found != modules_.end()) modules_.erase(found);
 }
 
-vexo_xyz_impl::host::SiblingModule& SiblingRegistry::load(std::string_view name) {
+std::shared_ptr<vexo_xyz_impl::host::SiblingModule> SiblingRegistry::load(std::string_view name) {
   const auto found = modules_.find(name);
-  if (found != modules_.end()) return *found->second;
+  if (found != modules_.end()) return found->second;
   throw vexo_xyz_impl::ModuleNotFoundError("no module named '" + std::string(name) + "'");
 }
 
-void add_family(SiblingRegistry& registry, Database& database, const Choice& choice) {
-  auto market = std::make_unique<vexo_rynek::Market>(choice.market);
+SiblingRegistry family(Database& database, const Choice& choice) {
+  SiblingRegistry registry;
+  auto market = std::make_shared<vexo_rynek::Market>(choice.market);
   const auto& language = vexo_teksty::language_of(choice.language.empty() ? market->rynek() : choice.language);
-  registry.add("vexo_teksty", std::make_unique<vexo_teksty::Catalogue>(language.entries));
+  registry.add("vexo_teksty", std::make_shared<vexo_teksty::Catalogue>(language.entries));
   registry.add("vexo_rynek", std::move(market));
-  registry.add("vexo_xyz_dane_PL", std::make_unique<vexo_xyz_dane_PL::Tables>());
-  registry.add("vexo_xyz_dane_DE", std::make_unique<vexo_xyz_dane_DE::Tables>());
-  registry.add("vexo_xyz_dane_RO", std::make_unique<vexo_xyz_dane_RO::Tables>());
-  registry.add("vexo_cad_core", std::make_unique<vexo_cad_core::Styling>(database));
-  registry.add("vexo_boot", std::make_unique<vexo_boot::Notices>(vexo_boot::append_to_log));
-  registry.add("vexo_reaktywne_core", std::make_unique<vexo_reaktywne_core::ReactiveCore>(database));
-  registry.add("vexo_stereo70", std::make_unique<vexo_stereo70::Projection>());
+  registry.add("vexo_xyz_dane_PL", std::make_shared<vexo_xyz_dane::Tables>(vexo_xyz_dane_PL::tables()));
+  registry.add("vexo_xyz_dane_DE", std::make_shared<vexo_xyz_dane::Tables>(vexo_xyz_dane_DE::tables()));
+  registry.add("vexo_xyz_dane_RO", std::make_shared<vexo_xyz_dane::Tables>(vexo_xyz_dane_RO::tables()));
+  registry.add("vexo_cad_core", std::make_shared<vexo_cad_core::Styling>(database));
+  registry.add("vexo_boot", std::make_shared<vexo_boot::Notices>(vexo_boot::append_to_log));
+  registry.add("vexo_reaktywne_core", std::make_shared<vexo_reaktywne_core::ReactiveCore>(database));
+  registry.add("vexo_stereo70", std::make_shared<vexo_stereo70::Projection>());
+  return registry;
 }
 
 }  // namespace console

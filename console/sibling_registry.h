@@ -15,16 +15,16 @@ namespace console {
 class SiblingRegistry final : public vexo_xyz_impl::host::SiblingLoader {
  public:
   /// Adds a sibling, in the place of an earlier one of that name.
-  void add(std::string name, std::unique_ptr<vexo_xyz_impl::host::SiblingModule> module);
+  void add(std::string name, std::shared_ptr<vexo_xyz_impl::host::SiblingModule> module);
 
   /// Takes a sibling out, as if it were not installed.
   void remove(std::string_view name);
 
   void own_folder_first() override {}  // nothing is looked up on a disk
-  vexo_xyz_impl::host::SiblingModule& load(std::string_view name) override;
+  std::shared_ptr<vexo_xyz_impl::host::SiblingModule> load(std::string_view name) override;
 
  private:
-  std::map<std::string, std::unique_ptr<vexo_xyz_impl::host::SiblingModule>, std::less<>> modules_;
+  std::map<std::string, std::shared_ptr<vexo_xyz_impl::host::SiblingModule>, std::less<>> modules_;
 };
 
 /// What the user chose; empty leaves it to the environment, and to the market for the language.
@@ -33,7 +33,7 @@ struct Choice {
   std::string language;  ///< "PL", "DE", "RO", "EN"
 };
 
-/// Fills the registry with the whole family, working on `database`.
-void add_family(SiblingRegistry& registry, Database& database, const Choice& choice);
+/// The whole family, working on `database`.
+[[nodiscard]] SiblingRegistry family(Database& database, const Choice& choice);
 
 }  // namespace console

@@ -8,15 +8,27 @@
 #include <pybind11/pybind11.h>
 
 #include "python/exceptions.h"
-#include "python/host.h"
+#include "python/run.h"
+#include "python/values.h"
 
 namespace scripting {
+
+/// What every wrapper of a host's object is.
+class ScriptObject {
+ public:
+  virtual ~ScriptObject() = default;
+  [[nodiscard]] virtual const pybind11::object& object() const = 0;
+};
+
+inline const pybind11::object& object_of(host::OpenObject& opened) {
+  return dynamic_cast<ScriptObject&>(opened).object();
+}
 
 /// An opened object of the host behind one of the boundary's interfaces.
 template <class Interface>
 class ScriptOpen : public Interface, public ScriptObject {
  public:
-  ScriptOpen(ScriptHost& scripts, pybind11::object object) : scripts_(scripts), object_(std::move(object)) {}
+  ScriptOpen(Run& run, pybind11::object object) : run_(run), object_(std::move(object)) {}
 
   host::Gcad::ErrorStatus close() final {
     return calling_script([&] {
@@ -28,30 +40,44 @@ class ScriptOpen : public Interface, public ScriptObject {
   [[nodiscard]] const pybind11::object& object() const final { return object_; }
 
  protected:
-  [[nodiscard]] ScriptHost& scripts() const { return scripts_; }
+  [[nodiscard]] Run& run() const { return run_; }
 
   /// Calls a method that answers with a status and an object.
   template <class... Arguments>
   host::WithStatus<pybind11::object> call(const char* method, Arguments&&... arguments) const {
     const pybind11::tuple answer = object_.attr(method)(std::forward<Arguments>(arguments)...);
-    return {scripts_.status(answer[0]), answer[1]};
+    return {run_.status(answer[0]), answer[1]};
   }
 
  private:
-  ScriptHost& scripts_;
+  Run& run_;
   pybind11::object object_;
 };
 
 /// Opens a further object: with eOk and only then it is wrapped.
 template <class Wrapper, class Interface>
-host::WithStatus<std::unique_ptr<Interface>> wrapped(ScriptHost& scripts, host::WithStatus<pybind11::object> opened) {
+host::WithStatus<std::unique_ptr<Interface>> wrapped(Run& run, host::WithStatus<pybind11::object> opened) {
   if (opened.first != host::Gcad::eOk) return {opened.first, nullptr};
-  return {host::Gcad::eOk, std::make_unique<Wrapper>(scripts, std::move(opened.second))};
+  return {host::Gcad::eOk, std::make_unique<Wrapper>(run, std::move(opened.second))};
 }
 
-inline const pybind11::object& object_of(host::OpenObject& opened) {
-  return dynamic_cast<ScriptObject&>(opened).object();
-}
+/// The host's own list of ids, or one that a script passes.
+class ScriptIdArray final : public host::GcDbObjectIdArray {
+ public:
+  ScriptIdArray(Run& run, pybind11::object object) : run_(run), object_(std::move(object)) {}
+
+  void append(host::GcDbObjectId id) override {
+    calling_script([&] { object_.attr("append")(run_.id_object(id)); });
+  }
+  [[nodiscard]] std::size_t length() const override {
+    return calling_script([&] { return object_.attr("length")().cast<std::size_t>(); });
+  }
+  [[nodiscard]] const pybind11::object& object() const { return object_; }
+
+ private:
+  Run& run_;
+  pybind11::object object_;
+};
 
 using ScriptPoint = ScriptOpen<host::GcDbPoint>;
 
@@ -66,7 +92,7 @@ class ScriptText final : public ScriptOpen<host::GcDbText> {
   }
   host::Gcad::ErrorStatus setTextStyle(host::GcDbObjectId style) override {
     return calling_script([&] {
-      object().attr("setTextStyle")(scripts().id_object(style));
+      object().attr("setTextStyle")(run().id_object(style));
       return host::Gcad::eOk;
     });
   }
@@ -77,7 +103,7 @@ class ScriptGroup final : public ScriptOpen<host::GcDbGroup> {
   using ScriptOpen::ScriptOpen;
   host::Gcad::ErrorStatus append(const host::GcDbObjectIdArray& ids) override {
     return calling_script([&] {
-      object().attr("append")(scripts().id_array(ids));
+      object().attr("append")(dynamic_cast<const ScriptIdArray&>(ids).object());
       return host::Gcad::eOk;
     });
   }
@@ -90,7 +116,7 @@ class ScriptRecord final : public ScriptOpen<host::GcDbBlockTableRecord> {
     return calling_script([&]() -> host::WithStatus<host::GcDbObjectId> {
       auto [status, id] = call("appendGcDbEntity", object_of(entity));
       if (status != host::Gcad::eOk) return {status, {}};
-      return {status, scripts().remember(std::move(id))};
+      return {status, run().remember(std::move(id))};
     });
   }
 };
@@ -103,8 +129,8 @@ class ScriptBlockTable final : public ScriptOpen<host::GcDbBlockTable> {
     return calling_script([&] {
       // The boundary's only record goes by the host's own name for it.
       const pybind11::object record =
-          name == host::GCDB_MODEL_SPACE ? scripts().name("GCDB_MODEL_SPACE") : pybind11::object(to_script(name));
-      return wrapped<ScriptRecord, host::GcDbBlockTableRecord>(scripts(), call("getAt", record, scripts().mode(mode)));
+          name == host::GCDB_MODEL_SPACE ? run().name("GCDB_MODEL_SPACE") : pybind11::object(to_script(name));
+      return wrapped<ScriptRecord, host::GcDbBlockTableRecord>(run(), call("getAt", record, run().mode(mode)));
     });
   }
 };
@@ -113,7 +139,7 @@ class ScriptDictionary final : public ScriptOpen<host::GcDbDictionary> {
  public:
   using ScriptOpen::ScriptOpen;
   [[nodiscard]] bool has(std::string_view name) override {
-    return calling_script([&] { return pybind11::bool_(object().attr("has")(to_script(name))).operator bool(); });
+    return calling_script([&] { return truth_of(object().attr("has")(to_script(name))); });
   }
   host::WithStatus<host::GcDbObjectId> setAt(std::string_view name, host::GcDbGroup& group) override {
     return calling_script([&]() -> host::WithStatus<host::GcDbObjectId> {
@@ -125,7 +151,7 @@ class ScriptDictionary final : public ScriptOpen<host::GcDbDictionary> {
 /// The database itself, which is never opened nor closed.
 class ScriptDatabase final : public host::GcDbDatabase, public ScriptObject {
  public:
-  ScriptDatabase(ScriptHost& scripts, pybind11::object object) : scripts_(scripts), object_(std::move(object)) {}
+  ScriptDatabase(Run& run, pybind11::object object) : run_(run), object_(std::move(object)) {}
   [[nodiscard]] const pybind11::object& object() const override { return object_; }
 
   host::WithStatus<std::unique_ptr<host::GcDbBlockTable>> getBlockTable(host::GcDb::OpenMode mode) override {
@@ -139,12 +165,12 @@ class ScriptDatabase final : public host::GcDbDatabase, public ScriptObject {
   template <class Wrapper, class Interface>
   host::WithStatus<std::unique_ptr<Interface>> open(const char* method, host::GcDb::OpenMode mode) {
     return calling_script([&] {
-      const pybind11::tuple answer = object_.attr(method)(scripts_.mode(mode));
-      return wrapped<Wrapper, Interface>(scripts_, {scripts_.status(answer[0]), answer[1]});
+      const pybind11::tuple answer = object_.attr(method)(run_.mode(mode));
+      return wrapped<Wrapper, Interface>(run_, {run_.status(answer[0]), answer[1]});
     });
   }
 
-  ScriptHost& scripts_;
+  Run& run_;
   pybind11::object object_;
 };
 

@@ -2,17 +2,20 @@
 
 #include <string>
 
+#include "python/lock.h"
+#include "python/values.h"
+
 namespace scripting {
 namespace {
 
 namespace py = pybind11;
 
-std::string kind_of(const py::error_already_set& error) { return py::str(error.type().attr("__name__")); }
-
+// The text of an exception; none when it cannot be had. An interruption that comes in its place is thrown.
 std::string text_of(const py::error_already_set& error) {
   try {
-    return py::str(error.value());
-  } catch (const py::error_already_set&) {  // an exception whose text cannot be had still has a name
+    return from_script(error.value());
+  } catch (py::error_already_set& another) {
+    if (!another.matches(PyExc_Exception)) throw Interruption(std::move(another));
     return {};
   }
 }
@@ -20,8 +23,6 @@ std::string text_of(const py::error_already_set& error) {
 // The class that carries a kind in scripts.
 py::object class_of(const std::string& kind) {
   if (kind == "BadZipFile") return py::module_::import("zipfile").attr("BadZipFile");
-  if (kind == "UnpackError")
-    return py::reinterpret_borrow<py::object>(PyExc_ValueError);  // what unpacking raises there
   const py::object builtins = py::module_::import("builtins");
   const py::object found = py::getattr(builtins, kind.c_str(), py::none());
   const bool is_exception = PyExceptionClass_Check(found.ptr()) != 0;
@@ -45,23 +46,27 @@ void translate(std::exception_ptr failure) {  // NOLINT(performance-unnecessary-
 
 }  // namespace
 
-ScriptFailure::ScriptFailure(py::error_already_set error)
-    : Failure(kind_of(error), text_of(error)), error_(std::move(error)) {}
+bool ScriptFailure::is(std::string_view kind) const {
+  const Locked lock;
+  return error_.matches(class_of(std::string(kind)));
+}
 
 void rethrow(py::error_already_set error) {
-  if (error.matches(PyExc_Exception)) throw ScriptFailure(std::move(error));
-  throw Interruption(std::move(error));
+  if (!error.matches(PyExc_Exception)) throw Interruption(std::move(error));
+  std::string kind = from_script(error.type().attr("__name__"));
+  std::string text = text_of(error);
+  throw ScriptFailure(std::move(kind), std::move(text), std::move(error));
 }
 
 py::object exception_of(const std::exception& failure) {
   if (const auto* script = dynamic_cast<const ScriptFailure*>(&failure)) return script->exception();
   const auto [kind, text] = vexo_xyz_impl::describe(failure);
-  return class_of(kind)(text);
+  return class_of(kind)(to_script(text));
 }
 
 void register_translation() {
   static const bool registered = [] {
-    py::register_exception_translator(translate);
+    py::register_local_exception_translator(translate);
     return true;
   }();
   static_cast<void>(registered);
@@ -69,15 +74,20 @@ void register_translation() {
 
 void raise_current() {
   try {
-    throw;
-  } catch (py::error_already_set& error) {
-    error.restore();
-  } catch (const vexo_xyz_impl::Failure&) {
-    translate(std::current_exception());
-  } catch (const Interruption&) {
-    translate(std::current_exception());
-  } catch (const std::exception& failure) {
-    PyErr_SetString(PyExc_RuntimeError, failure.what());
+    try {
+      throw;
+    } catch (py::error_already_set& error) {
+      error.restore();
+    } catch (const py::builtin_exception& failure) {
+      failure.set_error();
+    } catch (const Interruption&) {
+      translate(std::current_exception());
+    } catch (const std::exception& failure) {
+      const py::object exception = exception_of(failure);
+      PyErr_SetObject(reinterpret_cast<PyObject*>(Py_TYPE(exception.ptr())), exception.ptr());
+    }
+  } catch (...) {
+    PyErr_SetString(PyExc_SystemError, "a failure of an unknown kind");
   }
 }
 

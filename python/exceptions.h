@@ -6,6 +6,8 @@
 #pragma once
 
 #include <exception>
+#include <string>
+#include <string_view>
 #include <utility>
 
 #include <pybind11/pybind11.h>
@@ -17,7 +19,11 @@ namespace scripting {
 /// A script's ordinary exception on its way through the module.
 class ScriptFailure : public vexo_xyz_impl::Failure {
  public:
-  explicit ScriptFailure(pybind11::error_already_set error);
+  /// `kind` and `text` as the exception's class and text form have them.
+  ScriptFailure(std::string kind, std::string text, pybind11::error_already_set error)
+      : Failure(std::move(kind), std::move(text)), error_(std::move(error)) {}
+  /// Subclasses of the exception of that name count as it.
+  [[nodiscard]] bool is(std::string_view kind) const override;
   [[nodiscard]] const pybind11::object& exception() const { return error_.value(); }
   void restore() { error_.restore(); }
 
@@ -38,8 +44,8 @@ class Interruption {
 /// Throws the exception as what it is here.
 [[noreturn]] void rethrow(pybind11::error_already_set error);
 
-/// Calls into scripts: their exceptions come out as ScriptFailure or Interruption, a value of the wrong type as
-/// TypeError.
+/// Calls into scripts with the lock held: their exceptions come out as ScriptFailure or Interruption, a value of the
+/// wrong type as TypeError.
 template <class Call>
 auto calling_script(Call call) -> decltype(call()) {
   try {
@@ -54,7 +60,8 @@ auto calling_script(Call call) -> decltype(call()) {
 /// The failure as an exception object of the scripting layer: the script's own, or a new one of the kind's class.
 [[nodiscard]] pybind11::object exception_of(const std::exception& failure);
 
-/// Makes pybind11 raise this module's failures as the scripting layer's exceptions.
+/// Makes the functions of this extension, and of no other, raise the module's failures as the scripting layer's
+/// exceptions.
 void register_translation();
 
 /// Sets the current failure as the interpreter's exception; for use in a catch block of a C function.

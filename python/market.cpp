@@ -1,87 +1,114 @@
 #include "python/market.h"
 
 #include <limits>
-#include <optional>
-#include <string>
-#include <utility>
 
 #include "python/exceptions.h"
-#include "python/host.h"
+#include "python/lock.h"
+#include "python/values.h"
 
 namespace scripting {
-namespace {
 
 namespace py = pybind11;
 
-std::pair<double, double> range_of(const py::object& pair) {
-  return {pair[py::int_(0)].cast<double>(), pair[py::int_(1)].cast<double>()};
+using vexo_xyz_impl::host::ZoneParameters;
+
+namespace {
+
+constexpr const char* kStereo70 = "stereo70";  // tag of the one system that is no zone
+
+// The whole number of a code that is one and not below zero.
+std::optional<int> whole_number(const py::object& code) {
+  if (PyLong_CheckExact(code.ptr()) == 0) return std::nullopt;
+  int overflow = 0;
+  const long long value = PyLong_AsLongLongAndOverflow(code.ptr(), &overflow);
+  if (overflow != 0 || value < 0 || value > std::numeric_limits<int>::max()) return std::nullopt;
+  return static_cast<int>(value);
 }
 
-std::optional<double> limit_of(const py::object& value) {
-  if (value.is_none()) return std::nullopt;
-  return value.cast<double>();
-}
-
-// The record's tag and, unless nobody reads them, its numbers, however many there are.
-vexo_xyz_impl::host::CoordinateSystem system_of(const py::object& record) {
-  vexo_xyz_impl::host::CoordinateSystem system;
-  bool first = true;
-  for (const py::handle item : record) {
-    if (first) {
-      system.tag = from_script(item);
-    } else if (system.tag != "stereo70") {
-      system.items.push_back(item.cast<double>());
-    }
-    first = false;
-  }
-  return system;
+bool has(const py::object& table, const py::object& code) {
+  const int found = PySequence_Contains(table.ptr(), code.ptr());
+  if (found < 0) throw py::error_already_set();
+  return found != 0;
 }
 
 }  // namespace
 
-Market::Market(py::object module) : module_(std::move(module)) {
-  calling_script([&] {
-    const py::dict systems(module_.attr("UKLADY"));
-    for (const auto& [code, record] : systems) {
-      tables_.UKLADY.emplace(enter(code), system_of(py::reinterpret_borrow<py::object>(record)));
+int ScriptMarket::number_of(const py::object& code) const {
+  if (const auto number = whole_number(code)) return *number;
+  return calling_script([&] {
+    if (!numbers_.contains(code)) {
+      static_cast<void>(py::object(module_.attr("UKLADY")[code]));  // fails for a code that is nobody's
+      codes_.push_back(code);
+      numbers_[code] = -static_cast<int>(codes_.size());
     }
-    for (const py::handle code : module_.attr("KOLEJNOSC")) tables_.KOLEJNOSC.push_back(enter(code));
-    const py::dict names(module_.attr("NAZWY"));
-    for (const auto& [code, name] : names) tables_.NAZWY.emplace(enter(code), from_script(name));
-    for (const py::handle code : module_.attr("ZONE_EXEMPT")) tables_.ZONE_EXEMPT.insert(enter(code));
-    tables_.KRAJ_LAT = range_of(module_.attr("KRAJ_LAT"));
-    tables_.KRAJ_LON = range_of(module_.attr("KRAJ_LON"));
-    tables_.EASTING_HALF = limit_of(module_.attr("EASTING_HALF"));
-    tables_.LON_HALF = limit_of(module_.attr("LON_HALF"));
-    // A number below zero is nobody's code: its name must be at hand.
-    for (std::size_t i = 0; i < codes_.size(); ++i) {
-      tables_.NAZWY.emplace(-1 - static_cast<int>(i), "EPSG:" + from_script(codes_[i]));
-    }
+    return numbers_[code].cast<int>();
   });
 }
 
-int Market::enter(py::handle code) {
-  if (numbers_.contains(code)) return numbers_[code].cast<int>();
-  int overflow = 0;
-  const bool whole = PyLong_CheckExact(code.ptr()) != 0;
-  const long long value = whole ? PyLong_AsLongLongAndOverflow(code.ptr(), &overflow) : -1;
-  int number = 0;
-  if (overflow == 0 && value >= 0 && value <= std::numeric_limits<int>::max()) {
-    number = static_cast<int>(value);
-  } else {
-    codes_.push_back(py::reinterpret_borrow<py::object>(code));
-    number = -static_cast<int>(codes_.size());
-  }
-  numbers_[code] = number;
-  return number;
-}
-
-int Market::number_of(py::handle code) const {
-  return calling_script([&] { return py::object(numbers_[code]).cast<int>(); });
-}
-
-py::object Market::code_of(int number) const {
+py::object ScriptMarket::code_of(int number) const {
   return number >= 0 ? py::object(py::int_(number)) : codes_.at(static_cast<std::size_t>(-1 - number));
+}
+
+py::object ScriptMarket::name_of(const py::object& code) const {
+  return calling_script([&]() -> py::object {
+    const py::object names = module_.attr("NAZWY");
+    return has(names, code) ? py::object(names[code]) : py::none();
+  });
+}
+
+std::optional<ZoneParameters> ScriptMarket::UKLADY(int srid) const {
+  const Locked lock;
+  return calling_script([&]() -> std::optional<ZoneParameters> {
+    const py::object record = module_.attr("UKLADY")[code_of(srid)];
+    if (py::object(record[py::int_(0)]).equal(py::str(kStereo70))) return std::nullopt;
+    const py::list items = items_of(record, 5);
+    const auto number = [&](std::size_t i) { return number_from_script(items[i]); };
+    return ZoneParameters{number(1), number(2), number(3), number(4)};
+  });
+}
+
+std::vector<int> ScriptMarket::KOLEJNOSC() const {
+  const Locked lock;
+  return calling_script([&] {
+    std::vector<int> order;
+    for (const py::handle code : module_.attr("KOLEJNOSC")) {
+      order.push_back(number_of(py::reinterpret_borrow<py::object>(code)));
+    }
+    return order;
+  });
+}
+
+std::optional<std::string> ScriptMarket::NAZWY(int srid) const {
+  const Locked lock;
+  return calling_script([&]() -> std::optional<std::string> {
+    const py::object code = code_of(srid);
+    const py::object name = name_of(code);
+    if (!name.is_none()) return from_script(name);
+    if (srid < 0) return "EPSG:" + from_script(code);  // a number below zero is nobody's code
+    return std::nullopt;
+  });
+}
+
+bool ScriptMarket::ZONE_EXEMPT(int srid) const {
+  const Locked lock;
+  return calling_script([&] { return has(module_.attr("ZONE_EXEMPT"), code_of(srid)); });
+}
+
+std::pair<double, double> ScriptMarket::range(const char* table) const {
+  const Locked lock;
+  return calling_script([&]() -> std::pair<double, double> {
+    const py::object bounds = module_.attr(table);
+    const py::object least = bounds[py::int_(0)];
+    return {number_from_script(least), number_from_script(bounds[py::int_(1)])};
+  });
+}
+
+std::optional<double> ScriptMarket::limit(const char* table) const {
+  const Locked lock;
+  return calling_script([&]() -> std::optional<double> {
+    const py::object value = module_.attr(table);
+    return value.is_none() ? std::nullopt : std::optional(number_from_script(value));
+  });
 }
 
 }  // namespace scripting

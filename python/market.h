@@ -1,6 +1,9 @@
-// A market's data module as the module's tables.
+// A script's market data module in the importer's role.
 #pragma once
 
+#include <optional>
+#include <string>
+#include <utility>
 #include <vector>
 
 #include <pybind11/pybind11.h>
@@ -9,29 +12,38 @@
 
 namespace scripting {
 
-/// The tables of a data module. Its codes are opaque to the importer: whole numbers stand for themselves, any other
-/// hashable code for a number of its own below zero.
-class Market final : public vexo_xyz_impl::host::MarketTables {
+/// The tables of a data module, asked as they are at each use. Codes are opaque to the importer: whole numbers stand
+/// for themselves, any other hashable code for a number of its own below zero. Every call takes the lock.
+class ScriptMarket final : public vexo_xyz_impl::host::MarketTables {
  public:
-  /// Reads the module's tables once. Fails with the script's exception when one is missing or of another shape.
-  explicit Market(pybind11::object module);
+  explicit ScriptMarket(pybind11::module_ module) : module_(std::move(module)) {}
 
-  [[nodiscard]] const vexo_xyz_impl::host::MarketData& tables() const override { return tables_; }
-  [[nodiscard]] const pybind11::object& module() const { return module_; }
+  [[nodiscard]] const pybind11::module_& module() const { return module_; }
 
-  /// The number that stands for a script's code. Fails with KeyError for one that the market has never named.
-  [[nodiscard]] int number_of(pybind11::handle code) const;
-
-  /// The script's code that a number stands for.
+  /// The number that stands for a script's code, and the code that a number stands for.
+  [[nodiscard]] int number_of(const pybind11::object& code) const;
   [[nodiscard]] pybind11::object code_of(int number) const;
 
- private:
-  int enter(pybind11::handle code);
+  /// The name of a script's code, as the very object; none when there is none.
+  [[nodiscard]] pybind11::object name_of(const pybind11::object& code) const;
 
-  pybind11::object module_;
-  pybind11::dict numbers_;               // code to number
-  std::vector<pybind11::object> codes_;  // codes that are no whole numbers, from -1 downwards
-  vexo_xyz_impl::host::MarketData tables_;
+  [[nodiscard]] std::optional<vexo_xyz_impl::host::ZoneParameters> UKLADY(int srid) const override;
+  [[nodiscard]] std::vector<int> KOLEJNOSC() const override;
+  [[nodiscard]] std::optional<std::string> NAZWY(int srid) const override;
+  [[nodiscard]] std::pair<double, double> KRAJ_LAT() const override { return range("KRAJ_LAT"); }
+  [[nodiscard]] std::pair<double, double> KRAJ_LON() const override { return range("KRAJ_LON"); }
+  [[nodiscard]] bool ZONE_EXEMPT(int srid) const override;
+  [[nodiscard]] std::optional<double> EASTING_HALF() const override { return limit("EASTING_HALF"); }
+  [[nodiscard]] std::optional<double> LON_HALF() const override { return limit("LON_HALF"); }
+
+ private:
+  [[nodiscard]] std::pair<double, double> range(const char* table) const;
+  [[nodiscard]] std::optional<double> limit(const char* table) const;
+
+  pybind11::module_ module_;
+  // Codes that are no whole numbers, from -1 downwards; guarded by the lock. Only codes of the tables come here.
+  mutable pybind11::dict numbers_;
+  mutable std::vector<pybind11::object> codes_;
 };
 
 }  // namespace scripting

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "python/host.h"
+#include "python/values.h"
 
 namespace scripting {
 

@@ -6,7 +6,7 @@
 
 #include "siblings/vexo_teksty/keys.h"
 #include "siblings/vexo_teksty/teksty.h"
-#include "vexo_xyz_impl/host/messages.h"
+#include "vexo_xyz_impl/messages.h"
 #include "vexo_xyz_impl/text/utf8.h"
 
 namespace {
@@ -32,7 +32,7 @@ int check_entries(const vexo_teksty::Language& language, const vexo_teksty::Cata
   std::set<std::string_view> known;
   for (const Key& key : vexo_teksty::kKeys) {
     known.insert(key.name);
-    const std::string_view text = catalogue.T(key.name);
+    const std::string text = catalogue.T(key.name);
     if (text == key.name || text.empty()) {
       report(key.name, "has no text");
     } else if (!vexo_xyz_impl::try_fill(text, values_of(key))) {
@@ -48,7 +48,7 @@ int check_entries(const vexo_teksty::Language& language, const vexo_teksty::Cata
   for (const auto& question : vexo_teksty::kQuestions) {
     std::set<char> first_letters;
     for (const std::string_view key : question) {
-      const std::string_view word = catalogue.T(key);
+      const std::string word = catalogue.T(key);
       for (const char c : word)
         if (c <= ' ' || c > '~') report(key, "is no keyword of plain letters");
       first_letters.insert(word.front());

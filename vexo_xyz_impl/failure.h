@@ -20,6 +20,9 @@ class Failure : public std::exception {
   [[nodiscard]] const std::string& kind() const noexcept { return kind_; }
   [[nodiscard]] const char* what() const noexcept override { return text_.c_str(); }
 
+  /// Whether it is of that kind, or of one that counts as it.
+  [[nodiscard]] virtual bool is(std::string_view kind) const { return kind_ == kind; }
+
  private:
   std::string kind_;
   std::string text_;
@@ -45,7 +48,6 @@ using IndexError = FailureOf<"IndexError">;
 using KeyError = FailureOf<"KeyError">;
 using OverflowError = FailureOf<"OverflowError">;
 using ZeroDivisionError = FailureOf<"ZeroDivisionError">;
-using UnpackError = FailureOf<"UnpackError">;
 using OSError = FailureOf<"OSError">;
 using ImportError = FailureOf<"ImportError">;
 using ModuleNotFoundError = FailureOf<"ModuleNotFoundError">;

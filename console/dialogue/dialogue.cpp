@@ -5,7 +5,8 @@
 
 #include "console/dialogue/shown_text.h"
 #include "vexo_xyz_impl/command/keywords.h"
-#include "vexo_xyz_impl/host/messages.h"
+#include "vexo_xyz_impl/messages.h"
+#include "vexo_xyz_impl/text/ascii.h"
 #include "vexo_xyz_impl/text/utf8.h"
 
 namespace console {
@@ -15,12 +16,11 @@ namespace text = vexo_xyz_impl::text;
 
 namespace {
 
-char lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
-
 // Letter case of ASCII aside; keywords are chosen so that nothing else is needed to tell them apart.
 bool begins_with(std::string_view word, std::string_view beginning) {
-  return word.size() >= beginning.size() && std::equal(beginning.begin(), beginning.end(), word.begin(),
-                                                       [](char a, char b) { return lower(a) == lower(b); });
+  return word.size() >= beginning.size() &&
+         std::equal(beginning.begin(), beginning.end(), word.begin(),
+                    [](char a, char b) { return text::ascii_lower(a) == text::ascii_lower(b); });
 }
 
 std::vector<std::string> split_at_blanks(std::string_view words) {

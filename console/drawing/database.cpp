@@ -143,6 +143,16 @@ class OpenText final : public OpenEntity<GcDbText, TextGeometry> {
   }
 };
 
+class IdArray final : public GcDbObjectIdArray {
+ public:
+  void append(GcDbObjectId id) override { ids_.push_back(id.value); }
+  [[nodiscard]] std::size_t length() const override { return ids_.size(); }
+  [[nodiscard]] const std::vector<Handle>& handles() const { return ids_; }
+
+ private:
+  std::vector<Handle> ids_;
+};
+
 class OpenGroup final : public OpenNewcomer<GcDbGroup> {
  public:
   OpenGroup(Database& database, std::string_view description, bool selectable) : OpenNewcomer(database) {
@@ -152,13 +162,15 @@ class OpenGroup final : public OpenNewcomer<GcDbGroup> {
 
   Gcad::ErrorStatus append(const GcDbObjectIdArray& ids) override {
     if (!is_open()) return Gcad::eNotOpenForWrite;
+    const auto* array = dynamic_cast<const IdArray*>(&ids);
+    if (array == nullptr) return Gcad::eInvalidInput;
+    const auto& handles = array->handles();
     const Drawing& drawing = database().drawing();
-    if (!std::all_of(ids.begin(), ids.end(), [&](GcDbObjectId id) { return drawing.entity(id.value) != nullptr; })) {
+    if (!std::all_of(handles.begin(), handles.end(), [&](Handle one) { return drawing.entity(one) != nullptr; })) {
       return Gcad::eInvalidInput;
     }
     auto& members = (is_resident() ? *database().drawing().group(resident()) : newcomer_).members;
-    members.reserve(members.size() + ids.length());
-    for (const GcDbObjectId id : ids) members.push_back(id.value);
+    members.insert(members.end(), handles.begin(), handles.end());
     return Gcad::eOk;
   }
 
@@ -221,6 +233,8 @@ class OpenGroupDictionary final : public OpenResident<GcDbDictionary> {
 };
 
 }  // namespace
+
+std::unique_ptr<GcDbObjectIdArray> Database::newGcDbObjectIdArray() { return std::make_unique<IdArray>(); }
 
 std::unique_ptr<GcDbPoint> Database::newGcDbPoint(const Position& position) {
   return std::make_unique<OpenPoint>(*this, PointGeometry{position});

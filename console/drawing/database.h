@@ -38,7 +38,10 @@ class Database final : public vexo_xyz_impl::host::DatabaseServices,
   void entity_refused() { ++refused_; }
 
   // DatabaseServices
-  vexo_xyz_impl::host::GcDbDatabase& gcdbWorkingDatabase() override { return *this; }
+  std::shared_ptr<vexo_xyz_impl::host::GcDbDatabase> gcdbWorkingDatabase() override {
+    return {std::shared_ptr<void>(), this};  // owned by whoever made it
+  }
+  std::unique_ptr<vexo_xyz_impl::host::GcDbObjectIdArray> newGcDbObjectIdArray() override;
   std::unique_ptr<vexo_xyz_impl::host::GcDbPoint> newGcDbPoint(const Position& position) override;
   std::unique_ptr<vexo_xyz_impl::host::GcDbText> newGcDbText(const Position& position, std::string_view text) override;
   std::unique_ptr<vexo_xyz_impl::host::GcDbGroup> newGcDbGroup(std::string_view description, bool selectable) override;

@@ -8,16 +8,14 @@ namespace {
 namespace py = pybind11;
 
 // A tuple of the tag and its numbers.
-py::tuple record_of(const vexo_xyz_impl::host::CoordinateSystem& system) {
-  py::tuple record(1 + system.items.size());
-  record[0] = system.tag;
-  for (std::size_t i = 0; i < system.items.size(); ++i) record[1 + i] = system.items[i];
-  return record;
+py::tuple record_of(const std::optional<vexo_xyz_impl::host::ZoneParameters>& zone) {
+  if (!zone) return py::make_tuple("stereo70");
+  return py::make_tuple("TM", zone->lon0, zone->k0, zone->FE, zone->FN);
 }
 
 }  // namespace
 
-void add_tables(py::module_& m, const vexo_xyz_impl::host::MarketData& tables) {
+void add_tables(py::module_& m, const vexo_xyz_dane::MarketData& tables) {
   py::dict systems;
   for (const auto& [code, system] : tables.UKLADY) systems[py::int_(code)] = record_of(system);
   m.attr("UKLADY") = systems;

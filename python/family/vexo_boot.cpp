@@ -3,6 +3,7 @@
 
 #include <pybind11/pybind11.h>
 
+#include "python/module_start.h"
 #include "siblings/vexo_boot/boot.h"
 #include "siblings/vexo_boot/log_file.h"
 
@@ -34,14 +35,17 @@ std::string text_of(const Exception& exception) {
 
 void blad(const py::str& name, const Exception& exception) {
   const py::str kind = py::type::of(exception).attr("__name__");
-  vexo_boot::Notices(vexo_boot::append_to_log).blad(utf8_of(name), {utf8_of(kind), text_of(exception)});
+  const vexo_xyz_impl::Failure failure(utf8_of(kind), text_of(exception));
+  vexo_boot::Notices(vexo_boot::append_to_log).blad(utf8_of(name), failure);
+}
+
+void set_up(py::module_& m) {
+  scripting::define(
+      m, "zdarzenie", [](const py::str& /*name*/) {}, py::arg("name"), "Takes notice of a start, in silence.");
+  scripting::define(m, "blad", blad, py::arg("name"), py::arg("exception"),
+                    "Leaves one line about a failure in the log.");
 }
 
 }  // namespace
 
-PYBIND11_MODULE(vexo_boot, m) {
-  m.doc() = "Notices of starts and failures.";
-  m.def(
-      "zdarzenie", [](const py::str& /*name*/) {}, py::arg("name"), "Takes notice of a start, in silence.");
-  m.def("blad", blad, py::arg("name"), py::arg("exception"), "Leaves one line about a failure in the log.");
-}
+VEXO_SCRIPT_MODULE(vexo_boot, "Notices of starts and failures.", set_up)

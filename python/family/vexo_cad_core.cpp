@@ -9,6 +9,7 @@
 
 #include <pybind11/pybind11.h>
 
+#include "python/module_start.h"
 #include "siblings/vexo_cad_core/cad_core.h"
 
 namespace {
@@ -100,19 +101,35 @@ class TextStyles {
   py::object database_ = host("gcdbWorkingDatabase")();
 };
 
+py::object found_or_made() {
+  const TextStyles styles;
+  py::object style = styles.find();
+  return style ? style : styles.make();
+}
+
+void set_style(const py::object& text, const py::object& style) {
+  if (style) text.attr("setTextStyle")(style);
+}
+
 void nadaj_styl_pl(const py::object& text) {
-  ignoring_failures([&] {
-    const TextStyles styles;
-    py::object style = styles.find();
-    if (!style) style = styles.make();
-    text.attr("setTextStyle")(style);
-  });
+  ignoring_failures([&] { set_style(text, found_or_made()); });
+}
+
+// The same for all labels of one run, during which the drawing stays the same: its style is looked up once.
+py::cpp_function styling_of_one_run() {
+  py::object style;
+  ignoring_failures([&] { style = found_or_made(); });
+  return py::cpp_function([style](const py::object& text) { ignoring_failures([&] { set_style(text, style); }); },
+                          py::name("nadaj_styl_pl"), py::arg("text"));
+}
+
+void set_up(py::module_& m) {
+  scripting::define(m, "nadaj_styl_pl", nadaj_styl_pl, py::arg("text"),
+                    "Gives a text the family's text style, made in the working database when it has none.");
+  scripting::define(m, "styling_of_one_run", styling_of_one_run,
+                    "nadaj_styl_pl for many texts of one drawing: looks the style up now, and no more.");
 }
 
 }  // namespace
 
-PYBIND11_MODULE(vexo_cad_core, m) {
-  m.doc() = "The family's styling of texts.";
-  m.def("nadaj_styl_pl", nadaj_styl_pl, py::arg("text"),
-        "Gives a text the family's text style, made in the working database when it has none.");
-}
+VEXO_SCRIPT_MODULE(vexo_cad_core, "The family's styling of texts.", set_up)

@@ -1,16 +1,13 @@
-// vexo_teksty for scripts: the message catalogue in the language of the market.
-//
-// Initialisation is of the kind that runs at each import, so that a module dropped from the module cache and imported
-// again asks for the market anew.
+// vexo_teksty for scripts: the message catalogue in the language of the market, which is asked for at each set-up.
 #include <algorithm>
 #include <cstdlib>
-#include <exception>
 #include <string>
-#include <string_view>
 
 #include <pybind11/pybind11.h>
 
+#include "python/module_start.h"
 #include "siblings/vexo_teksty/teksty.h"
+#include "vexo_xyz_impl/text/ascii.h"
 
 namespace {
 
@@ -32,8 +29,7 @@ std::string language() {
   const char* asked = std::getenv("VEXO_JEZYK");  // NOLINT(concurrency-mt-unsafe): under the interpreter's lock
   if (asked == nullptr || *asked == '\0') return language_of_market();
   std::string code = asked;
-  std::transform(code.begin(), code.end(), code.begin(),
-                 [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; });
+  std::transform(code.begin(), code.end(), code.begin(), vexo_xyz_impl::text::ascii_upper);
   return code;
 }
 
@@ -44,39 +40,17 @@ py::str text_of(const vexo_teksty::Catalogue& catalogue, const py::str& key) {
     PyErr_Clear();
     return key;
   }
-  const std::string_view text = catalogue.T({utf8, static_cast<std::size_t>(size)});
+  const std::string text = catalogue.T({utf8, static_cast<std::size_t>(size)});
   return {text.data(), text.size()};
 }
 
-int execute(PyObject* module) {
-  try {
-    py::detail::get_internals();
-    const vexo_teksty::Catalogue catalogue(vexo_teksty::language_of(language()).entries);
-    py::reinterpret_borrow<py::module_>(module).def(
-        "T", [catalogue](const py::str& key) { return text_of(catalogue, key); }, py::arg("key"),
-        "The text of a key in the language of the market, the key itself when there is none.");
-    return 0;
-  } catch (py::error_already_set& error) {
-    error.restore();
-  } catch (const std::exception& failure) {
-    PyErr_SetString(PyExc_ImportError, failure.what());
-  }
-  return -1;
+void set_up(py::module_& m) {
+  const vexo_teksty::Catalogue catalogue(vexo_teksty::language_of(language()).entries);
+  scripting::define(
+      m, "T", [catalogue](const py::str& key) { return text_of(catalogue, key); }, py::arg("key"),
+      "The text of a key in the language of the market, the key itself when there is none.");
 }
-
-PyModuleDef_Slot slots[] = {{Py_mod_exec, reinterpret_cast<void*>(execute)}, {0, nullptr}};  // NOLINT: a C table
-PyModuleDef definition = {PyModuleDef_HEAD_INIT,
-                          "vexo_teksty",
-                          "The texts that the user reads.",
-                          0,
-                          nullptr,
-                          slots,
-                          nullptr,
-                          nullptr,
-                          nullptr};
 
 }  // namespace
 
-extern "C" __attribute__((visibility("default"))) PyObject* PyInit_vexo_teksty() {
-  return PyModuleDef_Init(&definition);
-}
+VEXO_SCRIPT_MODULE(vexo_teksty, "The texts that the user reads.", set_up)

@@ -1,8 +1,12 @@
 // vexo_xyz_dane_RO for scripts: the coordinate systems and bounds of the market RO.
 #include "python/family/market_tables.h"
+#include "python/module_start.h"
 #include "siblings/vexo_xyz_dane_RO/dane.h"
 
-PYBIND11_MODULE(vexo_xyz_dane_RO, m) {
-  m.doc() = "Coordinate systems and bounds of the market RO.";
-  family::add_tables(m, vexo_xyz_dane_RO::Tables().tables());
-}
+namespace {
+
+void set_up(pybind11::module_& m) { family::add_tables(m, vexo_xyz_dane_RO::tables()); }
+
+}  // namespace
+
+VEXO_SCRIPT_MODULE(vexo_xyz_dane_RO, "Coordinate systems and bounds of the market RO.", set_up)

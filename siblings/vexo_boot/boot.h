@@ -1,6 +1,7 @@
 // Notices of starts and failures: a start passes in silence, a failure leaves one line in the log.
 #pragma once
 
+#include <exception>
 #include <functional>
 #include <string_view>
 #include <utility>
@@ -14,7 +15,7 @@ class Notices final : public vexo_xyz_impl::host::Notices {
   /// `log` takes a finished line without its end.
   explicit Notices(std::function<void(std::string_view)> log) : log_(std::move(log)) {}
   void zdarzenie(std::string_view /*name*/) override {}
-  void blad(std::string_view name, const vexo_xyz_impl::FailureNote& failure) override;
+  void blad(std::string_view name, const std::exception& failure) override;
 
  private:
   std::function<void(std::string_view)> log_;

@@ -17,10 +17,10 @@ const Language& language_of(std::string_view code) {
   return found != all.end() ? *found : all.front();
 }
 
-std::string_view Catalogue::T(std::string_view key) const {
+std::string Catalogue::T(std::string_view key) const {
   const auto found = std::lower_bound(entries_.begin(), entries_.end(), key,
                                       [](const Entry& entry, std::string_view wanted) { return entry.first < wanted; });
-  return found != entries_.end() && found->first == key ? found->second : key;
+  return found != entries_.end() && found->first == key ? std::string(found->second) : std::string(key);
 }
 
 }  // namespace vexo_teksty

@@ -5,6 +5,7 @@
 #pragma once
 
 #include <span>
+#include <string>
 #include <string_view>
 #include <utility>
 
@@ -37,7 +38,7 @@ class Catalogue final : public vexo_xyz_impl::host::Texts {
  public:
   /// `entries` sorted by key; they outlive the catalogue.
   explicit Catalogue(std::span<const Entry> entries) : entries_(entries) {}
-  [[nodiscard]] std::string_view T(std::string_view key) const override;
+  [[nodiscard]] std::string T(std::string_view key) const override;
 
  private:
   std::span<const Entry> entries_;

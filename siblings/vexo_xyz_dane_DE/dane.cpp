@@ -8,14 +8,16 @@
 
 namespace vexo_xyz_dane_DE {
 
-const vexo_xyz_impl::host::MarketData& Tables::tables() const {
-  static const vexo_xyz_impl::host::MarketData tables = {
+using Zone = vexo_xyz_impl::host::ZoneParameters;
+
+vexo_xyz_dane::MarketData tables() {
+  return {
       .UKLADY =
           {
-              {25832, {"TM", {9.0, 0.9996, 500000.0, 0.0}}},
-              {25833, {"TM", {15.0, 0.9996, 500000.0, 0.0}}},
-              {4647, {"TM", {9.0, 0.9996, 32500000.0, 0.0}}},
-              {5650, {"TM", {15.0, 0.9996, 33500000.0, 0.0}}},
+              {25832, Zone{9.0, 0.9996, 500000.0, 0.0}},
+              {25833, Zone{15.0, 0.9996, 500000.0, 0.0}},
+              {4647, Zone{9.0, 0.9996, 32500000.0, 0.0}},
+              {5650, Zone{15.0, 0.9996, 33500000.0, 0.0}},
           },
       .KOLEJNOSC = {25832, 25833, 4647, 5650},
       .NAZWY =
@@ -31,7 +33,6 @@ const vexo_xyz_impl::host::MarketData& Tables::tables() const {
       .EASTING_HALF = 400000.0,
       .LON_HALF = 5.5,
   };
-  return tables;
 }
 
 }  // namespace vexo_xyz_dane_DE

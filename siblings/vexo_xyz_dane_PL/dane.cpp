@@ -8,15 +8,17 @@
 
 namespace vexo_xyz_dane_PL {
 
-const vexo_xyz_impl::host::MarketData& Tables::tables() const {
-  static const vexo_xyz_impl::host::MarketData tables = {
+using Zone = vexo_xyz_impl::host::ZoneParameters;
+
+vexo_xyz_dane::MarketData tables() {
+  return {
       .UKLADY =
           {
-              {2176, {"TM", {15.0, 0.999923, 5500000.0, 0.0}}},
-              {2177, {"TM", {18.0, 0.999923, 6500000.0, 0.0}}},
-              {2178, {"TM", {21.0, 0.999923, 7500000.0, 0.0}}},
-              {2179, {"TM", {24.0, 0.999923, 8500000.0, 0.0}}},
-              {2180, {"TM", {19.0, 0.9993, 500000.0, -5300000.0}}},
+              {2176, Zone{15.0, 0.999923, 5500000.0, 0.0}},
+              {2177, Zone{18.0, 0.999923, 6500000.0, 0.0}},
+              {2178, Zone{21.0, 0.999923, 7500000.0, 0.0}},
+              {2179, Zone{24.0, 0.999923, 8500000.0, 0.0}},
+              {2180, Zone{19.0, 0.9993, 500000.0, -5300000.0}},
           },
       .KOLEJNOSC = {2176, 2177, 2178, 2179, 2180},
       .NAZWY =
@@ -33,7 +35,6 @@ const vexo_xyz_impl::host::MarketData& Tables::tables() const {
       .EASTING_HALF = 150000.0,
       .LON_HALF = 2.0,
   };
-  return tables;
 }
 
 }  // namespace vexo_xyz_dane_PL

@@ -6,9 +6,9 @@
 
 namespace vexo_xyz_dane_RO {
 
-const vexo_xyz_impl::host::MarketData& Tables::tables() const {
-  static const vexo_xyz_impl::host::MarketData tables = {
-      .UKLADY = {{3844, {"stereo70", {}}}},
+vexo_xyz_dane::MarketData tables() {
+  return {
+      .UKLADY = {{3844, std::nullopt}},
       .KOLEJNOSC = {3844},
       .NAZWY = {{3844, "Stereo 70 (EPSG:3844)"}},
       .KRAJ_LAT = {43.55, 48.35},
@@ -17,7 +17,6 @@ const vexo_xyz_impl::host::MarketData& Tables::tables() const {
       .EASTING_HALF = std::nullopt,
       .LON_HALF = std::nullopt,
   };
-  return tables;
 }
 
 }  // namespace vexo_xyz_dane_RO

@@ -1,13 +1,10 @@
 // Coordinate systems and bounds of the market RO.
 #pragma once
 
-#include "vexo_xyz_impl/host/siblings.h"
+#include "siblings/vexo_xyz_dane/market_data.h"
 
 namespace vexo_xyz_dane_RO {
 
-class Tables final : public vexo_xyz_impl::host::MarketTables {
- public:
-  [[nodiscard]] const vexo_xyz_impl::host::MarketData& tables() const override;
-};
+[[nodiscard]] vexo_xyz_dane::MarketData tables();
 
 }  // namespace vexo_xyz_dane_RO

@@ -7,13 +7,13 @@
 #include <utility>
 
 #include "vexo_xyz_impl/command/insertion.h"
-#include "vexo_xyz_impl/command/module.h"
 #include "vexo_xyz_impl/command/questions.h"
 #include "vexo_xyz_impl/command/report.h"
 #include "vexo_xyz_impl/drawing/model_space.h"
 #include "vexo_xyz_impl/failure.h"
-#include "vexo_xyz_impl/host/messages.h"
 #include "vexo_xyz_impl/input/loading.h"
+#include "vexo_xyz_impl/messages.h"
+#include "vexo_xyz_impl/notices.h"
 #include "vexo_xyz_impl/table/layout.h"
 #include "vexo_xyz_impl/table/points.h"
 
@@ -24,24 +24,10 @@ using host::CommandOutcome;
 
 constexpr std::size_t kSkippedShownWithoutPoints = 3;
 
-void notify_start() {
-  try {
-    host::load_sibling<host::Notices>(host::bound().host.siblings, "vexo_boot").zdarzenie(kCommandName);
-  } catch (const std::exception&) {  // NOLINT(bugprone-empty-catch): a notice is no reason not to import
-  }
-}
-
-void notify_failure(const FailureNote& failure) {
-  try {
-    host::load_sibling<host::Notices>(host::bound().host.siblings, "vexo_boot").blad(kCommandName, failure);
-  } catch (const std::exception&) {  // NOLINT(bugprone-empty-catch): the user is told in any case
-  }
-}
-
 // The table; empty, with the user told why, when the file cannot be used.
 std::optional<Table> read_table(const std::string& path) {
   LoadResult loaded;
-  host::run_work([&] { loaded = _wczytaj(path); });
+  without_lock([&] { loaded = _wczytaj(path); });
   if (loaded.typ == FileType::xls_stary) {
     print("xyz.xls_stary_1");
     print("xyz.xls_stary_2");
@@ -60,12 +46,12 @@ CommandOutcome import_file(const std::string& path) {
   if (!table) return CommandOutcome::failed;
 
   LayoutVerdict verdict;
-  host::run_work([&] { verdict = _wykryj_format(table->rows()); });
+  without_lock([&] { verdict = _wykryj_format(table->rows()); });
   if (!verdict.fmt && !ask_layout(verdict)) return CommandOutcome::nothing_done;
   Decomposition read;
   if (verdict.fmt) {
-    announce_layout(verdict);
-    host::run_work([&] { read = _rozbierz(verdict.dane, *verdict.fmt); });
+    announce_layout(*verdict.fmt, verdict.opis);
+    without_lock([&] { read = _rozbierz(verdict.dane, *verdict.fmt); });
   }
   if (read.punkty.empty()) {
     print("xyz.zero_wierszy");
@@ -89,7 +75,7 @@ CommandOutcome import_file(const std::string& path) {
 
   print("xyz.wstawiono_punkty", {static_cast<long long>(inserted.placed), layout_code(*verdict.fmt)});
   mark_and_report(inserted.oidy_punktow);
-  group_and_report(*model.db, inserted.oidy, path);
+  group_and_report(*model.db, *inserted.oidy, path);
   report_rest(read);
   return CommandOutcome::done;
 }
@@ -104,7 +90,7 @@ CommandOutcome importxyz() {
     return import_file(*path);
   } catch (const std::exception& failure) {
     const FailureNote note = describe(failure);
-    notify_failure(note);
+    notify_failure(failure);
     print("xyz.blad_ogolny", {std::string_view(note.kind), std::string_view(note.text)});
     return CommandOutcome::failed;
   }

@@ -2,7 +2,8 @@
 
 #include <optional>
 
-#include "vexo_xyz_impl/host/bindings.h"
+#include "vexo_xyz_impl/bindings.h"
+#include "vexo_xyz_impl/table/span.h"
 #include "vexo_xyz_impl/table/text_height.h"
 
 namespace vexo_xyz_impl {
@@ -12,18 +13,6 @@ constexpr double kHeightShare = 0.02;     // label height as a share of the larg
 constexpr double kOneSpot = 1e-06;        // metres; an extent that is no larger is a single spot
 constexpr double kHeightOnOneSpot = 2.5;  // raw label height there
 constexpr double kLabelOffset = 0.6;      // of the label height, to the right of the point and above it
-
-template <class Coordinate>
-double span_of(std::span<const PointRecord> punkty, Coordinate coordinate) {
-  double largest = coordinate(punkty.front());
-  double smallest = largest;
-  for (const PointRecord& point : punkty) {
-    const double value = coordinate(point);
-    if (value > largest) largest = value;
-    if (value < smallest) smallest = value;
-  }
-  return largest - smallest;
-}
 
 // Appends the entity and closes it; empty when the host refused it.
 template <class Entity>
@@ -36,27 +25,28 @@ std::optional<host::GcDbObjectId> append_and_close(host::GcDbBlockTableRecord& m
 }  // namespace
 
 double label_height(std::span<const PointRecord> punkty) {
-  const double rozp0 = span_of(punkty, [](const PointRecord& point) { return point.x; });
-  const double rozp1 = span_of(punkty, [](const PointRecord& point) { return point.y; });
+  const double rozp0 = span_of(punkty, &PointRecord::x);
+  const double rozp1 = span_of(punkty, &PointRecord::y);
   const double span = rozp0 > rozp1 ? rozp0 : rozp1;
   return _rowna_wysokosc(span > kOneSpot ? span * kHeightShare : kHeightOnOneSpot);
 }
 
 Inserted insert_points(host::GcDbBlockTableRecord& ms, std::span<const PointRecord> punkty, double txtH) {
-  const host::Bindings& bound = host::bound();
+  const auto& [host, loaded] = bound();
   const double off = txtH * kLabelOffset;
   Inserted inserted;
+  inserted.oidy = host.database.newGcDbObjectIdArray();
   for (const PointRecord& record : punkty) {
-    host::Opened<host::GcDbPoint> point(bound.host.database.newGcDbPoint({record.x, record.y, record.z}));
+    host::Opened<host::GcDbPoint> point(host.database.newGcDbPoint({record.x, record.y, record.z}));
     if (const auto oid = append_and_close(ms, point)) {
-      inserted.oidy.append(*oid);
+      inserted.oidy->append(*oid);
       inserted.oidy_punktow.push_back(*oid);
     }
     host::Opened<host::GcDbText> label(
-        bound.host.database.newGcDbText({record.x + off, record.y + off, record.z}, record.nr));
-    bound.style.nadaj_styl_pl(*label);
+        host.database.newGcDbText({record.x + off, record.y + off, record.z}, record.nr));
+    loaded.style->nadaj_styl_pl(*label);
     label->setHeight(txtH);
-    if (const auto oid = append_and_close(ms, label)) inserted.oidy.append(*oid);
+    if (const auto oid = append_and_close(ms, label)) inserted.oidy->append(*oid);
     ++inserted.placed;
   }
   return inserted;

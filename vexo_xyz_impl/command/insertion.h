@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <memory>
 #include <span>
 #include <vector>
 
@@ -12,9 +13,9 @@ namespace vexo_xyz_impl {
 
 /// What an insertion left in the drawing; what the host refused is in neither list.
 struct Inserted {
-  host::GcDbObjectIdArray oidy;                  ///< points and labels, a point before its label
-  std::vector<host::GcDbObjectId> oidy_punktow;  ///< points only
-  std::size_t placed = 0;                        ///< points tried
+  std::unique_ptr<host::GcDbObjectIdArray> oidy;  ///< points and labels, a point before its label
+  std::vector<host::GcDbObjectId> oidy_punktow;   ///< points only
+  std::size_t placed = 0;                         ///< points tried
 };
 
 /// Label height in metres: a round value near 2 % of the larger extent of the points. There must be a point.

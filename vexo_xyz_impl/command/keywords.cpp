@@ -5,7 +5,9 @@
 #include <utility>
 #include <vector>
 
-#include "vexo_xyz_impl/host/messages.h"
+#include "vexo_xyz_impl/failure.h"
+#include "vexo_xyz_impl/messages.h"
+#include "vexo_xyz_impl/text/ascii.h"
 
 namespace vexo_xyz_impl {
 namespace {
@@ -30,18 +32,19 @@ std::string prompt_text(const std::vector<std::string>& slowa, std::string_view 
 
 std::string _slowo(std::string_view symbol) {
   std::string key = "xyz.kw_";
-  for (const char c : symbol) key += c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-  const std::string_view w = T(key);
-  return std::string(w.empty() || w == key || w.find(' ') != std::string_view::npos ? symbol : w);
+  for (const char c : symbol) key += text::ascii_lower(c);
+  std::string w = T(key);
+  return w.empty() || w == key || w.find(' ') != std::string::npos ? std::string(symbol) : w;
 }
 
 std::optional<std::string_view> _kword(std::span<const std::string_view> symbole, std::string_view kl_prompt,
                                        std::size_t i_dom) {
+  if (i_dom >= symbole.size()) throw IndexError("a question has no default among its answers");
   std::vector<std::string> slowa;
   std::transform(symbole.begin(), symbole.end(), std::back_inserter(slowa), _slowo);
-  host::CommandLine& command_line = host::command_line();
-  command_line.gcedInitGet(0, joined(slowa, ' '));
-  const auto [rc, kw] = command_line.gcedGetKword(prompt_text(slowa, kl_prompt, i_dom));
+  host::CommandLine& host = command_line();
+  host.gcedInitGet(0, joined(slowa, ' '));
+  const auto [rc, kw] = host.gcedGetKword(prompt_text(slowa, kl_prompt, i_dom));
   if (rc == host::RTNONE) return symbole[i_dom];
   if (rc != host::RTNORM) return std::nullopt;
   const auto found = std::find(slowa.begin(), slowa.end(), kw);

@@ -23,7 +23,7 @@ inline constexpr std::string_view kZamien = "Zamien";
 [[nodiscard]] std::string _slowo(std::string_view symbol);
 
 /// Asks for one of the symbols with the catalogue's prompt `kl_prompt`; Enter is the symbol at `i_dom`. Empty when
-/// the user cancelled.
+/// the user cancelled. Fails with IndexError when there is no symbol at `i_dom`.
 [[nodiscard]] std::optional<std::string_view> _kword(std::span<const std::string_view> symbole,
                                                      std::string_view kl_prompt, std::size_t i_dom = 0);
 

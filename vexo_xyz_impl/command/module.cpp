@@ -1,22 +1,26 @@
 #include "vexo_xyz_impl/command/module.h"
 
 #include <exception>
+#include <memory>
 #include <string>
 
 #include "vexo_xyz_impl/command/import.h"
+#include "vexo_xyz_impl/notices.h"
 
 namespace vexo_xyz_impl {
 namespace {
 
-const host::MarketData& market_data(host::SiblingLoader& siblings, std::string_view market) {
-  return host::load_sibling<host::MarketTables>(siblings, "vexo_xyz_dane_" + std::string(market)).tables();
+using Tables = std::shared_ptr<const host::MarketTables>;
+
+Tables tables_of(host::SiblingLoader& siblings, std::string_view market) {
+  return host::load_sibling<host::MarketTables>(siblings, "vexo_xyz_dane_" + std::string(market));
 }
 
 // The market's own data, or `polish` on any ordinary failure: a user without a market module is a Polish one.
-const host::MarketData& selected_market(host::SiblingLoader& siblings, const host::MarketData& polish) {
+Tables selected_market(host::SiblingLoader& siblings, const Tables& polish) {
   try {
-    const std::string code = host::load_sibling<host::Market>(siblings, "vexo_rynek").rynek();
-    return code.empty() || code == kPolishMarket ? polish : market_data(siblings, code);
+    const std::string code = host::load_sibling<host::Market>(siblings, "vexo_rynek")->rynek();
+    return code.empty() || code == kPolishMarket ? polish : tables_of(siblings, code);
   } catch (const std::exception&) {
     return polish;
   }
@@ -24,14 +28,18 @@ const host::MarketData& selected_market(host::SiblingLoader& siblings, const hos
 
 }  // namespace
 
-void load_module(const host::Host& host) {
-  host::SiblingLoader& siblings = host.siblings;
+Loaded bind_siblings(host::SiblingLoader& siblings) {
   siblings.own_folder_first();
-  const auto& texts = host::load_sibling<host::Texts>(siblings, "vexo_teksty");
-  const host::MarketData& polish = market_data(siblings, kPolishMarket);
-  auto& style = host::load_sibling<host::Styling>(siblings, "vexo_cad_core");
-  host::bind({host, texts, style, selected_market(siblings, polish)});
-  host.commands.command(kCommandName, kCommandName, kCommandGroup, importxyz);
+  Loaded loaded;
+  loaded.texts = host::load_sibling<host::Texts>(siblings, "vexo_teksty");
+  const Tables polish = tables_of(siblings, kPolishMarket);
+  loaded.style = host::load_sibling<host::Styling>(siblings, "vexo_cad_core");
+  loaded.market = selected_market(siblings, polish);
+  return loaded;
+}
+
+void register_command(host::CommandTable& commands) {
+  commands.command(kCommandName, kCommandName, kCommandGroup, importxyz);
 }
 
 }  // namespace vexo_xyz_impl

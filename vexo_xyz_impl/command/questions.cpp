@@ -7,10 +7,10 @@
 #include <vector>
 
 #include "vexo_xyz_impl/command/keywords.h"
+#include "vexo_xyz_impl/crs/angles.h"
 #include "vexo_xyz_impl/crs/detection.h"
 #include "vexo_xyz_impl/crs/systems.h"
-#include "vexo_xyz_impl/crs/transverse_mercator.h"
-#include "vexo_xyz_impl/host/messages.h"
+#include "vexo_xyz_impl/messages.h"
 #include "vexo_xyz_impl/text/utf8.h"
 
 namespace vexo_xyz_impl {
@@ -59,16 +59,15 @@ bool ask_swap(std::span<const Candidate> kand, const PointRecord& first) {
 std::string_view clean_path(std::string_view typed) { return without_quotes(text::trim(typed)); }
 
 std::optional<std::string> ask_path() {
-  host::CommandLine& command_line = host::command_line();
   host::resbuf rb;
-  if (command_line.gcedGetFileD(T("xyz.dialog_wybor_pliku"), "", "xlsx;csv;txt", 0, rb) != host::RTNORM) {
+  if (command_line().gcedGetFileD(T("xyz.dialog_wybor_pliku"), "", "xlsx;csv;txt", 0, rb) != host::RTNORM) {
     print("xyz.anulowano_brak_pliku");
     return std::nullopt;
   }
   std::string path = std::move(rb.resval.rstring);
   if (path.empty()) {
     host::PromptStatus rc{};
-    std::tie(rc, path) = command_line.gcedGetString(1, T("xyz.prompt_sciezka"));
+    std::tie(rc, path) = command_line().gcedGetString(1, T("xyz.prompt_sciezka"));
     if (rc != host::RTNORM || text::trim(path).empty()) {
       print("xyz.anulowano");
       return std::nullopt;

@@ -2,14 +2,13 @@
 
 #include <algorithm>
 #include <exception>
-#include <memory_resource>
-#include <string_view>
-#include <unordered_set>
+#include <functional>
+#include <utility>
 
 #include "vexo_xyz_impl/drawing/control.h"
 #include "vexo_xyz_impl/drawing/group.h"
 #include "vexo_xyz_impl/failure.h"
-#include "vexo_xyz_impl/host/messages.h"
+#include "vexo_xyz_impl/messages.h"
 
 namespace vexo_xyz_impl {
 namespace {
@@ -18,33 +17,45 @@ constexpr std::size_t kSkippedShown = 5;
 
 long long count_of(std::size_t count) { return static_cast<long long>(count); }
 
-bool has_heights(Layout fmt) { return fmt == Layout::XYZ || fmt == Layout::NrXYZ; }
+// Shorter numbers before longer ones, which is how a counter rises.
+bool rises(std::string_view before, std::string_view after) {
+  return before.size() != after.size() ? before.size() < after.size() : before < after;
+}
 
-std::size_t repeated_numbers(std::span<const PointRecord> punkty) {
-  std::pmr::monotonic_buffer_resource nodes;  // a million of them, all freed at once
-  std::pmr::unordered_set<std::string_view> distinct(&nodes);
-  distinct.reserve(punkty.size());
-  for (const PointRecord& point : punkty) distinct.insert(point.nr);
-  return punkty.size() - distinct.size();
+// Points less distinct numbers. Numbers that rise, as most files' do, are distinct; others are sorted by their hashes
+// first, which no choice of numbers can make slow.
+std::size_t repeated_numbers(const Decomposition& read) {
+  const auto& punkty = read.punkty;
+  if (!read.counted_numbers.empty()) return 0;
+  const auto not_rising = [](const PointRecord& a, const PointRecord& b) { return !rises(a.nr, b.nr); };
+  if (std::adjacent_find(punkty.begin(), punkty.end(), not_rising) == punkty.end()) return 0;
+  std::vector<std::pair<std::size_t, std::string_view>> numbers;
+  numbers.reserve(punkty.size());
+  for (const PointRecord& point : punkty) numbers.emplace_back(std::hash<std::string_view>()(point.nr), point.nr);
+  std::sort(numbers.begin(), numbers.end());
+  const auto distinct = std::unique(numbers.begin(), numbers.end()) - numbers.begin();
+  return punkty.size() - static_cast<std::size_t>(distinct);
 }
 
 }  // namespace
 
-void announce_layout(const LayoutVerdict& verdict) {
-  print("xyz.rozpoznany_format", {layout_code(*verdict.fmt), std::string_view(verdict.opis)});
-  print(has_heights(*verdict.fmt) ? "xyz.z_wczytuje" : "xyz.z_brak");
+void announce_layout(Layout fmt, std::string_view opis) {
+  print("xyz.rozpoznany_format", {layout_code(fmt), opis});
+  print(has_heights(fmt) ? "xyz.z_wczytuje" : "xyz.z_brak");
 }
 
 void print_skipped(const std::vector<SkippedLine>& pominiete, std::size_t most) {
   for (const SkippedLine& line : std::span(pominiete).first(std::min(most, pominiete.size()))) {
-    print("xyz.linia_pominieta", {count_of(line.row), std::string_view(line.reason), std::string_view(line.text)});
+    const std::string reason = reason_text(line);
+    const std::string text = row_text(line.cells);
+    print("xyz.linia_pominieta", {count_of(line.row), std::string_view(reason), std::string_view(text)});
   }
 }
 
 void mark_and_report(std::span<const host::GcDbObjectId> oidy_punktow) {
   const MarkingResult marked = _oznacz_do_kontroli(oidy_punktow);
   if (marked.ile > 0) print("xyz.kontrola_ok", {count_of(marked.ile)});
-  if (!marked.message.empty()) host::command_line().gcutPrintf(marked.message);
+  if (!marked.message.empty()) command_line().gcutPrintf(marked.message);
 }
 
 void group_and_report(host::GcDbDatabase& db, const host::GcDbObjectIdArray& oidy, const std::string& path) {
@@ -74,7 +85,7 @@ void report_rest(const Decomposition& read) {
   if (read.pominiete.size() > kSkippedShown) {
     print("xyz.pominieto_dalsze", {count_of(read.pominiete.size() - kSkippedShown)});
   }
-  if (const std::size_t dubli = repeated_numbers(read.punkty); dubli != 0) print("xyz.dubli", {count_of(dubli)});
+  if (const std::size_t dubli = repeated_numbers(read); dubli != 0) print("xyz.dubli", {count_of(dubli)});
   print("xyz.zoom_hint");
 }
 

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "vexo_xyz_impl/host/database.h"
@@ -12,8 +13,8 @@
 
 namespace vexo_xyz_impl {
 
-/// The settled layout, and what becomes of heights.
-void announce_layout(const LayoutVerdict& verdict);
+/// The settled layout with its description, and what becomes of heights.
+void announce_layout(Layout fmt, std::string_view opis);
 
 /// The first `most` skipped lines.
 void print_skipped(const std::vector<SkippedLine>& pominiete, std::size_t most);

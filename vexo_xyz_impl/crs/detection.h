@@ -5,7 +5,6 @@
 
 #include <cstddef>
 #include <span>
-#include <string>
 #include <utility>
 #include <vector>
 
@@ -21,15 +20,15 @@ struct Candidate {
   double frac;  ///< share of plausible sample pairs, 0.9 to 1
 };
 
+/// A coordinate pair in the order of its columns, metres.
+using Pair = std::pair<double, double>;
+
 /// Whether (easting, northing) in metres is plausible in the system: inside the country's box, bounds included, and
-/// within the zone's half-widths where the market checks them. Fails with KeyError or UnpackError for a market whose
-/// tables are wrong; a conversion that fails for the numbers is merely not plausible.
+/// within the zone's half-widths where the market checks them. A conversion that fails with ValueError, OverflowError
+/// or ZeroDivisionError is merely not plausible; any other failure, of the market's tables too, is passed on.
 [[nodiscard]] bool _sensowny(double E, double N, int srid);
 
-/// The system's name for people, "EPSG:" and the code when the market names none.
-[[nodiscard]] std::string _uklad_nazwa(int srid);
-
 /// The plausible readings, by falling share; among equals in the market's order, unexchanged first.
-[[nodiscard]] std::vector<Candidate> _wykryj_uklad(std::span<const std::pair<double, double>> pary);
+[[nodiscard]] std::vector<Candidate> _wykryj_uklad(std::span<const Pair> pary);
 
 }  // namespace vexo_xyz_impl

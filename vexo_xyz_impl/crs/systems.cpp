@@ -1,28 +1,15 @@
 #include "vexo_xyz_impl/crs/systems.h"
 
-#include <numbers>
-#include <string>
-
-#include "vexo_xyz_impl/failure.h"
-#include "vexo_xyz_impl/host/bindings.h"
+#include "vexo_xyz_impl/bindings.h"
+#include "vexo_xyz_impl/crs/transverse_mercator.h"
 
 namespace vexo_xyz_impl {
 
-const host::CoordinateSystem& system_record(int srid) {
-  const auto found = _D->UKLADY.find(srid);
-  if (found == _D->UKLADY.end()) throw KeyError("the market has no coordinate system " + std::to_string(srid));
-  return found->second;
+std::pair<double, double> _do_geo(double E, double N, int srid) {
+  if (const auto zone = _D->UKLADY(srid)) return inverse(*zone, E, N);
+  return host::load_sibling<host::Stereo70>(bound().host.siblings, "vexo_stereo70")->stereo70_do_geo(E, N);
 }
 
-ZoneParameters unpack_zone(const host::CoordinateSystem& record) {
-  if (record.items.size() != 4) {
-    throw UnpackError("a coordinate system of tag '" + record.tag + "' has " + std::to_string(record.items.size() + 1) +
-                      " items instead of 5");
-  }
-  return {record.items[0], record.items[1], record.items[2], record.items[3]};
-}
-
-double radians(double degrees) { return degrees * (std::numbers::pi / 180.0); }
-double degrees(double radians) { return radians * (180.0 / std::numbers::pi); }
+std::string _uklad_nazwa(int srid) { return _D->NAZWY(srid).value_or("EPSG:" + std::to_string(srid)); }
 
 }  // namespace vexo_xyz_impl

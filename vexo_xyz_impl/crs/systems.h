@@ -1,31 +1,18 @@
-// Looking into the market's coordinate-system records.
+// The market's coordinate systems: positions in them, and their names.
 #pragma once
 
-#include <string_view>
-
-#include "vexo_xyz_impl/host/market_data.h"
+#include <string>
+#include <utility>
 
 namespace vexo_xyz_impl {
 
-/// Tag of the Romanian stereographic system; nothing else of its record is read.
-inline constexpr std::string_view kStereo70Tag = "stereo70";
+/// Easting and northing in metres to (latitude, longitude) in radians in the market's system `srid`; longitude is not
+/// normalised. Transverse Mercator zones are converted here (transverse_mercator.h, whose failures are passed on), the
+/// Romanian stereographic system by the sibling `vexo_stereo70`. Fails with KeyError for an unknown system and
+/// ValueError for a record that is none.
+[[nodiscard]] std::pair<double, double> _do_geo(double E, double N, int srid);
 
-/// A Transverse Mercator zone on GRS80.
-struct ZoneParameters {
-  double lon0;  ///< central meridian, degrees
-  double k0;    ///< scale on the central meridian
-  double FE;    ///< false easting, metres
-  double FN;    ///< false northing, metres
-};
-
-/// The bound market's record of `srid`; fails with KeyError when it has none.
-[[nodiscard]] const host::CoordinateSystem& system_record(int srid);
-
-/// The record's parameters; fails with UnpackError unless it is a tag and four numbers.
-[[nodiscard]] ZoneParameters unpack_zone(const host::CoordinateSystem& record);
-
-/// Degrees to radians and back, each a product with one constant, so that the last bit is the same everywhere.
-[[nodiscard]] double radians(double degrees);
-[[nodiscard]] double degrees(double radians);
+/// The system's name for people, "EPSG:" and the code when the market names none.
+[[nodiscard]] std::string _uklad_nazwa(int srid);
 
 }  // namespace vexo_xyz_impl

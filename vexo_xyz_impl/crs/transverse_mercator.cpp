@@ -5,9 +5,8 @@
 #include <cmath>
 #include <cstddef>
 
-#include "vexo_xyz_impl/crs/systems.h"
+#include "vexo_xyz_impl/crs/angles.h"
 #include "vexo_xyz_impl/failure.h"
-#include "vexo_xyz_impl/host/bindings.h"
 
 namespace vexo_xyz_impl {
 namespace {
@@ -77,12 +76,8 @@ const double _A_K = kSeries.A;
 const std::array<double, 5> _BETA = kSeries.beta;
 const std::array<double, 5> _DELTA = kSeries.delta;
 
-std::pair<double, double> _do_geo(double E, double N, int srid) {
-  const host::CoordinateSystem& u = system_record(srid);
-  if (u.tag == kStereo70Tag) {
-    return host::load_sibling<host::Stereo70>(host::bound().host.siblings, "vexo_stereo70").stereo70_do_geo(E, N);
-  }
-  const auto [lon0, k0, FE, FN] = unpack_zone(u);
+std::pair<double, double> inverse(const host::ZoneParameters& zone, double E, double N) {
+  const auto [lon0, k0, FE, FN] = zone;
   const double xi = divide(N - FN, k0 * _A_K);
   const double eta = divide(E - FE, k0 * _A_K);
 

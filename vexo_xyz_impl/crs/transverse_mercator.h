@@ -6,11 +6,13 @@
 // from the central meridian (12 nm of it the missing n^6 terms of delta, at any distance), 9 um at 60, 1 mm at 70.
 //
 // Metres and radians; eastings grow to the east, northings to the north, latitude north and longitude east are
-// positive. The Romanian stereographic system is handed to the sibling `vexo_stereo70`.
+// positive. Which zone numbers belong to is not asked here (systems.h).
 #pragma once
 
 #include <array>
 #include <utility>
+
+#include "vexo_xyz_impl/host/values.h"
 
 namespace vexo_xyz_impl {
 
@@ -32,9 +34,9 @@ extern const double _A_K;                   ///< A of `_wspolczynniki()`, comput
 extern const std::array<double, 5> _BETA;   ///< beta of `_wspolczynniki()`
 extern const std::array<double, 5> _DELTA;  ///< delta of `_wspolczynniki()`
 
-/// Easting and northing in metres to (latitude, longitude) in radians in the market's system `srid`; longitude is not
-/// normalised. Fails with KeyError for an unknown system, UnpackError for a record that is not one, ZeroDivisionError
-/// for k0 = 0, ValueError for the sine of an infinity and OverflowError for a hyperbolic function beyond double.
-[[nodiscard]] std::pair<double, double> _do_geo(double E, double N, int srid);
+/// Easting and northing in metres to (latitude, longitude) in radians in a zone; longitude is not normalised. Fails
+/// with ZeroDivisionError for k0 = 0, ValueError for the sine of an infinity and OverflowError for a hyperbolic
+/// function beyond double.
+[[nodiscard]] std::pair<double, double> inverse(const host::ZoneParameters& zone, double E, double N);
 
 }  // namespace vexo_xyz_impl

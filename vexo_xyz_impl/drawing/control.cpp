@@ -1,10 +1,11 @@
 #include "vexo_xyz_impl/drawing/control.h"
 
 #include <exception>
+#include <memory>
 #include <string_view>
 
 #include "vexo_xyz_impl/failure.h"
-#include "vexo_xyz_impl/host/messages.h"
+#include "vexo_xyz_impl/messages.h"
 
 namespace vexo_xyz_impl {
 namespace {
@@ -28,9 +29,9 @@ MarkingResult _oznacz_do_kontroli(std::span<const host::GcDbObjectId> oidy) {
     const auto points = static_cast<long long>(oidy.size());
     return {0, filled("xyz.kontrola_za_duzo", {points, static_cast<long long>(_MAX_KONTROLA)})};
   }
-  host::ReactiveCore* core = nullptr;
+  std::shared_ptr<host::ReactiveCore> core;
   try {
-    core = &host::load_sibling<host::ReactiveCore>(host::bound().host.siblings, "vexo_reaktywne_core");
+    core = host::load_sibling<host::ReactiveCore>(bound().host.siblings, "vexo_reaktywne_core");
   } catch (const std::exception& failure) {
     const auto [kind, text] = describe(failure);
     return {0, filled("xyz.kontrola_niedostepna", {std::string_view(kind), std::string_view(text)})};

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <utility>
 
-#include "vexo_xyz_impl/host/messages.h"
+#include "vexo_xyz_impl/messages.h"
 #include "vexo_xyz_impl/text/local_time.h"
 
 namespace vexo_xyz_impl {
@@ -66,17 +66,17 @@ std::string _nazwa_grupy(host::GcDbDatabase& db, const std::string& path) {
 }
 
 GroupingResult _grupuj(host::GcDbDatabase& db, const host::GcDbObjectIdArray& ids, const std::string& nazwa) {
-  if (ids.length() == 0) return {false, std::string(T("xyz.grup_brak_encji"))};
+  if (ids.length() == 0) return {false, T("xyz.grup_brak_encji")};
   auto [dictionary_status, dictionary] = db.getGroupDictionary(host::GcDb::kForWrite);
   host::Opened<host::GcDbDictionary> groups(std::move(dictionary));
-  if (dictionary_status != host::Gcad::eOk) return {false, std::string(T("xyz.grup_brak_slownika"))};
+  if (dictionary_status != host::Gcad::eOk) return {false, T("xyz.grup_brak_slownika")};
 
-  host::Opened<host::GcDbGroup> grupa(host::bound().host.database.newGcDbGroup(T("xyz.grupa_opis"), true));
+  host::Opened<host::GcDbGroup> grupa(bound().host.database.newGcDbGroup(T("xyz.grupa_opis"), true));
   const auto added = groups->setAt(nazwa, *grupa);
   if (added.first != host::Gcad::eOk) {
     grupa.discard();
     groups.finish();
-    return {false, std::string(T("xyz.grup_setat"))};
+    return {false, T("xyz.grup_setat")};
   }
   grupa->append(ids);
   grupa.finish();

@@ -3,7 +3,7 @@
 #include <exception>
 #include <utility>
 
-#include "vexo_xyz_impl/host/bindings.h"
+#include "vexo_xyz_impl/bindings.h"
 
 namespace vexo_xyz_impl {
 namespace {
@@ -14,8 +14,9 @@ constexpr double kSizeInPercentOfView = -2.0;  // negative: a percentage of the 
 }  // namespace
 
 ModelSpace _openModelSpace() {
-  host::GcDbDatabase& db = host::bound().host.database.gcdbWorkingDatabase();
-  auto [table_status, table] = db.getBlockTable(host::GcDb::kForRead);
+  const auto db = bound().host.database.gcdbWorkingDatabase();
+  if (!db) return {};
+  auto [table_status, table] = db->getBlockTable(host::GcDb::kForRead);
   host::Opened<host::GcDbBlockTable> bt(std::move(table));
   if (table_status != host::Gcad::eOk) return {};
 
@@ -23,7 +24,7 @@ ModelSpace _openModelSpace() {
   host::Opened<host::GcDbBlockTableRecord> ms(std::move(record));
   bt.finish();  // whatever became of model space
   if (record_status != host::Gcad::eOk) return {};
-  return {std::move(ms), &db};
+  return {std::move(ms), db};
 }
 
 void _setPointDisplayVars() {
@@ -31,11 +32,11 @@ void _setPointDisplayVars() {
     host::resbuf rb;
     rb.restype = host::RTSHORT;
     rb.resval.rint = kCrossPoints;
-    host::command_line().gcedSetVar("PDMODE", rb);
+    command_line().gcedSetVar("PDMODE", rb);
     host::resbuf rb2;
     rb2.restype = host::RTREAL;
     rb2.resval.rreal = kSizeInPercentOfView;
-    host::command_line().gcedSetVar("PDSIZE", rb2);
+    command_line().gcedSetVar("PDSIZE", rb2);
   } catch (const std::exception&) {  // NOLINT(bugprone-empty-catch): points stay as visible as they were
   }
 }

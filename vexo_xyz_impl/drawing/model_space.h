@@ -1,14 +1,17 @@
 // Reaching model space, and making points visible in the drawing.
 #pragma once
 
+#include <memory>
+
 #include "vexo_xyz_impl/host/database.h"
 
 namespace vexo_xyz_impl {
 
-/// Model space opened for writing and the working database; both empty when either cannot be opened.
+/// Model space opened for writing and the working database; both empty when no drawing is open or model space cannot be
+/// opened.
 struct ModelSpace {
   host::Opened<host::GcDbBlockTableRecord> ms;
-  host::GcDbDatabase* db = nullptr;
+  std::shared_ptr<host::GcDbDatabase> db;
 };
 
 [[nodiscard]] ModelSpace _openModelSpace();

@@ -40,14 +40,20 @@ class CommandLine {
 /// How a run of a command ended; for hosts that can use it, as a program can for its exit code.
 enum class CommandOutcome { done, nothing_done, failed };
 
+/// A command's operation; whoever calls it enters the module before (bindings.h).
 using CommandFunction = std::function<CommandOutcome()>;
 
-/// Runs work that does not concern the host, so that one that guards its interpreter with a lock can let go of it.
-/// What the work does call of the host (texts, siblings) must then take the lock itself.
-class Worker {
+/// The lock that guards a host's interpreter. A host without one leaves this role out.
+class HostLock {
  public:
-  virtual ~Worker() = default;
-  virtual void run(const std::function<void()>& work) = 0;
+  virtual ~HostLock() = default;
+
+  /// Does work that does not concern the host, the lock let go of meanwhile. What the work does call of the host after
+  /// all (texts, siblings) takes the lock itself.
+  virtual void let_go(const std::function<void()>& work) = 0;
+
+  /// Does work that calls the host many times with the lock taken once, wherever it is called from.
+  virtual void hold(const std::function<void()>& work) = 0;
 };
 
 class CommandTable {

@@ -4,6 +4,7 @@
 // a status and, with `eOk` only, an object. Every operation may also fail with an exception of the host's.
 #pragma once
 
+#include <cstddef>
 #include <exception>
 #include <memory>
 #include <string_view>
@@ -78,8 +79,17 @@ class GcDbText : public GcDbEntity {
   virtual Gcad::ErrorStatus setTextStyle(GcDbObjectId style) = 0;
 };
 
+/// The host's own list of object ids.
+class GcDbObjectIdArray {
+ public:
+  virtual ~GcDbObjectIdArray() = default;
+  virtual void append(GcDbObjectId id) = 0;
+  [[nodiscard]] virtual std::size_t length() const = 0;
+};
+
 class GcDbGroup : public OpenObject {
  public:
+  /// `ids` is an array of the same host's.
   virtual Gcad::ErrorStatus append(const GcDbObjectIdArray& ids) = 0;
 };
 
@@ -112,7 +122,9 @@ class GcDbDatabase {
 class DatabaseServices {
  public:
   virtual ~DatabaseServices() = default;
-  virtual GcDbDatabase& gcdbWorkingDatabase() = 0;
+  /// None when no drawing is open.
+  virtual std::shared_ptr<GcDbDatabase> gcdbWorkingDatabase() = 0;
+  virtual std::unique_ptr<GcDbObjectIdArray> newGcDbObjectIdArray() = 0;
   virtual std::unique_ptr<GcDbPoint> newGcDbPoint(const GcGePoint3d& position) = 0;
   virtual std::unique_ptr<GcDbText> newGcDbText(const GcGePoint3d& position, std::string_view text) = 0;
   virtual std::unique_ptr<GcDbGroup> newGcDbGroup(std::string_view description, bool selectable) = 0;

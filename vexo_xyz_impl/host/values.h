@@ -4,12 +4,10 @@
 // depend on them but equality.
 #pragma once
 
-#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
 #include <utility>
-#include <vector>
 
 namespace vexo_xyz_impl::host {
 
@@ -66,16 +64,12 @@ struct GcDbObjectId {
   friend bool operator==(GcDbObjectId, GcDbObjectId) = default;
 };
 
-/// Object ids in the order they were appended.
-class GcDbObjectIdArray {
- public:
-  void append(GcDbObjectId id) { ids_.push_back(id); }
-  [[nodiscard]] std::size_t length() const { return ids_.size(); }
-  [[nodiscard]] auto begin() const { return ids_.begin(); }
-  [[nodiscard]] auto end() const { return ids_.end(); }
-
- private:
-  std::vector<GcDbObjectId> ids_;
+/// A Transverse Mercator zone on GRS80.
+struct ZoneParameters {
+  double lon0;  ///< central meridian, degrees
+  double k0;    ///< scale on the central meridian
+  double FE;    ///< false easting, metres
+  double FN;    ///< false northing, metres
 };
 
 /// What a database operation answers that also yields something; the second is empty unless the first is `eOk`.

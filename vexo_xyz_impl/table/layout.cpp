@@ -5,18 +5,17 @@
 #include <iterator>
 #include <map>
 
-#include "vexo_xyz_impl/crs/detection.h"
 #include "vexo_xyz_impl/failure.h"
-#include "vexo_xyz_impl/host/messages.h"
+#include "vexo_xyz_impl/messages.h"
 #include "vexo_xyz_impl/table/numbers.h"
 #include "vexo_xyz_impl/table/points.h"
+#include "vexo_xyz_impl/table/span.h"
 
 namespace vexo_xyz_impl {
 namespace {
 
 constexpr std::size_t kFewestForNumbering = 3;  // two values rise by chance
 constexpr double kWhole = 1e-9;                 // distance from the nearest integer that still counts as whole
-constexpr double kSomeSpan = 1e-6;              // metres; a column that spans less holds one value
 
 Cell cell_at(Row row, std::size_t column) {
   if (column < row.size()) return row[column];
@@ -30,17 +29,6 @@ bool looks_like_data(Row row, std::size_t columns) {
   // With two columns there is no third cell to ask for. That this fails is long-standing behaviour: the file mixes
   // labelled and bare rows, and the surveyor must look at it.
   return second && (_czy_liczba(row[0]) || _czy_liczba(cell_at(row, 2)));
-}
-
-// max - min by successive comparison from the first value, which is what a nan among them is answered by.
-double span_of(std::span<const double> values) {
-  double largest = values.front();
-  double smallest = values.front();
-  for (const double value : values.subspan(1)) {
-    if (value > largest) largest = value;
-    if (value < smallest) smallest = value;
-  }
-  return largest - smallest;
 }
 
 // The numbers of one column in every row; empty when any cell holds none.
@@ -64,22 +52,35 @@ bool rise_strictly(std::span<const double> values) {
   return std::adjacent_find(values.begin(), values.end(), [](double a, double b) { return !(a < b); }) == values.end();
 }
 
-bool columns_recognised(std::span<const Row> dane, std::size_t i, std::size_t j) {
-  return !_wykryj_uklad(_pary(dane, i, j, kDetectionSample)).empty();
+// The first `most` pairs of two columns.
+std::vector<Pair> first_pairs(std::span<const Row> dane, std::size_t i, std::size_t j, std::size_t most) {
+  std::vector<Pair> pary;
+  for (const Row row : dane) {
+    if (pary.size() == most) break;
+    if (std::max(i, j) >= row.size()) continue;
+    const auto a = parse_number(row[i]);
+    const auto b = a ? parse_number(row[j]) : std::nullopt;
+    if (b) pary.emplace_back(*a, *b);
+  }
+  return pary;
 }
 
-// A run of whole, rising numbers that spans less than the coordinates beside it is a numbering.
+// Only the pairs that detection samples are read: the verdict is the same, and a million rows are not read twice.
+bool columns_recognised(std::span<const Row> dane, std::size_t i, std::size_t j) {
+  return !_wykryj_uklad(first_pairs(dane, i, j, kDetectionSample)).empty();
+}
+
+// A run of whole, rising numbers that spans less than the coordinates beside it is a numbering. Three such numbers span
+// about 2, so that coordinates on one spot need no test of their own.
 bool looks_like_numbering(std::span<const double> kol0, std::span<const double> kol1) {
   if (kol0.size() < kFewestForNumbering) return false;
-  const double rozp0 = span_of(kol0);
-  const double rozp1 = span_of(kol1);
-  return are_whole(kol0) && rise_strictly(kol0) && rozp1 > kSomeSpan && rozp0 < rozp1;
+  return are_whole(kol0) && rise_strictly(kol0) && span_of(kol0) < span_of(kol1);
 }
 
 LayoutVerdict settled(std::size_t columns, bool first_is_number, std::vector<Row> dane) {
   const Layout layout = layout_of(columns, first_is_number);
   if (columns == 3) {
-    return {layout, std::string(T(first_is_number ? "xyz.fmt_3_nrxy" : "xyz.fmt_3_xyz")), std::move(dane)};
+    return {layout, T(first_is_number ? "xyz.fmt_3_nrxy" : "xyz.fmt_3_xyz"), std::move(dane)};
   }
   const char* key = first_is_number ? "xyz.fmt_n_nrxyz" : "xyz.fmt_n_xyz";
   return {layout, filled(key, {static_cast<long long>(columns)}), std::move(dane)};
@@ -118,16 +119,8 @@ std::size_t _liczba_kolumn(std::span<const Row> wiersze) {
   return commonest;
 }
 
-std::vector<Pair> _pary(std::span<const Row> dane, std::size_t i, std::size_t j, std::size_t limit) {
-  std::vector<Pair> pary;
-  for (const Row row : dane) {
-    if (pary.size() == limit) break;
-    if (std::max(i, j) >= row.size()) continue;
-    const auto a = parse_number(row[i]);
-    const auto b = a ? parse_number(row[j]) : std::nullopt;
-    if (b) pary.emplace_back(*a, *b);
-  }
-  return pary;
+std::vector<Pair> _pary(std::span<const Row> dane, std::size_t i, std::size_t j) {
+  return first_pairs(dane, i, j, dane.size());
 }
 
 std::optional<bool> _pierwsza_to_numer(std::span<const Row> dane) {
@@ -135,7 +128,6 @@ std::optional<bool> _pierwsza_to_numer(std::span<const Row> dane) {
   const auto kol0 = column_numbers(dane, 0);
   if (!kol0) return true;
 
-  // Only the pairs that detection samples are read: the verdict is the same, and a million rows are not read twice.
   const bool test_a = columns_recognised(dane, 0, 1);
   const bool test_b = columns_recognised(dane, 1, 2);
   if (test_a != test_b) return test_b;
@@ -147,13 +139,13 @@ std::optional<bool> _pierwsza_to_numer(std::span<const Row> dane) {
 
 LayoutVerdict _wykryj_format(std::span<const Row> wiersze) {
   const std::size_t n = _liczba_kolumn(wiersze);
-  if (n < 2) return {std::nullopt, std::string(T("xyz.fmt_mniej_2")), {}};
+  if (n < 2) return {std::nullopt, T("xyz.fmt_mniej_2"), {}};
 
   std::vector<Row> dane;
   std::copy_if(wiersze.begin(), wiersze.end(), std::back_inserter(dane),
                [n](Row row) { return looks_like_data(row, n); });
-  if (dane.empty()) return {std::nullopt, std::string(T("xyz.fmt_brak_danych")), {}};
-  if (n == 2) return {Layout::XY, std::string(T("xyz.fmt_2kol")), std::move(dane)};
+  if (dane.empty()) return {std::nullopt, T("xyz.fmt_brak_danych"), {}};
+  if (n == 2) return {Layout::XY, T("xyz.fmt_2kol"), std::move(dane)};
 
   const auto first_is_number = _pierwsza_to_numer(dane);
   if (!first_is_number) {

@@ -10,9 +10,9 @@
 #include <span>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
+#include "vexo_xyz_impl/crs/detection.h"
 #include "vexo_xyz_impl/input/table.h"
 
 namespace vexo_xyz_impl {
@@ -22,6 +22,10 @@ enum class Layout { XY, XYZ, NrXY, NrXYZ };
 
 /// "XY", "XYZ", "NrXY" or "NrXYZ".
 [[nodiscard]] std::string_view layout_code(Layout layout);
+
+/// Whether the first column is the point number, and whether the last one that is read is the height.
+[[nodiscard]] constexpr bool has_number(Layout layout) { return layout == Layout::NrXY || layout == Layout::NrXYZ; }
+[[nodiscard]] constexpr bool has_heights(Layout layout) { return layout == Layout::XYZ || layout == Layout::NrXYZ; }
 
 /// The layout of rows of `columns` cells once it is known whether the first holds the point number.
 [[nodiscard]] Layout layout_of(std::size_t columns, bool first_is_number);
@@ -33,16 +37,11 @@ struct LayoutVerdict {
   std::vector<Row> dane;
 };
 
-/// A coordinate pair in the order of the columns.
-using Pair = std::pair<double, double>;
-
 /// The commonest row length, the greater among equally common ones; 0 without rows.
 [[nodiscard]] std::size_t _liczba_kolumn(std::span<const Row> wiersze);
 
-/// The pairs of columns `i` and `j`, row by row; a row where either is missing or no number gives none. At most
-/// `limit` pairs are read.
-[[nodiscard]] std::vector<Pair> _pary(std::span<const Row> dane, std::size_t i, std::size_t j,
-                                      std::size_t limit = static_cast<std::size_t>(-1));
+/// The pairs of columns `i` and `j`, row by row; a row where either is missing or no number gives none.
+[[nodiscard]] std::vector<Pair> _pary(std::span<const Row> dane, std::size_t i, std::size_t j);
 
 /// Whether column 0 holds point labels; empty when the content cannot tell.
 [[nodiscard]] std::optional<bool> _pierwsza_to_numer(std::span<const Row> dane);

@@ -3,7 +3,7 @@
 #include <charconv>
 #include <optional>
 
-#include "vexo_xyz_impl/host/messages.h"
+#include "vexo_xyz_impl/messages.h"
 #include "vexo_xyz_impl/table/numbers.h"
 #include "vexo_xyz_impl/text/utf8.h"
 
@@ -13,25 +13,19 @@ namespace {
 constexpr std::size_t kShownCharacters = 40;
 constexpr std::size_t kMostDigits = 20;  // of a 64-bit count
 
-struct Columns {
-  bool has_number;
-  bool has_height;
-  [[nodiscard]] std::size_t first() const { return has_number ? 1 : 0; }
-  [[nodiscard]] std::size_t fewest() const { return first() + (has_height ? 3 : 2); }
-};
+// Index of X, the first coordinate.
+constexpr std::size_t first_coordinate(Layout fmt) { return has_number(fmt) ? 1 : 0; }
 
-Columns columns_of(Layout fmt) {
-  return {fmt == Layout::NrXY || fmt == Layout::NrXYZ, fmt == Layout::XYZ || fmt == Layout::NrXYZ};
-}
+constexpr std::size_t cells_needed(Layout fmt) { return first_coordinate(fmt) + (has_heights(fmt) ? 3 : 2); }
 
-std::optional<PointRecord> point_of(Row row, const Columns& columns) {
-  const std::size_t first = columns.first();
+std::optional<PointRecord> point_of(Row row, Layout fmt) {
+  const std::size_t first = first_coordinate(fmt);
   const auto x = parse_number(row[first]);
   const auto y = x ? parse_number(row[first + 1]) : std::nullopt;
   if (!y) return std::nullopt;
-  const auto z = columns.has_height ? parse_number(row[first + 2]) : 0.0;
+  const auto z = has_heights(fmt) ? parse_number(row[first + 2]) : 0.0;
   if (!z) return std::nullopt;
-  return PointRecord{columns.has_number ? row[0] : std::string_view(), *x, *y, *z};
+  return PointRecord{has_number(fmt) ? row[0] : std::string_view(), *x, *y, *z};
 }
 
 // Numbers the points 1, 2, 3 …: gapless, whatever lines were skipped between them.
@@ -59,23 +53,27 @@ std::string row_text(Row row) {
   return std::string(text::first_characters(joined, kShownCharacters));
 }
 
+std::string reason_text(const SkippedLine& line) {
+  if (line.cells_needed == 0) return T("xyz.pow_naglowek");
+  const auto cells = static_cast<long long>(line.cells.size());
+  return filled("xyz.pow_za_malo_kolumn", {cells, static_cast<long long>(line.cells_needed)});
+}
+
 Decomposition _rozbierz(std::span<const Row> wiersze, Layout fmt) {
-  const Columns columns = columns_of(fmt);
+  const std::size_t ile = cells_needed(fmt);
   Decomposition result;
   result.punkty.reserve(wiersze.size());
   for (std::size_t i = 0; i < wiersze.size(); ++i) {
     const Row w = wiersze[i];
-    if (w.size() < columns.fewest()) {
-      const auto cells = static_cast<long long>(w.size());
-      const auto wanted = static_cast<long long>(columns.fewest());
-      result.pominiete.push_back({i + 1, filled("xyz.pow_za_malo_kolumn", {cells, wanted}), row_text(w)});
-    } else if (const auto point = point_of(w, columns)) {
+    if (w.size() < ile) {
+      result.pominiete.push_back({i + 1, w, ile});
+    } else if (const auto point = point_of(w, fmt)) {
       result.punkty.push_back(*point);
     } else {
-      result.pominiete.push_back({i + 1, std::string(T("xyz.pow_naglowek")), row_text(w)});
+      result.pominiete.push_back({i + 1, w, 0});
     }
   }
-  if (!columns.has_number) count_points(result);
+  if (!has_number(fmt)) count_points(result);
   return result;
 }
 

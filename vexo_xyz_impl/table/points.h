@@ -21,22 +21,32 @@ struct PointRecord {
   double z;  ///< 0.0 in layouts without heights
 };
 
-/// A row that gave no point.
+/// A row that gave no point. Of a million of these a few are shown, so their texts are made when they are.
 struct SkippedLine {
-  std::size_t row;     ///< counted from 1 among the rows taken apart
-  std::string reason;  ///< in the catalogue's words
-  std::string text;    ///< the row's beginning, at most 40 characters
+  std::size_t row;           ///< counted from 1 among the rows taken apart
+  Row cells;                 ///< of the table
+  std::size_t cells_needed;  ///< when there are fewer; else 0: where a number is due there is none
 };
 
 /// What `_rozbierz` returns. Moving it keeps the views valid; the table must outlive it.
 struct Decomposition {
+  Decomposition() = default;
+  Decomposition(Decomposition&&) noexcept = default;
+  Decomposition& operator=(Decomposition&&) noexcept = default;
+  Decomposition(const Decomposition&) = delete;
+  Decomposition& operator=(const Decomposition&) = delete;
+  ~Decomposition() = default;
+
   std::vector<PointRecord> punkty;
   std::vector<SkippedLine> pominiete;
-  std::vector<char> counted_numbers;  ///< the texts behind `nr` when points are counted
+  std::vector<char> counted_numbers;  ///< the texts behind `nr` when points are counted, else empty
 };
 
 /// A row for people: its cells joined with single blanks, cut to 40 characters.
 [[nodiscard]] std::string row_text(Row row);
+
+/// Why the row gave no point, in the catalogue's words.
+[[nodiscard]] std::string reason_text(const SkippedLine& line);
 
 /// Takes the rows apart, each into a point or a skipped line, both in row order.
 [[nodiscard]] Decomposition _rozbierz(std::span<const Row> wiersze, Layout fmt);

@@ -1,7 +1,8 @@
 // Messages: texts of the catalogue by key, filled printf-style with typed values.
 //
 // Filling never fails towards the caller: a key that the catalogue lacks is shown as the key, its values dropped,
-// and a template that its values do not fit is shown as it stands. `try_fill` is for the one caller that must know.
+// and a template that its values do not fit is shown as it stands, of which the family's notices hear. `try_fill` is
+// for the one caller that must know.
 #pragma once
 
 #include <optional>
@@ -10,12 +11,12 @@
 #include <variant>
 #include <vector>
 
-#include "vexo_xyz_impl/host/bindings.h"
+#include "vexo_xyz_impl/bindings.h"
 
 namespace vexo_xyz_impl {
 
 /// The catalogue's text of `key` in the market's language, or the key itself.
-[[nodiscard]] inline std::string_view T(std::string_view key) { return host::bound().texts.T(key); }
+[[nodiscard]] inline std::string T(std::string_view key) { return bound().loaded.texts->T(key); }
 
 /// A value for a template: a whole number, a real or a text.
 using TemplateValue = std::variant<long long, double, std::string_view>;

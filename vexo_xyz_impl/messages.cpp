@@ -1,10 +1,14 @@
-#include "vexo_xyz_impl/host/messages.h"
+#include "vexo_xyz_impl/messages.h"
 
 #include <cstddef>
+#include <utility>
 
 #include <fmt/args.h>
 #include <fmt/format.h>
 #include <fmt/printf.h>
+
+#include "vexo_xyz_impl/failure.h"
+#include "vexo_xyz_impl/notices.h"
 
 namespace vexo_xyz_impl {
 namespace {
@@ -80,15 +84,17 @@ std::optional<std::string> try_fill(std::string_view tpl, const std::vector<Temp
 }
 
 std::string filled(std::string_view key, const std::vector<TemplateValue>& values) {
-  const std::string_view tpl = T(key);
-  if (tpl == key) return std::string(key);
-  return try_fill(tpl, values).value_or(std::string(tpl));
+  std::string tpl = T(key);
+  if (tpl == key) return tpl;
+  if (auto text = try_fill(tpl, values)) return std::move(*text);
+  notify_failure(ValueError("the text of '" + std::string(key) + "' does not take its values: '" + tpl + "'"));
+  return tpl;
 }
 
-void print(std::string_view key) { host::command_line().gcutPrintf(T(key)); }
+void print(std::string_view key) { command_line().gcutPrintf(T(key)); }
 
 void print(std::string_view key, const std::vector<TemplateValue>& values) {
-  host::command_line().gcutPrintf(filled(key, values));
+  command_line().gcutPrintf(filled(key, values));
 }
 
 }  // namespace vexo_xyz_impl
