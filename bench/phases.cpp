@@ -96,18 +96,13 @@ class TimedSink final : public console::ByteSink {
   long faults_ = 0;
 };
 
-class NoCommands final : public vexo_xyz_impl::host::CommandTable {
-  void command(std::string_view /*local_name*/, std::string_view /*global_name*/, std::string_view /*group_name*/,
-               vexo_xyz_impl::host::CommandFunction /*function*/) override {}
-};
-
 // A console without a terminal: nothing is answered, what is printed is kept in memory.
 struct Console {
   explicit Console(const std::string& path)
       : lines(console::lines_of_stream(no_answers, printed)),
         dialogue(*lines, printed, database->drawing().variables, path, {}) {
-    console::add_family(siblings, *database, {.market = "PL", .language = "PL"});
-    vexo_xyz_impl::load_module({dialogue, commands, *database, siblings});
+    siblings = console::family(*database, {.market = "PL", .language = "PL"});
+    entered.emplace(vexo_xyz_impl::Bindings{{dialogue, *database, siblings}, vexo_xyz_impl::bind_siblings(siblings)});
   }
 
   std::istringstream no_answers;
@@ -115,8 +110,8 @@ struct Console {
   std::unique_ptr<console::Database> database = std::make_unique<console::Database>();
   std::unique_ptr<console::LineSource> lines;
   console::Dialogue dialogue;
-  NoCommands commands;
   console::SiblingRegistry siblings;
+  std::optional<vexo_xyz_impl::Entered> entered;
 };
 
 void import(const std::string& path, Steps& steps) {
@@ -127,7 +122,7 @@ void import(const std::string& path, Steps& steps) {
 
   std::optional<LayoutVerdict> verdict = _wykryj_format(loaded.rows->rows());
   if (!verdict->fmt) throw std::runtime_error("the column layout is not settled by the content");
-  announce_layout(*verdict);
+  announce_layout(*verdict->fmt, verdict->opis);
   steps.done("detect the layout");
 
   std::optional<Decomposition> read = _rozbierz(verdict->dane, *verdict->fmt);
@@ -147,7 +142,7 @@ void import(const std::string& path, Steps& steps) {
   steps.done("insert points and labels");
 
   mark_and_report(inserted->oidy_punktow);
-  group_and_report(*model.db, inserted->oidy, path);
+  group_and_report(*model.db, *inserted->oidy, path);
   steps.done("gather the group");
 
   report_rest(*read);

@@ -7,8 +7,8 @@
 #include "tests/support/console_host.h"
 #include "vexo_xyz_impl/command/keywords.h"
 #include "vexo_xyz_impl/failure.h"
-#include "vexo_xyz_impl/host/messages.h"
 #include "vexo_xyz_impl/host/siblings.h"
+#include "vexo_xyz_impl/messages.h"
 
 namespace vexo_xyz_impl {
 namespace {
@@ -305,35 +305,6 @@ TEST(Messages, AreFilledOrShownAsTheyStand) {
   host.load();
   EXPECT_EQ(filled("xyz.zly", {std::string_view("tekst")}), "tylko %d");
   EXPECT_EQ(filled("xyz.nie_ma", {std::string_view("tekst")}), "xyz.nie_ma");
-}
-
-class BrokenMarket final : public host::Market {
- public:
-  [[nodiscard]] std::string rynek() const override { throw ValueError("no market"); }
-};
-
-TEST(Loading, SelectsTheMarketOrStaysPolish) {
-  const auto first_system = [](ConsoleHost& host) {
-    host.load();
-    return _D->KOLEJNOSC.front();
-  };
-  ConsoleHost german("DE");
-  EXPECT_EQ(first_system(german), 25832);
-  ConsoleHost unknown("XX");
-  EXPECT_EQ(first_system(unknown), 2176);
-  ConsoleHost broken("DE");
-  broken.siblings.add("vexo_rynek", std::make_unique<BrokenMarket>());
-  EXPECT_EQ(first_system(broken), 2176);
-  ConsoleHost absent("DE");
-  absent.siblings.remove("vexo_rynek");
-  EXPECT_EQ(first_system(absent), 2176);
-
-  for (const char* needed : {"vexo_teksty", "vexo_xyz_dane_PL", "vexo_cad_core"}) {
-    ConsoleHost host;
-    host.siblings.remove(needed);
-    EXPECT_THROW(host.load(), ModuleNotFoundError) << needed;
-    EXPECT_FALSE(host.import);
-  }
 }
 
 }  // namespace

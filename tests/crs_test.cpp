@@ -8,11 +8,13 @@
 #include <vector>
 
 #include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
 
 #include "siblings/vexo_xyz_dane_DE/dane.h"
 #include "siblings/vexo_xyz_dane_PL/dane.h"
 #include "siblings/vexo_xyz_dane_RO/dane.h"
 #include "tests/support/console_host.h"
+#include "vexo_xyz_impl/crs/angles.h"
 #include "vexo_xyz_impl/crs/detection.h"
 #include "vexo_xyz_impl/crs/systems.h"
 #include "vexo_xyz_impl/crs/transverse_mercator.h"
@@ -21,37 +23,54 @@
 namespace vexo_xyz_impl {
 namespace {
 
-using host::MarketData;
 using testing_support::ConsoleHost;
-using Pair = std::pair<double, double>;
+using vexo_xyz_dane::MarketData;
 
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
 
-// A market of the test's own.
-struct MadeUpMarket final : host::MarketTables {
-  explicit MadeUpMarket(MarketData data) : market(std::move(data)) {}
-  [[nodiscard]] const MarketData& tables() const override { return market; }
-  MarketData market;
-};
-
+// The module loaded for a market of the test's own.
 struct Loaded : ConsoleHost {
   explicit Loaded(const MarketData& market) {
-    siblings.add("vexo_xyz_dane_PL", std::make_unique<MadeUpMarket>(market));
+    siblings.add("vexo_xyz_dane_PL", std::make_shared<vexo_xyz_dane::Tables>(market));
     load();
   }
 };
 
+using Zone = std::optional<host::ZoneParameters>;
+
 // One zone around 21 degrees, whose radians turn back into exactly 21, on the equator.
 MarketData one_zone() {
-  return {{{1, {"TM", {21.0, 1.0, 500000.0, 0.0}}}}, {1}, {}, {-1.0, 1.0}, {20.0, 22.0}, {}, {}, {}};
+  return {{{1, Zone({21.0, 1.0, 500000.0, 0.0})}}, {1}, {}, {-1.0, 1.0}, {20.0, 22.0}, {}, {}, {}};
 }
 
 MarketData systems_of_all_markets() {
-  MarketData all = vexo_xyz_dane_PL::Tables().tables();
-  for (MarketData market : {vexo_xyz_dane_DE::Tables().tables(), vexo_xyz_dane_RO::Tables().tables()})
-    all.UKLADY.merge(market.UKLADY);
+  MarketData all = vexo_xyz_dane_PL::tables();
+  for (MarketData market : {vexo_xyz_dane_DE::tables(), vexo_xyz_dane_RO::tables()}) all.UKLADY.merge(market.UKLADY);
   return all;
+}
+
+// What the markets are agreed to state.
+TEST(Markets, StateWhatWasAgreed) {
+  std::ifstream file(TEST_DATA "/geodesy/markets.json");
+  const auto agreed = nlohmann::json::parse(file);
+  for (const auto& [code, market] : {std::pair("PL", vexo_xyz_dane_PL::tables()),
+                                     {"DE", vexo_xyz_dane_DE::tables()},
+                                     {"RO", vexo_xyz_dane_RO::tables()}}) {
+    nlohmann::json stated = {{"KOLEJNOSC", market.KOLEJNOSC},
+                             {"KRAJ_LAT", market.KRAJ_LAT},
+                             {"KRAJ_LON", market.KRAJ_LON},
+                             {"ZONE_EXEMPT", market.ZONE_EXEMPT}};
+    for (const auto& [srid, zone] : market.UKLADY) {
+      const std::string key = std::to_string(srid);
+      stated["UKLADY"][key] = nlohmann::json::array({zone ? "TM" : "stereo70"});
+      if (zone) stated["UKLADY"][key] = {"TM", zone->lon0, zone->k0, zone->FE, zone->FN};
+    }
+    for (const auto& [srid, name] : market.NAZWY) stated["NAZWY"][std::to_string(srid)] = name;
+    stated["EASTING_HALF"] = market.EASTING_HALF ? nlohmann::json(*market.EASTING_HALF) : nlohmann::json();
+    stated["LON_HALF"] = market.LON_HALF ? nlohmann::json(*market.LON_HALF) : nlohmann::json();
+    EXPECT_EQ(stated, agreed.at(code)) << code;
+  }
 }
 
 // The numbers of each line but the first, decimal or hexadecimal.
@@ -71,15 +90,6 @@ std::vector<std::vector<double>> csv(const std::string& name) {
 
 // Nothing is looked up for no pairs, not even a market: this is the first test, and no module is loaded.
 TEST(Detection, NothingIsNowhere) { EXPECT_TRUE(_wykryj_uklad({}).empty()); }
-
-TEST(TransverseMercator, CoefficientsToTheLastBit) {
-  const auto [A, beta, delta] = _wspolczynniki();
-  EXPECT_EQ(A, 6367449.145771048);
-  EXPECT_EQ(beta, (std::array{0.0008377321681620317, 5.905870211016957e-08, 1.673482676154112e-10,
-                              2.1648237311010903e-13, 3.7940918788755123e-16}));
-  EXPECT_EQ(delta, (std::array{0.0033565514856044075, 6.5718732630720645e-06, 1.7646403789109516e-08,
-                               5.387817090169992e-11, 1.7692141010784007e-13}));
-}
 
 TEST(TransverseMercator, PositionsToTheLastBit) {
   const Loaded host(systems_of_all_markets());
@@ -119,8 +129,7 @@ std::string kind_of_failure(const std::function<void()>& operation) try {
 
 TEST(TransverseMercator, FailuresByKind) {
   MarketData market = one_zone();
-  for (const auto& items : {std::vector{21.0, 1.0, 0.0}, {21.0, 1.0, 0.0, 0.0, 0.0}, {21.0, 0.0, 0.0, 0.0}})
-    market.UKLADY[static_cast<int>(items.size())] = {"TM", items};
+  market.UKLADY[4] = Zone({21.0, 0.0, 0.0, 0.0});
   market.KRAJ_LAT = market.KRAJ_LON = {-360.0, 360.0};
   const Loaded host(market);
   const struct {
@@ -131,8 +140,6 @@ TEST(TransverseMercator, FailuresByKind) {
     bool merely_implausible;
   } cases[] = {
       {"unknown system", 0.0, 0.0, 99, "KeyError", false},
-      {"record of four items", 0.0, 0.0, 3, "UnpackError", false},
-      {"record of six items", 0.0, 0.0, 5, "UnpackError", false},
       {"scale of zero", 1e6, 5.8e6, 4, "ZeroDivisionError", true},
       {"infinite northing", 500000.0, -kInfinity, 1, "ValueError", true},
       {"easting beyond the hyperbolic functions", -1e10, 5.8e6, 1, "OverflowError", true},
@@ -144,18 +151,6 @@ TEST(TransverseMercator, FailuresByKind) {
     EXPECT_EQ(kind_of_failure([&] { static_cast<void>(_do_geo(E, N, srid)); }), kind);
     EXPECT_EQ(kind_of_failure([&] { EXPECT_FALSE(_sensowny(E, N, srid)); }), merely_implausible ? "" : kind);
   }
-}
-
-// Its record holds nothing that is read, no zone is checked, and the projection is a sibling's.
-TEST(Stereo70, HasNoZone) {
-  MarketData market = vexo_xyz_dane_RO::Tables().tables();
-  market.UKLADY = {{3844, {"stereo70", {kNan}}}};
-  market.EASTING_HALF = market.LON_HALF = 0.0;
-  Loaded host(market);
-  EXPECT_TRUE(_sensowny(587785.603, 325790.205, 3844));
-  EXPECT_FALSE(_sensowny(1587785.603, 325790.205, 3844));
-  host.siblings.remove("vexo_stereo70");
-  EXPECT_THROW(static_cast<void>(_sensowny(587785.603, 325790.205, 3844)), ModuleNotFoundError);
 }
 
 TEST(Detection, BoundsBelongToTheInside) {
@@ -217,7 +212,7 @@ TEST(Detection, OrderedByShareThenByTheMarket) {
   MarketData market = one_zone();
   // 53 degrees north are 5 874 620 m from the equator; 7 and 8 count their northings 1 km higher than 9.
   market.KRAJ_LAT = {52.0, 53.0};
-  for (const int srid : {7, 8, 9}) market.UKLADY[srid] = {"TM", {21.0, 1.0, 500000.0, srid == 9 ? 0.0 : 1000.0}};
+  for (const int srid : {7, 8, 9}) market.UKLADY[srid] = Zone({21.0, 1.0, 500000.0, srid == 9 ? 0.0 : 1000.0});
   std::vector<Pair> pary(18, {500000.0, 5.8e6});
   pary.resize(20, {500000.0, 5875000.0});
   market.KOLEJNOSC = {9, 8, 7};
@@ -227,8 +222,19 @@ TEST(Detection, OrderedByShareThenByTheMarket) {
 }
 
 TEST(Detection, AxesAndNames) {
+  ConsoleHost romanian("RO");
+  romanian.load();
+  EXPECT_EQ(candidates({{587785.603, 325790.205}}), "3844 3844x");  // the country lies around its origin
+  EXPECT_EQ(candidates({{500000.0, 210000.0}}), "3844x");
+  ConsoleHost german("DE");
+  german.load();
+  EXPECT_EQ(candidates({{285000.0, 5650000.0}}), "25832 25833");  // 5.9 and 11.9 degrees east
+  EXPECT_EQ(candidates({{392000.0, 5820000.0}}), "25832 25833");  // 7.4 and 13.4
+  EXPECT_EQ(candidates({{32500000.0, 5500000.0}}), "4647");
   ConsoleHost host("PL");
   host.load();
+  EXPECT_EQ(candidates({{7420000.0, 5460000.0}}), "2178");
+  EXPECT_EQ(candidates({{8400000.0, 5600000.0}}), "2179");
   EXPECT_EQ(candidates({{7500833.5, 5788456.5}}), "2178");
   EXPECT_EQ(candidates({{5788456.5, 7500833.5}}), "2178x");
   EXPECT_EQ(candidates({{500000.0, 460000.0}}), "2180 2180x");

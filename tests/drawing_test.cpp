@@ -66,23 +66,6 @@ TEST(GroupName, IsFreeOrCarriesTheTime) {
   EXPECT_EQ(database.open_count(), 0U);
 }
 
-TEST(Grouping, FailsWithAReason) {
-  ConsoleHost host;
-  host.load();
-  Database& database = host.database;
-  EXPECT_FALSE(vexo_xyz_impl::_grupuj(database, {}, "G").ok);
-
-  const Handle point = *database.drawing().add(Entity{0, PointGeometry{}});
-  GcDbObjectIdArray ids;
-  ids.append({point});
-  EXPECT_TRUE(vexo_xyz_impl::_grupuj(database, ids, "G").ok);
-  const auto taken = vexo_xyz_impl::_grupuj(database, ids, "g");
-  EXPECT_FALSE(taken.ok);
-  EXPECT_EQ(taken.message, "rysunek nie przyjął grupy o tej nazwie");
-  EXPECT_EQ(database.drawing().groups().size(), 1U);
-  EXPECT_EQ(database.open_count(), 0U);
-}
-
 TEST(Database, RefusesWhatWouldSpoilTheDrawing) {
   Database database;
   Database* const db = &database;

@@ -133,8 +133,10 @@ TEST(Points, RowsToPointsAndSkippedLines) {
     const Decomposition taken_apart = _rozbierz(table.rows(), fmt);
     std::ostringstream got;
     for (const auto& [nr, x, y, z] : taken_apart.punkty) got << nr << ' ' << x << ' ' << y << ' ' << z << '\n';
-    for (const auto& [row, reason, line] : taken_apart.pominiete)
-      got << row << "! " << reason.substr(reason.find('_') + 1) << ": " << line << '\n';
+    for (const SkippedLine& line : taken_apart.pominiete) {
+      const std::string reason = reason_text(line);
+      got << line.row << "! " << reason.substr(reason.find('_') + 1) << ": " << row_text(line.cells) << '\n';
+    }
     EXPECT_EQ(got.str(), results) << text;
   }
 }

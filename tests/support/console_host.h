@@ -17,8 +17,8 @@
 #include "console/dialogue/dialogue.h"
 #include "console/drawing/database.h"
 #include "console/sibling_registry.h"
+#include "vexo_xyz_impl/bindings.h"
 #include "vexo_xyz_impl/command/module.h"
-#include "vexo_xyz_impl/host/bindings.h"
 
 namespace testing_support {
 
@@ -46,8 +46,9 @@ class RecordedNotices final : public vexo_xyz_impl::host::Notices {
  public:
   explicit RecordedNotices(std::vector<std::string>& lines) : lines_(lines) {}
   void zdarzenie(std::string_view name) override { lines_.push_back("start " + std::string(name)); }
-  void blad(std::string_view name, const vexo_xyz_impl::FailureNote& failure) override {
-    lines_.push_back(std::string(name) + " " + failure.kind + ": " + failure.text);
+  void blad(std::string_view name, const std::exception& failure) override {
+    const auto [kind, text] = vexo_xyz_impl::describe(failure);
+    lines_.push_back(std::string(name) + " " + kind + ": " + text);
   }
 
  private:
@@ -58,9 +59,9 @@ class RecordedNotices final : public vexo_xyz_impl::host::Notices {
 class OwnTexts final : public vexo_xyz_impl::host::Texts {
  public:
   explicit OwnTexts(std::map<std::string, std::string, std::less<>> texts = {}) : texts_(std::move(texts)) {}
-  [[nodiscard]] std::string_view T(std::string_view key) const override {
+  [[nodiscard]] std::string T(std::string_view key) const override {
     const auto found = texts_.find(key);
-    return found == texts_.end() ? key : std::string_view(found->second);
+    return found == texts_.end() ? std::string(key) : found->second;
   }
 
  private:
@@ -74,12 +75,15 @@ class ConsoleHost : public vexo_xyz_impl::host::CommandTable {
       : in(typed),
         lines(console::lines_of_stream(in, out)),
         dialogue(*lines, out, database.drawing().variables, std::move(file), {}) {
-    console::add_family(siblings, database, {market, "PL"});
+    siblings = console::family(database, {market, "PL"});
     siblings.add("vexo_boot", std::make_unique<RecordedNotices>(notices));
   }
 
-  /// Loads the module; siblings may be changed before.
-  void load() { vexo_xyz_impl::load_module({dialogue, *this, database, siblings}); }
+  /// Loads the module and enters it; siblings may be changed before.
+  void load() {
+    entered.emplace(vexo_xyz_impl::Bindings{{dialogue, database, siblings}, vexo_xyz_impl::bind_siblings(siblings)});
+    vexo_xyz_impl::register_command(*this);
+  }
 
   void command(std::string_view local_name, std::string_view global_name, std::string_view group_name,
                vexo_xyz_impl::host::CommandFunction function) override {
@@ -100,6 +104,7 @@ class ConsoleHost : public vexo_xyz_impl::host::CommandTable {
   console::Dialogue dialogue;
   console::SiblingRegistry siblings;
   vexo_xyz_impl::host::CommandFunction import;
+  std::optional<vexo_xyz_impl::Entered> entered;
 
  private:
   template <class Geometry>

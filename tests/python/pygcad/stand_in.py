@@ -70,7 +70,7 @@ STATUS = "status"  # a way to fail; the other way is an exception to raise
 
 class Session:
     def __init__(self):
-        self.commands, self.thread = {}, threading.get_ident()
+        self.commands, self.thread = {}, threading.get_ident()  # None: commands run on any thread
         self.clear()
 
     def clear(self):
@@ -79,6 +79,7 @@ class Session:
         self.shown, self.keywords = "", None  # all that was printed, prompts with their answers among it
         self.entities, self.groups, self.styles, self.records, self.variables = {}, {}, {}, [], {}
         self.handles, self.open, self.closed_twice = itertools.count(0x40), [], []
+        self.callback = None  # what the host does at its next call: it is handed the call's name
         self.fail(math.inf, STATUS)
 
     def fail(self, at, way, lasting=False):
@@ -87,6 +88,8 @@ class Session:
 
     def fails(self, call, has_status):
         """Whether the call is to answer with a failing status; raises what it is to raise."""
+        if self.callback:
+            self.callback(call)
         if self.way == STATUS and not has_status:
             return False
         self.calls.append(call)
@@ -130,7 +133,7 @@ def check(call, values, kinds):
     for value, kind in zip(values, kinds):
         if not (type(value) is kind if kind in (bool, int, float, str) else isinstance(value, kind)):
             raise TypeError(f"{call} takes a {kind.__name__}, not {value!r}")
-    if threading.get_ident() != session.thread:
+    if session.thread not in (None, threading.get_ident()):
         raise RuntimeError(f"{call} on another thread than the commands'")
 
 
