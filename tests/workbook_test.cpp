@@ -1,6 +1,7 @@
 #include <chrono>
 #include <cstdint>
 #include <fstream>
+#include <future>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -63,7 +64,19 @@ TEST(Workbook, OddOnesAreReadOrRefusedAsTheyMustBe) {
   }
 }
 
-TEST(Workbook, ThatIsNotThereFailsAsAFile) { EXPECT_EQ(read("/nowhere/punkty.xlsx").kind, "OSError"); }
+// Readings at the same time share nothing that changes.
+TEST(Workbook, OnesAreReadAtTheSameTime) {
+  const auto reads_alike = [](const std::string& path) {
+    const Rows expected = read(path).rows;
+    for (int i = 0; i < 50; ++i)
+      if (read(path).rows != expected) return false;
+    return true;
+  };
+  const std::string folder = std::string(WORKBOOKS) + "/";
+  auto other = std::async(std::launch::async, reads_alike, folder + "many cells.xlsx");
+  EXPECT_TRUE(reads_alike(folder + "many strings.xlsx"));
+  EXPECT_TRUE(other.get());
+}
 
 TEST(ColumnNumber, OfReferences) {
   const struct {
@@ -91,18 +104,6 @@ TEST(ColumnNumber, OfReferences) {
   for (const auto& [reference, column] : cases) EXPECT_EQ(_kol_nr(reference), column) << reference;
   for (const char* reference : {"AAAAAAAAAAAAAAAAAAAA1", "ZZZZZZZZZZZZZZZZZZZZ"})
     EXPECT_THROW(static_cast<void>(_kol_nr(reference)), OverflowError) << reference;
-}
-
-// Shorter names first, then by the alphabet, they number the columns without a hole.
-TEST(ColumnNumber, CountsAllNames) {
-  std::vector<std::string> names{""};
-  std::uint64_t next = 0;
-  for (std::size_t at = 0; next < 26 + 26 * 26 + 26 * 26 * 26; ++at) {
-    for (char letter = 'A'; letter <= 'Z'; ++letter) {
-      names.push_back(names[at] + letter);
-      ASSERT_EQ(_kol_nr(names.back()), next++) << names.back();
-    }
-  }
 }
 
 }  // namespace

@@ -105,6 +105,8 @@ SHEETS = {  # what stands in the worksheet, and its rows; there are three shared
     "empty rows": (row() + row(A) + row(" \n") + row('<c s="1"/>') + row(C), [["a"], ["", "", "c"]]),
     "row numbers": (f'<row>{A}</row><row r="9">{B}</row><row r="2" hidden="1">{A}</row><row\n>{A}</row>',
                     [["a"], ["", "b"], ["a"], ["a"]]),
+    "many cells": (row(A, B, C) * 500, [["a", "b", "c"]] * 500),
+    "many strings": (row(cells("012", "s")) * 500, [["Nr", "Nr pkt", "ą"]] * 500),
     "tags like rows": (f"<rowBreaks>{A}</rowBreaks>{row(B)}<!-- {row(C)} --><rowBreaks>", [["a", "b"], ["", "", "c"]]),
     "tags not closed": (f"<row>{A}<row>{B}</row>" + row('<c r="A1"><v>1</v>') + row('<c r="A1" <v>1</v>') + f"<row>{A}",
                         [["a", "b"]]),
