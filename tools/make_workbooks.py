@@ -174,6 +174,8 @@ PACKAGES = {  # a package and its rows; or None, the kind of failure, and pieces
     "rubbish behind a signature": (b"PK\3\4" + bytes(range(256)) * 40, None, "BadZipFile", "ZIP package"),
     "wrong checksum": (patched(STORED, CRC, "I", 1), None, "BadZipFile", SHEET),
     "damaged strings": (GOOD[:30 + len(STRINGS)] + b"\7" + GOOD[31 + len(STRINGS):], None, "BadZipFile", STRINGS),
+    "damaged strings and no worksheet": (patched(package((STRINGS, THREE)), CRC, "I", 1, STRINGS), None, "BadZipFile",
+                                         STRINGS),
     "size too small": (patched(GOOD, SIZE, "I", 9), [["a"]], "BadZipFile", SHEET),  # the checksum is right
     "size too large": (patched(GOOD, SIZE, "I", 99_999), [["a"]], "BadZipFile", SHEET),
     "packed size too small": (patched(GOOD, PACKED, "I", 9), None, "BadZipFile", SHEET),

@@ -135,12 +135,12 @@ Table _czytaj_xlsx(const std::string& path) {
   const Package package(path);
   Matcher matcher;
   Table wiersze;
-  const std::string_view arkusz = first_worksheet(package, matcher);
-  if (arkusz.empty()) return wiersze;
   std::vector<std::string_view> shared;
   if (package.has(kSharedStrings)) {
     shared = shared_strings(wiersze, matcher, wiersze.adopt(decoded(package.read(kSharedStrings))));
   }
+  const std::string_view arkusz = first_worksheet(package, matcher);
+  if (arkusz.empty()) return {};
   WorksheetReader(wiersze, matcher, shared).read(wiersze.adopt(decoded(package.read(arkusz))));
   return wiersze;
 }
