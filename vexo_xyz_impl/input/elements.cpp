@@ -5,6 +5,15 @@ namespace {
 
 constexpr std::string_view kWhiteSpace = " \t\n\v\f\r";
 
+// Where `tag` stands last. The library's own search compares a whole tag at every place.
+std::size_t last_of(std::string_view tag, std::string_view text) {
+  std::size_t at = text.rfind(tag.front());
+  while (at != std::string_view::npos && !text.substr(at).starts_with(tag)) {
+    at = at == 0 ? std::string_view::npos : text.rfind(tag.front(), at - 1);
+  }
+  return at;
+}
+
 }  // namespace
 
 const Element& shared_string_item() {
@@ -52,7 +61,7 @@ const Pattern& worksheet_member() {
 }
 
 Matches::Matches(const Element& element, std::string_view text, Matcher& matcher)
-    : element_(element), text_(text), matcher_(matcher), last_closing_(text.rfind(element.closing)) {}
+    : element_(element), text_(text), matcher_(matcher), last_closing_(last_of(element.closing, text)) {}
 
 std::optional<Matcher::Match> Matches::next() {
   while (true) {

@@ -17,14 +17,6 @@ namespace {
 
 constexpr std::string_view kSharedStrings = "xl/sharedStrings.xml";
 
-// A member as valid UTF-8: each maximal invalid part becomes one U+FFFD.
-std::vector<char> decoded(std::vector<char> bytes) {
-  const std::string_view text(bytes.data(), bytes.size());
-  if (text::is_valid(text)) return bytes;
-  const std::string replaced = text::with_replacements(text);
-  return {replaced.begin(), replaced.end()};
-}
-
 // The text of all runs in `content`: a view of it when there is one run, a copy in the table when there are more.
 std::string_view joined_runs(Table& table, Matcher& matcher, std::string_view content) {
   Matches runs(text_run(), content, matcher);
@@ -132,16 +124,16 @@ std::optional<std::uint64_t> _kol_nr(std::string_view ref) {
 }
 
 Table _czytaj_xlsx(const std::string& path) {
-  const Package package(path);
+  Package package(path);
   Matcher matcher;
   Table wiersze;
   std::vector<std::string_view> shared;
   if (package.has(kSharedStrings)) {
-    shared = shared_strings(wiersze, matcher, wiersze.adopt(decoded(package.read(kSharedStrings))));
+    shared = shared_strings(wiersze, matcher, wiersze.adopt(package.read(kSharedStrings)));
   }
   const std::string_view arkusz = first_worksheet(package, matcher);
   if (arkusz.empty()) return {};
-  WorksheetReader(wiersze, matcher, shared).read(wiersze.adopt(decoded(package.read(arkusz))));
+  WorksheetReader(wiersze, matcher, shared).read(wiersze.adopt(package.read(arkusz)));
   return wiersze;
 }
 
