@@ -2,7 +2,9 @@
 #include <cstdint>
 #include <fstream>
 #include <future>
+#include <map>
 #include <optional>
+#include <random>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -76,6 +78,34 @@ TEST(Workbook, OnesAreReadAtTheSameTime) {
   auto other = std::async(std::launch::async, reads_alike, folder + "many cells.xlsx");
   EXPECT_TRUE(reads_alike(folder + "many strings.xlsx"));
   EXPECT_TRUE(other.get());
+}
+
+TEST(Table, KeepsCellsByTheirColumns) {
+  std::mt19937 random(20240229);
+  Table table;
+  std::vector<std::map<std::size_t, std::string>> expected(1000);
+  const std::string letters = "abcdefghijklmnopqrstuvwxyz";
+  for (auto& cells : expected) {
+    for (std::size_t cell = 0; cell < 1 + random() % 9; ++cell) {
+      const std::size_t column = random() % 4 != 0 ? cell : random() % (random() % 2 != 0 ? 16 : 1 << 12);
+      cells[column] = letters[random() % letters.size()];
+      table.set_cell(column, std::string_view(letters).substr(letters.find(cells[column]), 1));
+    }
+    table.end_row();
+  }
+  EXPECT_LT(table.stored_cells(), 20'000U);  // of millions
+  ASSERT_EQ(table.size(), expected.size());
+  for (std::size_t i = 0; i < expected.size(); ++i) {
+    const Row row = table[i];
+    ASSERT_EQ(row.size(), expected[i].rbegin()->first + 1);
+    std::map<std::size_t, std::string> found;
+    std::size_t column = 0;
+    for (const Cell cell : row) {
+      if (!cell.empty()) found[column] = row[column];
+      ++column;
+    }
+    EXPECT_EQ(found, expected[i]) << i;
+  }
 }
 
 TEST(ColumnNumber, OfReferences) {

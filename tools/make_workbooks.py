@@ -168,7 +168,7 @@ PACKAGES = {  # a package and its rows; or None, the kind of failure, and pieces
     "invalid UTF-8": (package((STRINGS, BAD_ITEMS), (SHEET, BAD_CELLS)),
                       [[text.replace("?", "\ufffd") for _, text in BAD + BAD[:1]]]),
     "damage in what is not read": (patched(TWO, CRC, "I", 1, SHEET2[0]), [["10"]]),
-    "large and packed as text is": (package((SHEET, random.Random(1).randbytes(9999) * 2200)), []),
+    "large and packed as text is": (package((SHEET, random.Random(1).randbytes(9999).hex() * 1100)), []),
     "cut before its directory": (GOOD[:len(GOOD) // 2], None, "BadZipFile", "ZIP package"),
     "cut in its directory": (GOOD[:-30], None, "BadZipFile", "ZIP package"),
     "rubbish behind a signature": (b"PK\3\4" + bytes(range(256)) * 40, None, "BadZipFile", "ZIP package"),

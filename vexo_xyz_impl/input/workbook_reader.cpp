@@ -1,11 +1,9 @@
 #include "vexo_xyz_impl/input/workbook_reader.h"
 
-#include <algorithm>
 #include <charconv>
-#include <span>
+#include <deque>
+#include <new>
 #include <system_error>
-#include <utility>
-#include <vector>
 
 #include "vexo_xyz_impl/failure.h"
 #include "vexo_xyz_impl/input/elements.h"
@@ -16,6 +14,9 @@ namespace vexo_xyz_impl {
 namespace {
 
 constexpr std::string_view kSharedStrings = "xl/sharedStrings.xml";
+constexpr const char* kRemedy = "keep the points alone in it, or save it as CSV";
+
+using SharedStrings = std::deque<std::string_view>;  // which takes no more than it holds
 
 // The text of all runs in `content`: a view of it when there is one run, a copy in the table when there are more.
 std::string_view joined_runs(Table& table, Matcher& matcher, std::string_view content) {
@@ -29,15 +30,18 @@ std::string_view joined_runs(Table& table, Matcher& matcher, std::string_view co
   return table.keep(joined);
 }
 
-std::vector<std::string_view> shared_strings(Table& table, Matcher& matcher, std::string_view xml) {
-  std::vector<std::string_view> shared;
+SharedStrings shared_strings(Table& table, Matcher& matcher, std::string_view xml) {
+  SharedStrings shared;
   Matches items(shared_string_item(), xml, matcher);
-  while (const auto item = items.next()) shared.push_back(joined_runs(table, matcher, item->group1));
+  while (const auto item = items.next()) {
+    if (shared.size() == kMostCells) throw MemoryError(std::string("too many texts in the workbook; ") + kRemedy);
+    shared.push_back(joined_runs(table, matcher, item->group1));
+  }
   return shared;
 }
 
 // The entry that an index names, counted from the end when negative; empty for anything that names none.
-std::string_view shared_string(std::span<const std::string_view> shared, std::string_view index_text) {
+std::string_view shared_string(const SharedStrings& shared, std::string_view index_text) {
   std::string_view digits = text::trim(index_text);
   const bool negative = digits.starts_with('-');
   if (negative || digits.starts_with('+')) digits.remove_prefix(1);
@@ -49,9 +53,18 @@ std::string_view shared_string(std::span<const std::string_view> shared, std::st
   return index < shared.size() ? shared[index] : std::string_view();
 }
 
+std::optional<std::size_t> column_within_limit(std::string_view reference) {
+  try {
+    const std::uint64_t column = _kol_nr(reference).value_or(0);  // the pattern saw a letter
+    if (column < kMostColumns) return static_cast<std::size_t>(column);
+  } catch (const OverflowError&) {  // further than any limit
+  }
+  return std::nullopt;
+}
+
 class WorksheetReader {
  public:
-  WorksheetReader(Table& table, Matcher& matcher, std::span<const std::string_view> shared)
+  WorksheetReader(Table& table, Matcher& matcher, const SharedStrings& shared)
       : table_(table), matcher_(matcher), shared_(shared) {}
 
   void read(std::string_view xml) {
@@ -67,26 +80,21 @@ class WorksheetReader {
   void read_cell(std::string_view attributes, std::string_view content) {
     const auto reference = matcher_.find(cell_reference(), attributes);
     if (!reference) return;
-    const std::uint64_t column = column_of(reference->group1);
+    const std::size_t column = column_of(reference->group1);
     const auto type = matcher_.find(cell_type(), attributes);
-    table_.set_cell(static_cast<std::size_t>(column), text_of(type ? type->group1 : "n", content));
+    table_.set_cell(column, text_of(type ? type->group1 : "n", content));
   }
 
-  [[nodiscard]] std::uint64_t column_of(std::string_view reference) const {
-    const auto too_far = [&] {
-      return MemoryError("cell " + std::string(reference.substr(0, 40)) +
-                         ": a row that reaches there needs more memory " + "than the table may take (" +
-                         std::to_string(kMostCells) + " cells); delete what stands there");
+  [[nodiscard]] std::size_t column_of(std::string_view reference) const {
+    const auto refused = [&](const std::string& reason) {
+      return MemoryError("cell " + std::string(reference.substr(0, 40)) + ": " + reason);
     };
-    std::uint64_t column = 0;
-    try {
-      column = _kol_nr(reference).value_or(0);  // the pattern saw a letter
-    } catch (const OverflowError&) {
-      throw too_far();
+    if (table_.stored_cells() >= kMostCells) {
+      throw refused("a worksheet may have " + std::to_string(kMostCells) + " cells; " + kRemedy);
     }
-    const std::uint64_t finished = table_.cell_count() - table_.current_size();
-    if (column >= kMostCells || finished + column >= kMostCells) throw too_far();
-    return column;
+    const auto column = column_within_limit(reference);
+    if (!column) throw refused("a row may have " + std::to_string(kMostColumns) + " columns; delete what stands there");
+    return *column;
   }
 
   std::string_view text_of(std::string_view type, std::string_view content) {
@@ -98,7 +106,7 @@ class WorksheetReader {
 
   Table& table_;
   Matcher& matcher_;
-  std::span<const std::string_view> shared_;
+  const SharedStrings& shared_;
 };
 
 // The worksheet member whose name sorts first; empty when there is none.
@@ -106,6 +114,20 @@ std::string_view first_worksheet(const Package& package, Matcher& matcher) {
   for (const std::string_view name : package.names())
     if (text::is_valid(name) && matcher.find(worksheet_member(), name)) return name;
   return {};
+}
+
+Table read_workbook(const std::string& path) {
+  Package package(path);
+  Matcher matcher;
+  Table wiersze;
+  SharedStrings shared;
+  if (package.has(kSharedStrings)) {
+    shared = shared_strings(wiersze, matcher, wiersze.adopt(package.read(kSharedStrings)));
+  }
+  const std::string_view arkusz = first_worksheet(package, matcher);
+  if (arkusz.empty()) return {};
+  WorksheetReader(wiersze, matcher, shared).read(wiersze.adopt(package.read(arkusz)));
+  return wiersze;
 }
 
 }  // namespace
@@ -124,17 +146,11 @@ std::optional<std::uint64_t> _kol_nr(std::string_view ref) {
 }
 
 Table _czytaj_xlsx(const std::string& path) {
-  Package package(path);
-  Matcher matcher;
-  Table wiersze;
-  std::vector<std::string_view> shared;
-  if (package.has(kSharedStrings)) {
-    shared = shared_strings(wiersze, matcher, wiersze.adopt(package.read(kSharedStrings)));
+  try {
+    return read_workbook(path);
+  } catch (const std::bad_alloc&) {
+    throw MemoryError(std::string("not enough memory to read the workbook; ") + kRemedy);
   }
-  const std::string_view arkusz = first_worksheet(package, matcher);
-  if (arkusz.empty()) return {};
-  WorksheetReader(wiersze, matcher, shared).read(wiersze.adopt(package.read(arkusz)));
-  return wiersze;
 }
 
 }  // namespace vexo_xyz_impl
