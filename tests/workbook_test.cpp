@@ -80,6 +80,13 @@ TEST(Workbook, OnesAreReadAtTheSameTime) {
   EXPECT_TRUE(other.get());
 }
 
+TEST(Workbook, CellsThatShareATextAreViewsOfIt) {
+  const Table table = _czytaj_xlsx(std::string(WORKBOOKS) + "/attributes.xlsx");  // which has the text and its index
+  EXPECT_TRUE(table.shares(table[0][0]) && table.shares(table[1][1]));
+  EXPECT_EQ(table[0][0].data(), table[1][1].data());
+  EXPECT_FALSE(table.shares(table[0][1]) || table.shares(table[1][0]));
+}
+
 TEST(Table, KeepsCellsByTheirColumns) {
   std::mt19937 random(20240229);
   Table table;

@@ -23,6 +23,11 @@ std::string_view Table::adopt(std::vector<char> buffer) {
   return {buffers_.back().data(), buffers_.back().size()};
 }
 
+bool Table::shares(Cell cell) const {
+  const std::less<> before;  // which knows an order of all places in memory
+  return !before(cell.data(), shared_.data()) && before(cell.data(), shared_.data() + shared_.size());
+}
+
 std::string_view Table::keep(std::string_view text) {
   const auto has_room = [&](const std::vector<char>& block) { return block.capacity() - block.size() >= text.size(); };
   if (kept_.empty() || !has_room(kept_.back())) kept_.emplace_back().reserve(std::max(kKeptBlock, text.size()));

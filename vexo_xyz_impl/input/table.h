@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <span>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "vexo_xyz_impl/input/groups.h"
@@ -26,6 +27,12 @@ class Table {
 
   /// Takes over a buffer whose parts become cells; the view is valid while the table lives.
   std::string_view adopt(std::vector<char> buffer);
+
+  /// Takes over the buffer of the shared strings of a workbook.
+  void adopt_shared(std::vector<char> buffer) { shared_ = adopt(std::move(buffer)); }
+
+  /// Whether the cell is a shared string of a workbook: all cells that share it are views of the same bytes.
+  [[nodiscard]] bool shares(Cell cell) const;
 
   /// Keeps a copy of a text that stands in no buffer.
   std::string_view keep(std::string_view text);
@@ -61,6 +68,7 @@ class Table {
 
   std::vector<std::vector<char>> buffers_;  // not strings: views must survive a move of the table
   std::vector<std::vector<char>> kept_;     // blocks that `keep` fills
+  std::string_view shared_;                 // one of the buffers
   Groups<Cell> cells_;
   Groups<Run> runs_;
   std::vector<std::size_t> columns_;  // of the row being made, those of its cells from the first long gap on

@@ -1,9 +1,13 @@
 #include "vexo_xyz_impl/input/workbook_reader.h"
 
+#include <algorithm>
 #include <charconv>
 #include <deque>
 #include <new>
+#include <span>
 #include <system_error>
+#include <utility>
+#include <vector>
 
 #include "vexo_xyz_impl/failure.h"
 #include "vexo_xyz_impl/input/elements.h"
@@ -18,24 +22,29 @@ constexpr const char* kRemedy = "keep the points alone in it, or save it as CSV"
 
 using SharedStrings = std::deque<std::string_view>;  // which takes no more than it holds
 
-// The text of all runs in `content`: a view of it when there is one run, a copy in the table when there are more.
-std::string_view joined_runs(Table& table, Matcher& matcher, std::string_view content) {
-  Matches runs(text_run(), content, matcher);
-  const auto first = runs.next();
-  if (!first) return {};
-  auto next = runs.next();
-  if (!next) return first->group1;
-  std::string joined(first->group1);
-  for (; next; next = runs.next()) joined += next->group1;
-  return table.keep(joined);
+// The part of a member that was found in it.
+std::span<char> part_of(std::span<char> member, std::string_view found) {
+  return found.empty() ? std::span<char>()
+                       : member.subspan(static_cast<std::size_t>(found.data() - member.data()), found.size());
 }
 
-SharedStrings shared_strings(Table& table, Matcher& matcher, std::string_view xml) {
+// The text of all runs in `content`, joined where the first one stands: what lies between them is of no more use.
+std::string_view joined_runs(Matcher& matcher, std::span<char> content) {
+  Matches runs(text_run(), {content.data(), content.size()}, matcher);
+  const auto first = runs.next();
+  if (!first) return {};
+  const std::span<char> joined = part_of(content, {first->group1.data(), content.data() + content.size()});
+  auto end = std::copy(first->group1.begin(), first->group1.end(), joined.begin());
+  while (const auto next = runs.next()) end = std::copy(next->group1.begin(), next->group1.end(), end);
+  return {joined.begin(), end};
+}
+
+SharedStrings shared_strings(Matcher& matcher, std::span<char> xml) {
   SharedStrings shared;
-  Matches items(shared_string_item(), xml, matcher);
+  Matches items(shared_string_item(), {xml.data(), xml.size()}, matcher);
   while (const auto item = items.next()) {
     if (shared.size() == kMostCells) throw MemoryError(std::string("too many texts in the workbook; ") + kRemedy);
-    shared.push_back(joined_runs(table, matcher, item->group1));
+    shared.push_back(joined_runs(matcher, part_of(xml, item->group1)));
   }
   return shared;
 }
@@ -64,11 +73,11 @@ std::optional<std::size_t> column_within_limit(std::string_view reference) {
 
 class WorksheetReader {
  public:
-  WorksheetReader(Table& table, Matcher& matcher, const SharedStrings& shared)
-      : table_(table), matcher_(matcher), shared_(shared) {}
+  WorksheetReader(Table& table, Matcher& matcher, const SharedStrings& shared, std::span<char> xml)
+      : table_(table), matcher_(matcher), shared_(shared), xml_(xml) {}
 
-  void read(std::string_view xml) {
-    Matches rows(row_element(), xml, matcher_);
+  void read() {
+    Matches rows(row_element(), {xml_.data(), xml_.size()}, matcher_);
     while (const auto row = rows.next()) {
       Matches cells(cell_element(), row->group1, matcher_);
       while (const auto cell = cells.next()) read_cell(cell->group1, cell->group2);
@@ -98,7 +107,7 @@ class WorksheetReader {
   }
 
   std::string_view text_of(std::string_view type, std::string_view content) {
-    if (type == "inlineStr") return joined_runs(table_, matcher_, content);
+    if (type == "inlineStr") return joined_runs(matcher_, part_of(xml_, content));
     const auto stored = matcher_.find(stored_value(), content);
     const std::string_view value = stored ? stored->group1 : std::string_view();
     return type == "s" ? shared_string(shared_, value) : value;
@@ -107,6 +116,7 @@ class WorksheetReader {
   Table& table_;
   Matcher& matcher_;
   const SharedStrings& shared_;
+  std::span<char> xml_;
 };
 
 // The worksheet member whose name sorts first; empty when there is none.
@@ -119,14 +129,17 @@ std::string_view first_worksheet(const Package& package, Matcher& matcher) {
 Table read_workbook(const std::string& path) {
   Package package(path);
   Matcher matcher;
-  Table wiersze;
-  SharedStrings shared;
-  if (package.has(kSharedStrings)) {
-    shared = shared_strings(wiersze, matcher, wiersze.adopt(package.read(kSharedStrings)));
-  }
+  std::vector<char> strings;
+  if (package.has(kSharedStrings)) strings = package.read(kSharedStrings);
+  const SharedStrings shared = shared_strings(matcher, strings);
   const std::string_view arkusz = first_worksheet(package, matcher);
   if (arkusz.empty()) return {};
-  WorksheetReader(wiersze, matcher, shared).read(wiersze.adopt(package.read(arkusz)));
+
+  std::vector<char> xml = package.read(arkusz);
+  Table wiersze;
+  WorksheetReader(wiersze, matcher, shared, xml).read();
+  wiersze.adopt_shared(std::move(strings));
+  wiersze.adopt(std::move(xml));
   return wiersze;
 }
 
