@@ -1,7 +1,10 @@
 #include <chrono>
 #include <cstdint>
 #include <fstream>
+#include <future>
+#include <map>
 #include <optional>
+#include <random>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -63,7 +66,54 @@ TEST(Workbook, OddOnesAreReadOrRefusedAsTheyMustBe) {
   }
 }
 
-TEST(Workbook, ThatIsNotThereFailsAsAFile) { EXPECT_EQ(read("/nowhere/punkty.xlsx").kind, "OSError"); }
+// Readings at the same time share nothing that changes.
+TEST(Workbook, OnesAreReadAtTheSameTime) {
+  const auto reads_alike = [](const std::string& path) {
+    const Rows expected = read(path).rows;
+    for (int i = 0; i < 50; ++i)
+      if (read(path).rows != expected) return false;
+    return true;
+  };
+  const std::string folder = std::string(WORKBOOKS) + "/";
+  auto other = std::async(std::launch::async, reads_alike, folder + "many cells.xlsx");
+  EXPECT_TRUE(reads_alike(folder + "many strings.xlsx"));
+  EXPECT_TRUE(other.get());
+}
+
+TEST(Workbook, CellsThatShareATextAreViewsOfIt) {
+  const Table table = _czytaj_xlsx(std::string(WORKBOOKS) + "/attributes.xlsx");  // which has the text and its index
+  EXPECT_TRUE(table.shares(table[0][0]) && table.shares(table[1][1]));
+  EXPECT_EQ(table[0][0].data(), table[1][1].data());
+  EXPECT_FALSE(table.shares(table[0][1]) || table.shares(table[1][0]));
+}
+
+TEST(Table, KeepsCellsByTheirColumns) {
+  std::mt19937 random(20240229);
+  Table table;
+  std::vector<std::map<std::size_t, std::string>> expected(1000);
+  const std::string letters = "abcdefghijklmnopqrstuvwxyz";
+  for (auto& cells : expected) {
+    for (std::size_t cell = 0; cell < 1 + random() % 9; ++cell) {
+      const std::size_t column = random() % 4 != 0 ? cell : random() % (random() % 2 != 0 ? 16 : 1 << 12);
+      cells[column] = letters[random() % letters.size()];
+      table.set_cell(column, std::string_view(letters).substr(letters.find(cells[column]), 1));
+    }
+    table.end_row();
+  }
+  EXPECT_LT(table.stored_cells(), 20'000U);  // of millions
+  ASSERT_EQ(table.size(), expected.size());
+  for (std::size_t i = 0; i < expected.size(); ++i) {
+    const Row row = table[i];
+    ASSERT_EQ(row.size(), expected[i].rbegin()->first + 1);
+    std::map<std::size_t, std::string> found;
+    std::size_t column = 0;
+    for (const Cell cell : row) {
+      if (!cell.empty()) found[column] = row[column];
+      ++column;
+    }
+    EXPECT_EQ(found, expected[i]) << i;
+  }
+}
 
 TEST(ColumnNumber, OfReferences) {
   const struct {
@@ -91,18 +141,6 @@ TEST(ColumnNumber, OfReferences) {
   for (const auto& [reference, column] : cases) EXPECT_EQ(_kol_nr(reference), column) << reference;
   for (const char* reference : {"AAAAAAAAAAAAAAAAAAAA1", "ZZZZZZZZZZZZZZZZZZZZ"})
     EXPECT_THROW(static_cast<void>(_kol_nr(reference)), OverflowError) << reference;
-}
-
-// Shorter names first, then by the alphabet, they number the columns without a hole.
-TEST(ColumnNumber, CountsAllNames) {
-  std::vector<std::string> names{""};
-  std::uint64_t next = 0;
-  for (std::size_t at = 0; next < 26 + 26 * 26 + 26 * 26 * 26; ++at) {
-    for (char letter = 'A'; letter <= 'Z'; ++letter) {
-      names.push_back(names[at] + letter);
-      ASSERT_EQ(_kol_nr(names.back()), next++) << names.back();
-    }
-  }
 }
 
 }  // namespace

@@ -105,6 +105,8 @@ SHEETS = {  # what stands in the worksheet, and its rows; there are three shared
     "empty rows": (row() + row(A) + row(" \n") + row('<c s="1"/>') + row(C), [["a"], ["", "", "c"]]),
     "row numbers": (f'<row>{A}</row><row r="9">{B}</row><row r="2" hidden="1">{A}</row><row\n>{A}</row>',
                     [["a"], ["", "b"], ["a"], ["a"]]),
+    "many cells": (row(A, B, C) * 500, [["a", "b", "c"]] * 500),
+    "many strings": (row(cells("012", "s")) * 500, [["Nr", "Nr pkt", "ą"]] * 500),
     "tags like rows": (f"<rowBreaks>{A}</rowBreaks>{row(B)}<!-- {row(C)} --><rowBreaks>", [["a", "b"], ["", "", "c"]]),
     "tags not closed": (f"<row>{A}<row>{B}</row>" + row('<c r="A1"><v>1</v>') + row('<c r="A1" <v>1</v>') + f"<row>{A}",
                         [["a", "b"]]),
@@ -143,7 +145,7 @@ BAD_ITEMS = b"".join(b"<si><t>" + text + b"</t></si>" for text, _ in BAD)
 BAD_CELLS = b"\xff" + row(cells(range(len(BAD)), "s"), cell("H1", "@")).encode().replace(b"@", BAD[0][0])
 NO_SHEETS = ["sheet1.xml", "xl/worksheets/sheet.xml", "xl/worksheets/Sheet1.xml", SHEET + ".bak", "x/" + SHEET,
              "/" + SHEET, "xl/worksheets/_rels/sheet1.xml.rels", "xl/chartsheets/sheet1.xml", SHEET.replace("/", "\\")]
-GOOD, STORED, LARGE = book(row(A), THREE), book(row(A), method=zipfile.ZIP_STORED), (SHEET, bytes(70 << 20))
+GOOD, STORED, LARGE = book(row(A), THREE), book(row(A), method=zipfile.ZIP_STORED), (SHEET, bytes(20 << 20))
 SHEET2, SHEET10 = ((f"xl/worksheets/sheet{n}.xml", row(cells([n]))) for n in (2, 10))
 TABS = "xl/workbook.xml", '<sheet name="1" r:id="rId2"/><sheet name="2" r:id="rId1"/>'
 AES = patched(package((SHEET, row(A)), extra=struct.pack("<HHH2sBH", 0x9901, 7, 2, b"AE", 3, 8)), METHOD, "H", 99)
@@ -166,22 +168,26 @@ PACKAGES = {  # a package and its rows; or None, the kind of failure, and pieces
     "invalid UTF-8": (package((STRINGS, BAD_ITEMS), (SHEET, BAD_CELLS)),
                       [[text.replace("?", "\ufffd") for _, text in BAD + BAD[:1]]]),
     "damage in what is not read": (patched(TWO, CRC, "I", 1, SHEET2[0]), [["10"]]),
-    "large and packed as text is": (package(LARGE, level=1), []),
+    "large and packed as text is": (package((SHEET, random.Random(1).randbytes(9999).hex() * 1100)), []),
     "cut before its directory": (GOOD[:len(GOOD) // 2], None, "BadZipFile", "ZIP package"),
     "cut in its directory": (GOOD[:-30], None, "BadZipFile", "ZIP package"),
     "rubbish behind a signature": (b"PK\3\4" + bytes(range(256)) * 40, None, "BadZipFile", "ZIP package"),
     "wrong checksum": (patched(STORED, CRC, "I", 1), None, "BadZipFile", SHEET),
     "damaged strings": (GOOD[:30 + len(STRINGS)] + b"\7" + GOOD[31 + len(STRINGS):], None, "BadZipFile", STRINGS),
-    "size too small": (patched(GOOD, SIZE, "I", 9), [["a"]], "BadZipFile", SHEET),  # the checksum is right
-    "size too large": (patched(GOOD, SIZE, "I", 99_999), [["a"]], "BadZipFile", SHEET),
+    "damaged strings and no worksheet": (patched(package((STRINGS, THREE)), CRC, "I", 1, STRINGS), None, "BadZipFile",
+                                         STRINGS),
+    "size too small": (patched(GOOD, SIZE, "I", 9), None, "BadZipFile", SHEET, "more than it claims"),
+    "size too large": (patched(GOOD, SIZE, "I", 99_999), [["a"]], "BadZipFile", SHEET),  # the checksum is right
     "packed size too small": (patched(GOOD, PACKED, "I", 9), None, "BadZipFile", SHEET),
     "content behind the end": (patched(GOOD, OFFSET, "I", 10**6), None, "BadZipFile", SHEET),
     "encrypted": (patched(GOOD, FLAGS, "H", 1), None, "RuntimeError", SHEET, "encrypted"),
     "encrypted strings": (patched(GOOD, FLAGS, "H", 1, STRINGS), None, "RuntimeError", STRINGS, "encrypted"),
     "encrypted by AES": (patched(AES, FLAGS, "H", 1), None, "RuntimeError", SHEET, "encrypted"),
-    "claim of more than 2 GiB": (patched(GOOD, SIZE, "I", 2**31 + 1), None, "MemoryError", SHEET, "2048 MiB"),
-    "bomb": (package(LARGE, ("noise", random.Random(1).randbytes(1 << 20))), None, "BadZipFile", SHEET, "500 times"),
-    "bomb that claims to be small": (patched(BOMB, SIZE, "I", 1024), None, "BadZipFile", SHEET, "500 times"),
+    "claim of more than 1 GiB": (patched(GOOD, SIZE, "I", 2**30 + 1), None, "MemoryError", SHEET, "1024 MiB"),
+    "claim of what others left": (patched(package((STRINGS, b"\xff" * (2 << 20)), (SHEET, row(A))), SIZE, "I",
+                                          2**30 - (7 << 20)), None, "MemoryError", SHEET, "1024 MiB"),
+    "bomb": (package(LARGE, ("noise", random.Random(1).randbytes(1 << 20))), None, "BadZipFile", SHEET, "200 times"),
+    "bomb that claims to be small": (patched(BOMB, SIZE, "I", 1024), None, "BadZipFile", SHEET, "more than it claims"),
     "bomb that claims to be packed large": (patched(BOMB, PACKED, "I", 60 << 20), None, "BadZipFile", SHEET),
     "column of twenty letters": (book(row(A, cell("A" * 20 + "1", "x"))), None, "MemoryError", "cell AAAAAA"),
     "column of many letters": (book(row(cell("A" * N + "1", "x"))), None, "MemoryError", "cell AAAAAA"),

@@ -1,18 +1,19 @@
 #include "vexo_xyz_impl/input/package.h"
 
 #include <algorithm>
+#include <array>
 #include <filesystem>
+#include <span>
 #include <system_error>
 #include <utility>
 
 #include <zip.h>
 
 #include "vexo_xyz_impl/failure.h"
+#include "vexo_xyz_impl/text/utf8.h"
 
 namespace vexo_xyz_impl {
 namespace {
-
-constexpr std::size_t kBlock = std::size_t{1} << 20U;  // unpacked at a time, so that a lie shows before memory is gone
 
 struct CloseMember {
   void operator()(zip_file_t* member) const { zip_fclose(member); }
@@ -36,14 +37,19 @@ std::string quoted(std::string_view name) { return "member '" + std::string(name
   }
 }
 
-void refuse_if_too_large(std::string_view name, std::uint64_t unpacked, std::uint64_t packed) {
-  if (unpacked > kLargestMember) {
-    throw MemoryError(quoted(name) + " unpacks to more than " + std::to_string(kLargestMember >> 20U) + " MiB");
+// Up to so many bytes of a member; fewer at its end only, where its checksum is looked at as well.
+std::size_t fill(std::span<char> bytes, zip_file_t* member, std::string_view name) {
+  std::size_t filled = 0;
+  while (filled < bytes.size()) {
+    const zip_int64_t got = zip_fread(member, bytes.data() + filled, bytes.size() - filled);
+    if (got < 0) {
+      zip_error_t* error = zip_file_get_error(member);
+      fail(name, zip_error_code_zip(error), zip_error_strerror(error));
+    }
+    if (got == 0) break;
+    filled += static_cast<std::size_t>(got);
   }
-  if (unpacked > kUnsuspiciousMember && unpacked / kLargestRatio > packed) {
-    throw BadZipFile(quoted(name) + " unpacks to more than " + std::to_string(kLargestRatio) +
-                     " times its size and is not unpacked");
-  }
+  return filled;
 }
 
 }  // namespace
@@ -81,38 +87,47 @@ std::vector<std::string_view> Package::names() const {
   return names;
 }
 
-std::vector<char> Package::read(std::string_view name) const {
+std::vector<char> Package::read(std::string_view name) {
+  std::vector<char> bytes = unpacked(name);
+  const std::string_view text(bytes.data(), bytes.size());
+  if (text::is_valid(text)) return bytes;
+  const std::size_t size = text::size_with_replacements(text);
+  take(name, size);
+  return text::with_replacements(text, size);
+}
+
+std::vector<char> Package::unpacked(std::string_view name) {
   const zip_uint64_t index = members_.find(name)->second;
   zip_stat_t claimed;
   zip_stat_init(&claimed);
   if (zip_stat_index(archive_.get(), index, 0, &claimed) != 0 || (claimed.valid & ZIP_STAT_SIZE) == 0) {
     throw BadZipFile(quoted(name) + " has no size");
   }
+  take(name, claimed.size);
   const std::uint64_t packed = std::min<std::uint64_t>(claimed.comp_size, size_);
-  refuse_if_too_large(name, claimed.size, packed);
+  if (claimed.size > kUnsuspiciousMember && claimed.size / kLargestRatio > packed) {
+    throw BadZipFile(quoted(name) + " unpacks to more than " + std::to_string(kLargestRatio) +
+                     " times its size and is not unpacked");
+  }
 
   const std::unique_ptr<zip_file_t, CloseMember> member(zip_fopen_index(archive_.get(), index, 0));
   if (!member) {
     zip_error_t* error = zip_get_error(archive_.get());
     fail(name, zip_error_code_zip(error), zip_error_strerror(error));
   }
-  // One byte more than claimed: the end, and with it the checksum, is seen without growing.
-  std::vector<char> content(static_cast<std::size_t>(claimed.size) + 1);
-  std::size_t filled = 0;
-  while (true) {
-    const zip_int64_t got = zip_fread(member.get(), content.data() + filled, content.size() - filled);
-    if (got < 0) {
-      zip_error_t* error = zip_file_get_error(member.get());
-      fail(name, zip_error_code_zip(error), zip_error_strerror(error));
-    }
-    if (got == 0) break;
-    filled += static_cast<std::size_t>(got);
-    if (filled < content.size()) continue;
-    refuse_if_too_large(name, filled, packed);
-    content.resize(content.size() + kBlock);
-  }
-  content.resize(filled);
+  std::vector<char> content(static_cast<std::size_t>(claimed.size));
+  content.resize(fill(content, member.get(), name));
+  std::array<char, 1> beyond{};
+  if (fill(beyond, member.get(), name) != 0) throw BadZipFile(quoted(name) + " unpacks to more than it claims");
   return content;
+}
+
+void Package::take(std::string_view name, std::uint64_t bytes) {
+  if (bytes > left_) {
+    throw MemoryError(quoted(name) + " is too large: of a workbook " + std::to_string(kMostUnpacked >> 20U) +
+                      " MiB are unpacked at most; keep the points alone in it, or save its sheet as CSV");
+  }
+  left_ -= bytes;
 }
 
 }  // namespace vexo_xyz_impl

@@ -4,7 +4,6 @@
 #include <array>
 #include <cstdint>
 #include <limits>
-#include <new>
 #include <span>
 #include <string>
 
@@ -15,6 +14,8 @@
 
 namespace vexo_xyz_impl {
 namespace {
+
+constexpr std::uint32_t kPlaces = 3;  // the match and its two groups
 
 std::string message_of(int error) {
   std::array<PCRE2_UCHAR8, 256> text{};
@@ -33,31 +34,37 @@ std::uint32_t compile_options(unsigned options) {
 }  // namespace
 
 void Pattern::Free::operator()(pcre2_real_code_8* code) const { pcre2_code_free(code); }
-void Pattern::Free::operator()(pcre2_real_match_data_8* data) const { pcre2_match_data_free(data); }
-void Pattern::Free::operator()(pcre2_real_match_context_8* context) const { pcre2_match_context_free(context); }
+void Matcher::Free::operator()(pcre2_real_match_data_8* data) const { pcre2_match_data_free(data); }
+void Matcher::Free::operator()(pcre2_real_match_context_8* context) const { pcre2_match_context_free(context); }
 
 Pattern::Pattern(std::string_view expression, unsigned options) {
   int error = 0;
   PCRE2_SIZE offset = 0;
   code_.reset(pcre2_compile(reinterpret_cast<PCRE2_SPTR8>(expression.data()), expression.size(),
                             compile_options(options), &error, &offset, nullptr));
+  if (!code_ && error == PCRE2_ERROR_HEAP_FAILED) throw MemoryError("not enough memory to compile a pattern");
   if (!code_) throw ValueError("pattern '" + std::string(expression) + "': " + message_of(error));
   // Where the machine has no just-in-time compiler the pattern is interpreted.
-  static_cast<void>(pcre2_jit_compile(code_.get(), PCRE2_JIT_COMPLETE));
-  data_.reset(pcre2_match_data_create_from_pattern(code_.get(), nullptr));
-  context_.reset(pcre2_match_context_create(nullptr));
-  if (!data_ || !context_) throw std::bad_alloc();
+  has_machine_code_ = pcre2_jit_compile(code_.get(), PCRE2_JIT_COMPLETE) == 0;
+}
+
+Matcher::Matcher() : data_(pcre2_match_data_create(kPlaces, nullptr)), context_(pcre2_match_context_create(nullptr)) {
+  if (!data_ || !context_) throw MemoryError("not enough memory to search a text");
   constexpr auto kNoLimit = std::numeric_limits<std::uint32_t>::max();
   pcre2_set_match_limit(context_.get(), kNoLimit);
   pcre2_set_depth_limit(context_.get(), kNoLimit);
   pcre2_set_heap_limit(context_.get(), kNoLimit);
 }
 
-std::optional<Pattern::Match> Pattern::find(std::string_view subject, std::size_t from) const {
-  const int found = pcre2_match(code_.get(), reinterpret_cast<PCRE2_SPTR8>(subject.data()), subject.size(), from, 0,
-                                data_.get(), context_.get());
+std::optional<Matcher::Match> Matcher::find(const Pattern& pattern, std::string_view subject, std::size_t from) {
+  if (subject.empty()) subject = "";  // machine code takes no null pointer
+  auto* const match = pattern.has_machine_code_ ? &pcre2_jit_match : &pcre2_match;
+  const int found = match(pattern.code_.get(), reinterpret_cast<PCRE2_SPTR8>(subject.data()), subject.size(), from, 0,
+                          data_.get(), context_.get());
   if (found == PCRE2_ERROR_NOMATCH) return std::nullopt;
-  if (found == PCRE2_ERROR_NOMEMORY || found == PCRE2_ERROR_JIT_STACKLIMIT) throw std::bad_alloc();
+  if (found == PCRE2_ERROR_NOMEMORY || found == PCRE2_ERROR_JIT_STACKLIMIT) {
+    throw MemoryError("not enough memory to search a text of " + std::to_string(subject.size()) + " bytes");
+  }
   if (found < 0) throw ValueError("matching a pattern: " + message_of(found));
 
   // Begin and end of the match, then of each group that took part.

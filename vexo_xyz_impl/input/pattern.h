@@ -1,7 +1,8 @@
-// A regular expression, compiled once and run by machine code, over bytes.
+// Regular expressions over bytes, compiled once and run by machine code where the machine has a compiler for it.
 //
-// It has no match limit that a long text could meet: a row of a worksheet may be as long as the worksheet. Groups are
-// views into the subject.
+// A pattern holds compiled code only and may be used from several threads at once; whatever matching writes to lies in
+// a `Matcher`, of which each reading makes its own. There is no match limit that a long text could meet: a row of a
+// worksheet may be as long as the worksheet. Groups are views into the subject.
 #pragma once
 
 #include <cstddef>
@@ -21,9 +22,25 @@ class Pattern {
     none = 0,
     dot_matches_line_ends = 1,
     anchored = 2,  ///< matches at the place where it is tried only
-    unicode = 4,   ///< the subject is UTF-8, and \d, \s, \w have all scripts' digits, spaces, letters
+    unicode = 4,   ///< the subject must be valid UTF-8, and \d, \s, \w have all scripts' digits, spaces, letters
   };
 
+  /// Fails with ValueError for an expression that does not compile, MemoryError when memory runs out.
+  explicit Pattern(std::string_view expression, unsigned options = none);
+
+ private:
+  friend class Matcher;
+
+  struct Free {
+    void operator()(pcre2_real_code_8* code) const;
+  };
+
+  std::unique_ptr<pcre2_real_code_8, Free> code_;
+  bool has_machine_code_ = false;
+};
+
+class Matcher {
+ public:
   /// A match: where it stands in the subject, and its groups; a group that took no part is empty.
   struct Match {
     std::size_t begin;
@@ -32,21 +49,19 @@ class Pattern {
     std::string_view group2;
   };
 
-  /// Fails with ValueError for an expression that does not compile.
-  explicit Pattern(std::string_view expression, unsigned options = none);
+  /// Fails with MemoryError when memory runs out.
+  Matcher();
 
-  /// The first match at or after `from`, or at `from` exactly when anchored. Fails with MemoryError when the matcher
-  /// runs out of memory. Not for use from several threads at once.
-  [[nodiscard]] std::optional<Match> find(std::string_view subject, std::size_t from = 0) const;
+  /// The first match of `pattern` at or after `from`, or at `from` exactly when it is anchored; `from` lies in the
+  /// subject or at its end. Fails with MemoryError when memory runs out.
+  [[nodiscard]] std::optional<Match> find(const Pattern& pattern, std::string_view subject, std::size_t from = 0);
 
  private:
   struct Free {
-    void operator()(pcre2_real_code_8* code) const;
     void operator()(pcre2_real_match_data_8* data) const;
     void operator()(pcre2_real_match_context_8* context) const;
   };
 
-  std::unique_ptr<pcre2_real_code_8, Free> code_;
   std::unique_ptr<pcre2_real_match_data_8, Free> data_;
   std::unique_ptr<pcre2_real_match_context_8, Free> context_;
 };

@@ -1,6 +1,6 @@
 // The table of rows: the one shape in which every reader delivers its content.
 //
-// A `Table` owns its text in a few large buffers; a cell is a view into one of them and a row is a span of cells, so
+// A `Table` owns its text in a few large buffers; a cell is a view into one of them and a row a view of its cells, so
 // that a file of a million lines costs no allocation per cell or per row. Rows may differ in length, a gap inside a
 // row is the empty text, no row is empty. Views stay valid while the table lives, also when it is moved.
 #pragma once
@@ -11,13 +11,10 @@
 #include <utility>
 #include <vector>
 
+#include "vexo_xyz_impl/input/groups.h"
+#include "vexo_xyz_impl/input/row.h"
+
 namespace vexo_xyz_impl {
-
-/// A cell's text, UTF-8.
-using Cell = std::string_view;
-
-/// A row's cells; index 0 is the first column.
-using Row = std::span<const Cell>;
 
 class Table {
  public:
@@ -31,42 +28,51 @@ class Table {
   /// Takes over a buffer whose parts become cells; the view is valid while the table lives.
   std::string_view adopt(std::vector<char> buffer);
 
+  /// Takes over the buffer of the shared strings of a workbook.
+  void adopt_shared(std::vector<char> buffer) { shared_ = adopt(std::move(buffer)); }
+
+  /// Whether the cell is a shared string of a workbook: all cells that share it are views of the same bytes.
+  [[nodiscard]] bool shares(Cell cell) const;
+
   /// Keeps a copy of a text that stands in no buffer.
   std::string_view keep(std::string_view text);
 
   /// Adds a cell to the row being made.
-  void add_cell(Cell cell) { cells_.push_back(cell); }
+  void add_cell(Cell cell) { cells_.add(cell); }
 
-  /// Sets the cell at `column` of the row being made, with gaps before it where cells are missing.
-  void set_cell(std::size_t column, Cell cell) {
-    if (column >= current_size()) cells_.resize(ends_.back() + column + 1, Cell(""));
-    cells_[ends_.back() + column] = cell;
-  }
-
-  /// Cells of the row being made.
-  [[nodiscard]] std::size_t current_size() const { return cells_.size() - ends_.back(); }
-
-  /// Cells of all rows.
-  [[nodiscard]] std::size_t cell_count() const { return cells_.size(); }
+  /// Sets the cell at `column` of the row being made, whatever columns were set before; what is never set is a gap. Not
+  /// for a row that cells are added to.
+  void set_cell(std::size_t column, Cell cell);
 
   /// Ends the row being made; does nothing when it has no cell.
   void end_row() {
-    if (current_size() != 0) ends_.push_back(cells_.size());
+    if (!columns_.empty()) {
+      end_row_with_gaps();
+    } else if (!cells_.open().empty()) {
+      rows_.push_back(cells_.close());
+    }
   }
 
-  [[nodiscard]] std::size_t size() const { return ends_.size() - 1; }
-  [[nodiscard]] Row operator[](std::size_t row) const {
-    return Row(cells_).subspan(ends_[row], ends_[row + 1] - ends_[row]);
-  }
+  /// Cells that take memory: all but those of long gaps.
+  [[nodiscard]] std::size_t stored_cells() const { return cells_.count(); }
 
-  /// All rows in order, as spans into this table.
-  [[nodiscard]] std::vector<Row> rows() const;
+  [[nodiscard]] std::size_t size() const { return rows_.size(); }
+  [[nodiscard]] Row operator[](std::size_t row) const { return rows_[row]; }
+
+  /// All rows in order.
+  [[nodiscard]] const std::vector<Row>& rows() const { return rows_; }
 
  private:
+  void sort_by_columns();
+  void end_row_with_gaps();
+
   std::vector<std::vector<char>> buffers_;  // not strings: views must survive a move of the table
-  std::size_t kept_ = 0;                    // index of the buffer that `keep` fills, plus 1
-  std::vector<Cell> cells_;
-  std::vector<std::size_t> ends_{0};  // index past the last cell of each row, after a leading 0
+  std::vector<std::vector<char>> kept_;     // blocks that `keep` fills
+  std::string_view shared_;                 // one of the buffers
+  Groups<Cell> cells_;
+  Groups<Run> runs_;
+  std::vector<std::size_t> columns_;  // of the row being made, those of its cells from the first long gap on
+  std::vector<Row> rows_;
 };
 
 }  // namespace vexo_xyz_impl

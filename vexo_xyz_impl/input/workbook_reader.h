@@ -15,15 +15,19 @@
 
 namespace vexo_xyz_impl {
 
-/// The most cells, gaps included, that a worksheet may have; a cell takes 16 bytes.
-inline constexpr std::size_t kMostCells = std::size_t{1} << 27U;
+/// The most cells that a worksheet may have, long gaps left out; a cell takes 16 bytes. More than a worksheet of the
+/// largest size that is unpacked has room for, unless its cells are empty.
+inline constexpr std::size_t kMostCells = std::size_t{1} << 25U;
+
+/// The most columns, sixty times those that spreadsheet programs have.
+inline constexpr std::size_t kMostColumns = std::size_t{1} << 20U;
 
 /// Zero-based column of a cell reference ("C7" is 2); empty when it does not begin with a letter A to Z. Fails with
 /// OverflowError for a column that no integer holds.
 [[nodiscard]] std::optional<std::uint64_t> _kol_nr(std::string_view ref);
 
 /// The rows of the workbook at `path`, none when it holds no worksheet. Fails as `Package` does (package.h), and with
-/// MemoryError, naming the cell, when the rows would need more than `kMostCells`.
+/// MemoryError, naming the cell, when there are more than `kMostCells` or `kMostColumns`.
 [[nodiscard]] Table _czytaj_xlsx(const std::string& path);
 
 }  // namespace vexo_xyz_impl

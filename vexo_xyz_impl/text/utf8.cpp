@@ -31,10 +31,16 @@ std::size_t ascii_run(std::string_view utf8, std::size_t at) {
   return at - start;
 }
 
-// Bytes of the maximal part at `at` that begins a valid sequence but does not complete it; at least one.
-std::size_t invalid_part(std::string_view bytes, std::size_t at) {
+struct Sequence {
+  std::size_t bytes;
+  bool is_whole;
+};
+
+// The sequence that begins at `at`, or the maximal part of one that is not completed; at least one byte.
+Sequence sequence_at(std::string_view bytes, std::size_t at) {
   const unsigned char lead = byte_at(bytes, at);
-  if (lead < 0xC2 || lead > 0xF4) return 1;  // no sequence begins so
+  if (is_ascii(lead)) return {1, true};
+  if (lead < 0xC2 || lead > 0xF4) return {1, false};  // no sequence begins so
   // What may follow the lead byte: narrower than any continuation where overlong forms, surrogates or values above
   // U+10FFFF would begin.
   unsigned char least = 0x80;
@@ -51,7 +57,29 @@ std::size_t invalid_part(std::string_view bytes, std::size_t at) {
     least = 0x80, most = 0xBF;
     ++part;
   }
-  return part;
+  return {part, part == length};
+}
+
+// Where the valid text that begins at `at` ends.
+std::size_t end_of_valid(std::string_view bytes, std::size_t at) {
+  while (true) {
+    at += ascii_run(bytes, at);
+    if (at == bytes.size()) return at;
+    const Sequence sequence = sequence_at(bytes, at);
+    if (!sequence.is_whole) return at;
+    at += sequence.bytes;
+  }
+}
+
+// The valid texts in `bytes`, and what replaces what lies between them.
+template <class Take>
+void for_each_part(std::string_view bytes, Take take) {
+  for (std::size_t at = 0; at < bytes.size();) {
+    const Sequence sequence = sequence_at(bytes, at);
+    const std::size_t end = sequence.is_whole ? end_of_valid(bytes, at) : at + sequence.bytes;
+    take(sequence.is_whole ? bytes.substr(at, end - at) : std::string_view("\uFFFD"));
+    at = end;
+  }
 }
 
 }  // namespace
@@ -88,29 +116,18 @@ CodePoint last_code_point(std::string_view utf8) {
   return decode(utf8, at).value_or(CodePoint{byte_at(utf8, at), utf8.size() - at});
 }
 
-bool is_valid(std::string_view bytes) {
-  std::size_t at = 0;
-  while (true) {
-    at += ascii_run(bytes, at);
-    if (at == bytes.size()) return true;
-    const auto code_point = decode(bytes, at);
-    if (!code_point) return false;
-    at += code_point->bytes;
-  }
+bool is_valid(std::string_view bytes) { return end_of_valid(bytes, 0) == bytes.size(); }
+
+std::size_t size_with_replacements(std::string_view bytes) {
+  std::size_t size = 0;
+  for_each_part(bytes, [&](std::string_view part) { size += part.size(); });
+  return size;
 }
 
-std::string with_replacements(std::string_view bytes) {
-  std::string valid;
-  valid.reserve(bytes.size());
-  for (std::size_t at = 0; at < bytes.size();) {
-    if (const auto code_point = decode(bytes, at)) {
-      valid += bytes.substr(at, code_point->bytes);
-      at += code_point->bytes;
-    } else {
-      append(valid, U'\uFFFD');
-      at += invalid_part(bytes, at);
-    }
-  }
+std::vector<char> with_replacements(std::string_view bytes, std::size_t size) {
+  std::vector<char> valid(size);
+  auto end = valid.begin();
+  for_each_part(bytes, [&](std::string_view part) { end = std::copy(part.begin(), part.end(), end); });
   return valid;
 }
 

@@ -1,13 +1,15 @@
 // UTF-8 as the module's one encoding of text: decoding by code points, validity, white space.
 //
 // White space is the Unicode property White_Space, digits are the general category Nd. A "character" that is
-// counted or cut is a code point. Everything here works on views and allocates nothing unless it returns a string.
+// counted or cut is a code point. Everything here works on views and allocates nothing unless it returns a text of its
+// own.
 #pragma once
 
 #include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace vexo_xyz_impl::text {
 
@@ -27,8 +29,12 @@ struct CodePoint {
 /// Whether all of `bytes` is valid UTF-8.
 [[nodiscard]] bool is_valid(std::string_view bytes);
 
-/// The text with one U+FFFD for each maximal part of an invalid sequence, as the Unicode standard recommends.
-[[nodiscard]] std::string with_replacements(std::string_view bytes);
+/// How many bytes `with_replacements` makes of `bytes`.
+[[nodiscard]] std::size_t size_with_replacements(std::string_view bytes);
+
+/// The text with one U+FFFD for each maximal part of an invalid sequence, as the Unicode standard recommends; `size` is
+/// what `size_with_replacements` said of it.
+[[nodiscard]] std::vector<char> with_replacements(std::string_view bytes, std::size_t size);
 
 /// Appends one code point as UTF-8.
 void append(std::string& utf8, char32_t code_point);
