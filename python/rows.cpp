@@ -1,6 +1,8 @@
 #include "python/rows.h"
 
 #include <algorithm>
+#include <unordered_map>
+#include <utility>
 
 #include "python/values.h"
 
@@ -23,7 +25,7 @@ ScriptRows::ScriptRows(const py::object& rows) {
   }
   std::size_t begin = 0;
   for (const std::size_t length : lengths) {
-    rows_.push_back(Row(cells_).subspan(begin, length));
+    rows_.emplace_back(std::span<const Cell>(cells_).subspan(begin, length));
     begin += length;
   }
 }
@@ -35,13 +37,48 @@ const py::object& ScriptRows::object_of(Row row) const {
   return objects_.at(static_cast<std::size_t>(found - rows_.begin()));
 }
 
+namespace {
+
+// A list that is filled in one pass; every place of it must be set.
+py::list unfilled(std::size_t size) {
+  auto list = py::reinterpret_steal<py::list>(PyList_New(static_cast<Py_ssize_t>(size)));
+  if (!list) throw py::error_already_set();
+  return list;
+}
+
+void fill(const py::list& list, std::size_t at, py::object item) {
+  PyList_SET_ITEM(list.ptr(), static_cast<Py_ssize_t>(at), item.release().ptr());
+}
+
+// Cells as texts: one object for all that share a text.
+class Texts {
+ public:
+  explicit Texts(const vexo_xyz_impl::Table& table) : table_(table) {}
+
+  py::object of(Cell cell) {
+    if (!table_.shares(cell)) return to_script(cell);
+    py::object& known = known_[cell.data()];
+    if (!known) known = to_script(cell);
+    return known;
+  }
+
+ private:
+  const vexo_xyz_impl::Table& table_;
+  std::unordered_map<const char*, py::object> known_;
+};
+
+}  // namespace
+
 py::list list_of(const vexo_xyz_impl::Table& table) {
-  py::list rows(table.size());
+  Texts texts(table);
+  const py::str gap;
+  py::list rows = unfilled(table.size());
   for (std::size_t i = 0; i < table.size(); ++i) {
     const Row row = table[i];
-    py::list cells(row.size());
-    for (std::size_t j = 0; j < row.size(); ++j) cells[j] = to_script(row[j]);
-    rows[i] = std::move(cells);
+    py::list cells = unfilled(row.size());
+    std::size_t at = 0;
+    for (const Cell cell : row) fill(cells, at++, cell.empty() ? py::object(gap) : texts.of(cell));
+    fill(rows, i, std::move(cells));
   }
   return rows;
 }
