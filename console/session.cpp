@@ -66,7 +66,6 @@ ExitCode Session::run() {
     if (!database_.drawing().entities().empty()) say("konsola.nie_zapisano", {});
     return kFailure;
   }
-  if (outcome == CommandOutcome::nothing_done) return kNothingImported;
   if (database_.refused_count() > 0) {
     dialogue_.gcutPrintf(
         vexo_xyz_impl::filled("konsola.odrzucone", {static_cast<long long>(database_.refused_count())}));

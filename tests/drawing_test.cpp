@@ -77,10 +77,13 @@ TEST(Database, RefusesWhatWouldSpoilTheDrawing) {
     entity->close();
     return status;
   };
-  EXPECT_EQ(appended(db->newGcDbPoint({1, 2, kInfinity})), Gcad::eInvalidInput);
-  EXPECT_EQ(appended(db->newGcDbPoint({std::numeric_limits<double>::quiet_NaN(), 2, 3})), Gcad::eInvalidInput);
+  for (const double value : {std::numeric_limits<double>::quiet_NaN(), kInfinity, -kInfinity, -1.1e250}) {
+    EXPECT_EQ(appended(db->newGcDbPoint({value, 2, 3})), Gcad::eInvalidInput) << value;
+    EXPECT_EQ(appended(db->newGcDbPoint({1, value, 3})), Gcad::eInvalidInput) << value;
+    EXPECT_EQ(appended(db->newGcDbPoint({1, 2, value})), Gcad::eInvalidInput) << value;
+  }
   EXPECT_EQ(appended(db->newGcDbText({1, 2, 3}, "bez wysokości")), Gcad::eInvalidInput);
-  EXPECT_EQ(db->refused_count(), 3U);
+  EXPECT_EQ(db->refused_count(), 13U);
 
   auto text = db->newGcDbText({1, 2, 3}, "A");
   text->setHeight(2.5);
@@ -146,6 +149,15 @@ class RealWriter {
   TagWriter tags_{sink_};
 };
 
+TEST(Dxf, WritesTextsLongerThanItsBuffer) {
+  StringSink sink;
+  TagWriter tags(sink);
+  const std::string longer(70'000, 'x');
+  tags.text(1, longer);
+  tags.flush();
+  EXPECT_EQ(sink.text, "1\n" + longer + "\n");
+}
+
 TEST(Dxf, WritesRealsThatReadBackToTheSameDouble) {
   const struct {
     double value;
@@ -163,6 +175,8 @@ TEST(Dxf, WritesRealsThatReadBackToTheSameDouble) {
       {1e22, "10000000000000000000000.0"},
       {9007199254740993.0, "9007199254740992.0"},
       {0.1 + 0.2, "0.30000000000000004"},
+      {8796093022207.999, "8796093022207.999"},
+      {-8842358187708.199, "-8842358187708.2"},  // the same double
   };
   RealWriter writer;
   for (const auto& [value, text] : kCases) EXPECT_EQ(writer.text_of(value), text);

@@ -89,23 +89,6 @@ TEST(Layout, RowsToVerdict) {
   EXPECT_THROW(static_cast<void>(_wykryj_format(label_and_number.rows())), IndexError);
 }
 
-// Where a labelled row stands says nothing about its columns.
-TEST(Layout, OrderOfLabelledRowsIsIrrelevant) {
-  const Host host;
-  std::string text = "Nr N E H\nkoniec\nP0 5788456 1,5 100\nP00 1,5 7500833 100\n";
-  for (int i = 10; i < 40; ++i) text += "P 57884" + std::to_string(i) + ",25 75008" + std::to_string(i) + ",5 99\n";
-  const Table table = read(text);
-  std::vector<Row> rows = table.rows();
-  std::mt19937 random(7);
-  for (int i = 0; i < 20; ++i, std::shuffle(rows.begin(), rows.end(), random)) {
-    EXPECT_EQ(verdict_on(rows), "NrXYZ n_nrxyz(4) 32");
-    const auto candidates = _wykryj_uklad(_pary(_wykryj_format(rows).dane, 1, 2));
-    ASSERT_EQ(candidates.size(), 1U);
-    EXPECT_EQ(std::tuple(candidates[0].srid, candidates[0].swap, candidates[0].frac),
-              std::tuple(2178, true, 30.0 / 32));
-  }
-}
-
 TEST(Points, RowsToPointsAndSkippedLines) {
   const Host host;
   // Points as "number x y z", then skipped lines as "row! key of the reason: text".
@@ -148,6 +131,9 @@ TEST(TextHeight, RoundHeights) {
       "0 2.5 -3 2.5 1e-9 0.1 0.15 0.1 1.207 1.2 1.36 1.5 2.25 2 87.4 75 87.5 75 87.6 100 96 100 100 100 100.0001 100 "
       "104.9 100 105 100 105.1 110 115 120 125.1 130 145 140 155 160");
   for (double raw = 0.0, round = 0.0; heights >> raw >> round;) EXPECT_EQ(_rowna_wysokosc(raw), round) << raw;
+  for (const double height : {0.1, 0.2, 0.25, 0.5, 0.75, 1.0, 1.2, 1.5,  2.0,  2.5,  3.0,  3.5,  4.0,
+                              5.0, 6.0, 7.5,  10., 12.5, 15., 20., 25.0, 30.0, 40.0, 50.0, 75.0, 100.})
+    EXPECT_EQ(_rowna_wysokosc(height), height);
   EXPECT_EQ(_rowna_wysokosc(std::nan("")), 0.1);
   EXPECT_EQ(_rowna_wysokosc(-kInfinity), 2.5);
   EXPECT_THROW(static_cast<void>(_rowna_wysokosc(kInfinity)), OverflowError);

@@ -85,55 +85,5 @@ TEST(Samples, AreReadAsTheyAreKnownToBe) {
   }
 }
 
-// A workbook keeps the cells of a file in their columns, be they texts as they stand in it or numbers of the sheet.
-TEST(Samples, AreReadAlikeFromWorkbooks) {
-  for (const json& sample : manifest()) {
-    const std::string file = sample.at("file");
-    ConsoleHost host(sample.at("market"));
-    host.siblings.add("vexo_teksty", std::make_unique<testing_support::OwnTexts>());
-    host.load();
-    for (const std::string form : {"texts", "numbers"}) {
-      SCOPED_TRACE(file + ", " + form);
-      json expected = found_in(kSamples + file);  // which holds what the manifest states, or else the test above fails
-      if (file.starts_with("04")) {
-        // Point 23 has no height. Its line loses the cell, and with it the length of a data row; in a workbook the gap
-        // stays, and the row is one that is skipped and shown.
-        expected["data_rows"] = 40;
-        expected["skipped"] = {{23, "xyz.pow_naglowek", "23 5921840,56 5470497,62  łąka"},
-                               {31, "xyz.pow_naglowek", "31 5921799,49 5470414,64 - łąka"}};
-        if (form == "numbers") {
-          for (json& line : expected["skipped"]) std::ranges::replace(line[2].get_ref<std::string&>(), ',', '.');
-        }
-      }
-      EXPECT_EQ(found_in(std::string(WORKBOOKS) + "/samples/" + file + "." + form + ".xlsx"), expected);
-    }
-  }
-}
-
-// Where more than one reading fits, the user sees the first two with the word that selects each.
-TEST(Samples, ShowTheReadingsThatTheUserChoosesFrom) {
-  for (const json& sample : manifest()) {
-    if (!sample.at("expected").contains("readings")) continue;
-    SCOPED_TRACE(sample.at("file"));
-    ConsoleHost host(sample.at("market"), "\n", kSamples + sample.at("file").get<std::string>());
-    host.load();
-    EXPECT_EQ(host.import(), host::CommandOutcome::done);
-    const std::string report = host.out.str();
-    std::string_view said = report;
-    for (const json& reading : sample.at("expected").at("readings")) {
-      const std::string line =
-          "  " + reading.at("word").get<std::string>() + ": " + reading.at("name").get<std::string>() + ", szerokość ";
-      const std::size_t at = said.find(line);
-      ASSERT_NE(at, std::string_view::npos) << line;
-      said.remove_prefix(at + line.size());
-      double lat = 0.0;
-      double lon = 0.0;
-      ASSERT_EQ(std::sscanf(said.data(), "%lf°, długość %lf°", &lat, &lon), 2);  // NOLINT: the text goes on behind it
-      EXPECT_NEAR(lat, reading.at("lat_deg"), 1e-6);
-      EXPECT_NEAR(lon, reading.at("lon_deg"), 1e-6);
-    }
-  }
-}
-
 }  // namespace
 }  // namespace vexo_xyz_impl

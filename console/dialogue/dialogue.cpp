@@ -33,7 +33,8 @@ std::vector<std::string> split_at_blanks(std::string_view words) {
   return split;
 }
 
-// The keywords that an answer may mean: one that it equals, or all that it begins.
+// The keywords that an answer may mean: one that it equals, or all that it begins. In the present catalogues the first
+// letters differ; a translation may begin two words alike, or one with the other.
 std::vector<std::string> matches(const std::vector<std::string>& keywords, std::string_view answer) {
   std::vector<std::string> found;
   for (const std::string& word : keywords) {

@@ -17,7 +17,7 @@ class StreamLines final : public LineSource {
     out_ << prompt << std::flush;
     std::string line;
     const bool read = static_cast<bool>(std::getline(in_, line));
-    if (read && line.ends_with('\r')) line.pop_back();
+    if (read && line.ends_with('\r')) line.pop_back();  // else the echo would show it as a character
     const bool answered = read && line.find(kEscape) == std::string::npos;
     out_ << (answered ? shown_text(line) : std::string()) << '\n';
     return answered ? std::optional(std::move(line)) : std::nullopt;

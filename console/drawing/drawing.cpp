@@ -9,14 +9,18 @@ namespace {
 
 constexpr Handle kFirstFree = handle_of(Fixed::first_free);
 
-bool is_finite(const Position& position) {
-  return std::isfinite(position.x) && std::isfinite(position.y) && std::isfinite(position.z);
-}
+// Programs in use cut a line of a drawing after 255 bytes, and a number cut short is another number. Far below what a
+// double holds, so that sums of coordinates stay finite.
+constexpr double kFarthest = 1e250;
+
+bool is_sound(double value) { return std::abs(value) <= kFarthest; }  // false for a nan
+
+bool is_sound(const Position& position) { return is_sound(position.x) && is_sound(position.y) && is_sound(position.z); }
 
 struct IsSound {
-  bool operator()(const PointGeometry& point) const { return is_finite(point.position); }
+  bool operator()(const PointGeometry& point) const { return is_sound(point.position); }
   bool operator()(const TextGeometry& text) const {
-    return is_finite(text.position) && std::isfinite(text.height) && text.height > 0.0;
+    return is_sound(text.position) && is_sound(text.height) && text.height > 0.0;
   }
 };
 

@@ -88,8 +88,8 @@ struct Group {
   Handle handle = 0;  ///< 0 until it belongs to a drawing
   std::string name;
   std::string description;
-  bool selectable = true;
-  std::vector<Handle> members;
+  bool selectable = true;       ///< whether picking one member picks all, as the maker of the group says
+  std::vector<Handle> members;  ///< each once
 };
 
 /// System variables that are part of the drawing.
@@ -100,8 +100,8 @@ struct SystemVariables {
 
 class Drawing {
  public:
-  /// Takes the entity into model space and gives it its handle; empty when its geometry is not finite or a text has
-  /// no height.
+  /// Takes the entity into model space and gives it its handle; empty when a number of its geometry is not finite or
+  /// beyond 1e250, which no file could show to all programs, or when a text has no height.
   std::optional<Handle> add(Entity entity);
 
   /// Takes the group in under its name; empty when the name is empty or taken, letter case aside.

@@ -18,7 +18,6 @@ class Reactors {
     for (const Group& group : drawing.groups())
       for (const Handle member : group.members) pairs_.emplace_back(member, group.handle);
     std::sort(pairs_.begin(), pairs_.end());
-    pairs_.erase(std::unique(pairs_.begin(), pairs_.end()), pairs_.end());
     next_ = pairs_.begin();
   }
 

@@ -11,13 +11,14 @@ namespace console {
 namespace {
 
 constexpr double kThousandths = 1000.0;
-constexpr double kExactWhole = 9007199254740992.0;  // 2^53: whole doubles below it are exact
+constexpr double kThousandthsTold = 8796093022208.0;  // 2^43: up to it doubles are less than a thousandth apart
 
 // Coordinates mostly are whole millimetres. If the quotient reads back to the very double, its decimals are a right
-// spelling, and much cheaper to find than the shortest one in general. Returns `to` when the value is no such number.
+// spelling, and much cheaper to find than the shortest one in general; where doubles are closer than thousandths, no
+// other number of so few decimals is. Returns `to` when the value is no such number.
 char* put_thousandths(char* to, double value) {
   const double scaled = std::nearbyint(std::abs(value) * kThousandths);
-  if (!(scaled < kExactWhole) || scaled / kThousandths != std::abs(value)) return to;
+  if (!(std::abs(value) < kThousandthsTold) || scaled / kThousandths != std::abs(value)) return to;
   const auto all = static_cast<std::uint64_t>(scaled);
   if (std::signbit(value)) *to++ = '-';
   to = std::to_chars(to, to + 20, all / 1000).ptr;

@@ -103,7 +103,7 @@ constexpr auto kGerman = [] {
       {"konsola.niejasne_slowo", "Die Antwort „%s“ passt zu mehreren Wörtern: %s. Bitte mehr Buchstaben eingeben.\n"},
       {"konsola.opcja_zbedna", "Die Option %s wurde nicht gebraucht: diese Frage stellte sich nicht.\n"},
       {"konsola.odrzucone",
-       "Achtung: von der Zeichnung abgewiesene Objekte: %d (Koordinaten sind keine endlichen Zahlen).\n"},
+       "Achtung: von der Zeichnung abgewiesene Objekte: %d (Koordinaten sind unendlich, zu groß oder keine Zahlen).\n"},
       {"konsola.zapisano", "Zeichnung: %s\n"},
       {"konsola.nie_zapisano", "Die Zeichnung wurde nicht gespeichert.\n"},
       {"konsola.blad_zapisu",

@@ -116,17 +116,4 @@ class ConsoleHost : public vexo_xyz_impl::host::CommandTable {
   }
 };
 
-/// Whether `pieces` stand in `text` in their order.
-inline ::testing::AssertionResult in_order(std::string_view text, const std::vector<std::string>& pieces) {
-  std::size_t at = 0;
-  for (const std::string& piece : pieces) {
-    at = text.find(piece, at);
-    if (at == std::string_view::npos) {
-      return ::testing::AssertionFailure() << "not found in its place: " << piece << "\nin:\n" << text;
-    }
-    at += piece.size();
-  }
-  return ::testing::AssertionSuccess();
-}
-
 }  // namespace testing_support

@@ -14,7 +14,8 @@ constexpr double kOrdinaryHeight = 2.5;
 double _rowna_wysokosc(double h) {
   if (h <= 0.0) return kOrdinaryHeight;
   if (h > _ROWNE_WYSOKOSCI.back()) {
-    if (std::isinf(h)) throw OverflowError("the label height is infinite: a coordinate of the file is infinite");
+    if (std::isinf(h))
+      throw OverflowError("the label height is infinite: coordinates of the file are infinite or too far apart");
     return std::nearbyint(h / 10.0) * 10.0;  // the default rounding mode takes halves to the even neighbour
   }
   double nearest = _ROWNE_WYSOKOSCI.front();
