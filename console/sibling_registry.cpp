@@ -2,13 +2,13 @@
 
 #include <utility>
 
+#include "console/texts/texts.h"
 #include "siblings/vexo_boot/boot.h"
 #include "siblings/vexo_boot/log_file.h"
 #include "siblings/vexo_cad_core/cad_core.h"
 #include "siblings/vexo_reaktywne_core/reaktywne_core.h"
 #include "siblings/vexo_rynek/rynek.h"
 #include "siblings/vexo_stereo70/stereo70.h"
-#include "siblings/vexo_teksty/teksty.h"
 #include "siblings/vexo_xyz_dane_DE/dane.h"
 #include "siblings/vexo_xyz_dane_PL/dane.h"
 #include "siblings/vexo_xyz_dane_RO/dane.h"
@@ -32,8 +32,7 @@ std::shared_ptr<vexo_xyz_impl::host::SiblingModule> SiblingRegistry::load(std::s
 SiblingRegistry family(Database& database, const Choice& choice) {
   SiblingRegistry registry;
   auto market = std::make_shared<vexo_rynek::Market>(choice.market);
-  const auto& language = vexo_teksty::language_of(choice.language.empty() ? market->rynek() : choice.language);
-  registry.add("vexo_teksty", std::make_shared<vexo_teksty::Catalogue>(language.entries));
+  registry.add("vexo_teksty", texts_in(choice.language.empty() ? market->rynek() : choice.language));
   registry.add("vexo_rynek", std::move(market));
   registry.add("vexo_xyz_dane_PL", std::make_shared<vexo_xyz_dane::Tables>(vexo_xyz_dane_PL::tables()));
   registry.add("vexo_xyz_dane_DE", std::make_shared<vexo_xyz_dane::Tables>(vexo_xyz_dane_DE::tables()));

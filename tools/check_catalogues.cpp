@@ -1,9 +1,11 @@
 // Holds every catalogue against the list of keys; the build runs it and fails with what it finds.
 #include <cstdio>
 #include <set>
+#include <span>
 #include <string>
 #include <vector>
 
+#include "console/texts/texts.h"
 #include "siblings/vexo_teksty/keys.h"
 #include "siblings/vexo_teksty/teksty.h"
 #include "vexo_xyz_impl/messages.h"
@@ -23,14 +25,20 @@ std::vector<vexo_xyz_impl::TemplateValue> values_of(const Key& key) {
   return values;
 }
 
-int check_entries(const vexo_teksty::Language& language, const vexo_teksty::Catalogue& catalogue) {
+void tell(std::string_view language, std::string_view key, const char* fault) {
+  std::fprintf(stderr, "catalogue %s: %s: %s\n", std::string(language).c_str(), std::string(key).c_str(), fault);
+}
+
+// Holds a language's entries against the list of keys; how many faults there are, each told.
+int check_entries(std::string_view language, std::span<const vexo_teksty::Entry> entries, std::span<const Key> keys) {
   int faults = 0;
+  const vexo_teksty::Catalogue catalogue(entries);
   const auto report = [&](std::string_view key, const char* fault) {
-    std::fprintf(stderr, "catalogue %s: %s: %s\n", std::string(language.code).c_str(), std::string(key).c_str(), fault);
+    tell(language, key, fault);
     ++faults;
   };
   std::set<std::string_view> known;
-  for (const Key& key : vexo_teksty::kKeys) {
+  for (const Key& key : keys) {
     known.insert(key.name);
     const std::string text = catalogue.T(key.name);
     if (text == key.name || text.empty()) {
@@ -41,10 +49,21 @@ int check_entries(const vexo_teksty::Language& language, const vexo_teksty::Cata
     if (!vexo_xyz_impl::text::is_valid(text)) report(key.name, "is not UTF-8");
   }
   std::set<std::string_view> seen;
-  for (const auto& [key, text] : language.entries) {
+  for (const auto& [key, text] : entries) {
     if (!known.contains(key)) report(key, "is no known key");
     if (!seen.insert(key).second) report(key, "stands twice");
   }
+  return faults;
+}
+
+// Answers to one question must be told apart by their first letters and be typed as one word.
+int check_questions(const vexo_teksty::Language& language) {
+  int faults = 0;
+  const vexo_teksty::Catalogue catalogue(language.entries);
+  const auto report = [&](std::string_view key, const char* fault) {
+    tell(language.code, key, fault);
+    ++faults;
+  };
   for (const auto& question : vexo_teksty::kQuestions) {
     std::set<char> first_letters;
     for (const std::string_view key : question) {
@@ -64,7 +83,9 @@ int check_entries(const vexo_teksty::Language& language, const vexo_teksty::Cata
 int main() {
   int faults = 0;
   for (const vexo_teksty::Language& language : vexo_teksty::languages()) {
-    faults += check_entries(language, vexo_teksty::Catalogue(language.entries));
+    faults += check_entries(language.code, language.entries, vexo_teksty::kKeys);
+    faults += check_entries(language.code, console::own_entries(language.code), console::kKeys);
+    faults += check_questions(language);
   }
   return faults == 0 ? 0 : 1;
 }

@@ -74,15 +74,6 @@ inline constexpr auto kKeys = std::to_array<Key>({
     {"xyz.z_wczytuje", ""},
     {"xyz.zero_wierszy", ""},
     {"xyz.zoom_hint", ""},
-    {"konsola.blad_zapisu", "ss"},  // path, reason
-    {"konsola.nie_zapisano", ""},
-    {"konsola.niejasne_slowo", "ss"},  // answer, words
-    {"konsola.odrzucone", "d"},        // objects refused
-    {"konsola.opcja_zbedna", "s"},     // option
-    {"konsola.plik_istnieje", "s"},    // path
-    {"konsola.plik_zrodlowy", "s"},    // path
-    {"konsola.zapisano", "s"},         // path
-    {"konsola.zle_slowo", "ss"},       // answer, words
 });
 
 /// Keywords of one question each: they differ in their first letters and can be typed as one word.
