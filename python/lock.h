@@ -4,6 +4,9 @@
 // frames, which ends the process. Such a thread sleeps instead until the process is gone.
 #pragma once
 
+#include <memory>
+#include <utility>
+
 #include <Python.h>
 
 namespace scripting {
@@ -31,5 +34,14 @@ class Locked {
  private:
   PyGILState_STATE state_;
 };
+
+/// Makes an object that holds script objects and may be let go of by whoever does not have the lock.
+template <class Object, class... Arguments>
+[[nodiscard]] std::shared_ptr<Object> make_guarded(Arguments&&... arguments) {
+  return {new Object(std::forward<Arguments>(arguments)...), [](Object* object) {
+            const Locked lock;
+            delete object;  // NOLINT(cppcoreguidelines-owning-memory): what a deleter is for
+          }};
+}
 
 }  // namespace scripting

@@ -137,13 +137,13 @@ std::unique_ptr<host::GcDbGroup> Run::newGcDbGroup(std::string_view description,
 // ---- Siblings
 
 std::shared_ptr<host::SiblingModule> Run::load(std::string_view name) {
-  const Locked lock;  // detection asks for its projection while the lock is let go of
+  const Locked lock;  // rows are interpreted while it is let go of
   return calling_script([&]() -> std::shared_ptr<host::SiblingModule> {
     const std::string own(name);
     const py::module_ loaded = py::module_::import(own.c_str());
-    if (name == "vexo_boot") return std::make_shared<ScriptNotices>(loaded);
-    if (name == "vexo_reaktywne_core") return std::make_shared<ScriptReactiveCore>(*this, loaded);
-    if (name == "vexo_stereo70") return std::make_shared<ScriptStereo70>(loaded);
+    if (name == "vexo_boot") return make_guarded<ScriptNotices>(loaded);
+    if (name == "vexo_reaktywne_core") return make_guarded<ScriptReactiveCore>(*this, loaded);
+    if (name == "vexo_stereo70") return make_guarded<ScriptStereo70>(loaded);
     throw vexo_xyz_impl::ImportError("nothing is known of module '" + own + "'");
   });
 }

@@ -35,7 +35,7 @@ json as_json(const std::vector<Candidate>& candidates) {
 
 json as_json(const std::vector<SkippedLine>& skipped) {
   json list = json::array();
-  for (const auto& [row, reason, text] : skipped) list.push_back({row, reason, text});
+  for (const SkippedLine& line : skipped) list.push_back({line.row, reason_text(line), row_text(line.cells)});
   return list;
 }
 

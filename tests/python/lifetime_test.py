@@ -171,6 +171,14 @@ with zipfile.ZipFile("t.xlsx", "w") as archive:
 rows, typ = m._wczytaj("t.xlsx")
 print(json.dumps([len(rows) == 3000, rows[0][0] == text, all(row[0] is rows[0][0] for row in rows)]))
 """,
+    "a text that does not take its values is shown, and told": START + """
+heard, T = [], m.T
+sys.modules["vexo_boot"] = types.SimpleNamespace(zdarzenie=len, blad=lambda name, failure: heard.append(failure))
+sys.modules["vexo_teksty"] = types.SimpleNamespace(T=lambda key: {"xyz.fmt_niejasny": "%s i %s"}.get(key, T(key)))
+importlib.reload(m)
+answers = [m._wykryj_format([["1", "2", "3"]]) == (None, "%s i %s", [["1", "2", "3"]])]
+print(json.dumps([*answers, [type(one) for one in heard] == [ValueError], "xyz.fmt_niejasny" in str(heard[0])]))
+""",
     "no subinterpreter": START + """
 import _xxsubinterpreters
 inner = _xxsubinterpreters.create()
