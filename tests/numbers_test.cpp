@@ -2,16 +2,20 @@
 
 #include <bit>
 #include <chrono>
+#include <climits>
 #include <cmath>
 #include <cstdint>
 #include <limits>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
 
 #include "vexo_xyz_impl/failure.h"
+#include "vexo_xyz_impl/text/printf_template.h"
 
 namespace vexo_xyz_impl {
 namespace {
@@ -110,6 +114,41 @@ TEST(Numbers, TokensThatAreNot) {
   const auto start = std::chrono::steady_clock::now();
   for (int i = 0; i < 10'000; ++i) EXPECT_FALSE(_czy_liczba(text));
   EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(5));
+}
+
+// What a placeholder shows of a value, as the family's scripts show it; nothing where the two disagree.
+TEST(PrintfTemplate, ShowsValuesOrNothing) {
+  using text::TemplateValue;
+  constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
+  const struct {
+    TemplateValue value;
+    std::vector<std::pair<std::string_view, std::optional<std::string>>> shown;
+  } cases[] = {
+      {7LL, {{"%d%%", "7%"}, {"%5i|%%", "    7|%"}, {"%-4u|", "7   |"}, {"%+.3d", "+007"}, {"% 05d", " 0007"}}},
+      {7LL,
+       {{"%s", "7"},
+        {"%f", "7.000000"},
+        {"%.1e", "7.0e+00"},
+        {"%hd%%d", "7%d"},
+        {"%llx", "7"},
+        {"%08.4d", "00000007"}}},
+      {-255LL, {{"%x", "-ff"}, {"%#08X", "-0X000FF"}, {"%#o", "-0o377"}, {"%Lg", "-255"}, {"%c", std::nullopt}}},
+      {380LL, {{"%c", "ż"}, {"%-3c|", "ż  |"}, {"%hhd", "380"}, {"%q", std::nullopt}, {"%*d", std::nullopt}}},
+      {LLONG_MIN, {{"%d", "-9223372036854775808"}, {"%x", "-8000000000000000"}, {"%zd", "-9223372036854775808"}}},
+      {2.5, {{"%.0f", "2"}, {"%08.2f", "00002.50"}, {"%-7.1F|", "2.5    |"}, {"%E", "2.500000E+00"}, {"%s", "2.5"}}},
+      {2.5, {{"%d", std::nullopt}, {"%x", std::nullopt}, {"%c", std::nullopt}, {"%#.0e", "2.e+00"}, {"%+G", "+2.5"}}},
+      {-3.0, {{"%d", "-3"}, {"%s", "-3.0"}, {"%g", "-3"}, {"%.500f", "-3." + std::string(500, '0')}}},
+      {1e300, {{"%d", std::nullopt}, {"%s", "1e+300"}, {"%jg", "1e+300"}, {"%.501f", std::nullopt}}},
+      {kNan, {{"%d", std::nullopt}, {"%+f", "+nan"}, {"%05G", "00NAN"}}},
+      {"żółw"sv, {{"%s", "żółw"}, {"%6s|", "  żółw|"}, {"%-6.2s|", "żó    |"}, {"%05.1s", "    ż"}, {"%ts", "żółw"}}},
+      {"żółw"sv, {{"%d", std::nullopt}, {"%f", std::nullopt}, {"%c", std::nullopt}, {"%.s", ""}, {"%", std::nullopt}}},
+      {"50%d%%"sv,
+       {{"100 %% %s", "100 % 50%d%%"}, {"brak", std::nullopt}, {"%s%s", std::nullopt}, {"%5%%s", std::nullopt}}},
+      {"ą"sv, {{"%3c|", "  ą|"}, {"%y", std::nullopt}, {"%lls", "ą"}, {"%99999999999999999999s", std::nullopt}}},
+  };
+  for (const auto& [value, shown] : cases)
+    for (const auto& [tpl, text] : shown) EXPECT_EQ(text::try_fill(tpl, {value}), text) << tpl;
+  EXPECT_EQ(text::try_fill("%s: %d (%.2f)", {"ą"sv, 3LL, 2.345}), "ą: 3 (2.35)");
 }
 
 }  // namespace
