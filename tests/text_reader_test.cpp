@@ -1,5 +1,6 @@
 #include "vexo_xyz_impl/input/text_reader.h"
 
+#include <cstdlib>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -11,6 +12,8 @@
 
 #include "tests/support/console_host.h"
 #include "vexo_xyz_impl/input/loading.h"
+#include "vexo_xyz_impl/text/local_time.h"
+#include "vexo_xyz_impl/text/utf8.h"
 
 namespace vexo_xyz_impl {
 namespace {
@@ -98,6 +101,22 @@ TEST(TextReader, CellsSurviveAMoveOfTheirTable) {
   EXPECT_EQ(rows_of(second), (Rows{{"A1", "5,5"}}));
 }
 
+// A path is trimmed as well, and its bytes may be no UTF-8: none of them is half a blank.
+TEST(Trim, LeavesWhatIsNoUtf8) {
+  for (const std::string_view path : {"a\x85"sv, "a\xA0"sv, "\x85"sv, "a\x82\xAC\xA0"sv, "\xA0\x85z"sv})
+    EXPECT_EQ(text::trim(" \u3000"s + std::string(path) + "\u00A0\u0085 "), path);
+}
+
+TEST(LocalTime, FollowsAZoneThatChanges) {
+  std::string zones;
+  for (const char* zone : {"AAA-3", "BBB+5"}) {
+    setenv("TZ", zone, 1);
+    zones += text::local_time("%Z");
+  }
+  unsetenv("TZ");
+  EXPECT_EQ(zones, "AAABBB");
+}
+
 TEST(Loading, FileKindByTheFirstBytes) {
   const struct {
     const char* file;
@@ -136,7 +155,7 @@ TEST(Loading, WhatCannotBeReadIsNoFailure) {
   const int both_ends = open(pipe.c_str(), O_RDWR | O_NONBLOCK);
   ASSERT_EQ(write(both_ends, "1 2\n3 4\n", 8), 8);
   for (const std::string& path :
-       {folder + "/missing.csv", folder, file.path() + "/", file.path() + "\0.txt"s, ""s, pipe}) {
+       {folder + "/missing.csv", folder, file.path() + "/", file.path() + "\0.txt"s, ""s, pipe, "/proc/self/mem"s}) {
     SCOPED_TRACE(testing::PrintToString(path));
     EXPECT_EQ(_typ_pliku(path), std::nullopt);
     EXPECT_FALSE(_czytaj_tekst(path));
@@ -144,6 +163,8 @@ TEST(Loading, WhatCannotBeReadIsNoFailure) {
     EXPECT_FALSE(loaded.rows || loaded.typ);
   }
   close(both_ends);
+  // Said to be empty, as a file that grows while it is read is said to be smaller than it is.
+  EXPECT_GT(_czytaj_tekst("/proc/self/status").value().size(), 20U);
 }
 
 }  // namespace

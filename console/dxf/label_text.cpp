@@ -20,7 +20,7 @@ bool is_no_label_character(char32_t c) { return c < 0x20 || (c >= 0x7F && c < 0x
 
 bool needs_encoding(std::string_view label) {
   return std::any_of(label.begin(), label.end(), [](char c) {
-    return c == '%' || c == '^' || c == '\\' || c == '\x7F' || c < ' ';  // char is signed: so is all beyond ASCII
+    return c < ' ' || c > '~' || c == '%' || c == '^' || c == '\\';  // also all beyond ASCII, be char signed or not
   });
 }
 

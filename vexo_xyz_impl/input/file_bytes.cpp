@@ -7,6 +7,8 @@
 #include <memory>
 #include <system_error>
 
+#include "vexo_xyz_impl/text/paths.h"
+
 namespace vexo_xyz_impl {
 namespace {
 
@@ -16,11 +18,23 @@ struct CloseFile {
   void operator()(std::FILE* file) const { std::fclose(file); }  // NOLINT(cppcoreguidelines-owning-memory)
 };
 
+using File = std::unique_ptr<std::FILE, CloseFile>;
+
+File open(const std::filesystem::path& path) {
+#ifdef _WIN32
+  return File(_wfopen(path.c_str(), L"rb"));
+#else
+  return File(std::fopen(path.c_str(), "rb"));
+#endif
+}
+
 std::optional<std::vector<char>> read(const std::string& path, std::size_t expected, std::size_t most) {
   std::error_code ignored;
   // A path with a NUL would open the file named by what stands before it.
-  if (path.find('\0') != std::string::npos || !std::filesystem::is_regular_file(path, ignored)) return std::nullopt;
-  const std::unique_ptr<std::FILE, CloseFile> file(std::fopen(path.c_str(), "rb"));
+  if (path.find('\0') != std::string::npos) return std::nullopt;
+  const std::filesystem::path name = text::path_of(path);
+  if (!std::filesystem::is_regular_file(name, ignored)) return std::nullopt;
+  const File file = open(name);
   if (!file) return std::nullopt;
   std::vector<char> bytes(std::min(expected, most));
   std::size_t filled = 0;
@@ -42,7 +56,7 @@ std::optional<std::vector<char>> first_bytes(const std::string& path, std::size_
 
 std::optional<std::vector<char>> all_bytes(const std::string& path) {
   std::error_code unknown;
-  const auto size = std::filesystem::file_size(path, unknown);
+  const auto size = std::filesystem::file_size(text::path_of(path), unknown);
   // One byte more than the size, so that the end shows without growing.
   const std::size_t expected = unknown ? kBlock : static_cast<std::size_t>(size) + 1;
   return read(path, expected, std::numeric_limits<std::size_t>::max());

@@ -10,6 +10,7 @@
 #include <zip.h>
 
 #include "vexo_xyz_impl/failure.h"
+#include "vexo_xyz_impl/text/paths.h"
 #include "vexo_xyz_impl/text/utf8.h"
 
 namespace vexo_xyz_impl {
@@ -18,6 +19,18 @@ namespace {
 struct CloseMember {
   void operator()(zip_file_t* member) const { zip_fclose(member); }
 };
+
+zip_t* open(const std::filesystem::path& path, zip_error_t& error) {
+#ifdef _WIN32
+  zip_source_t* const source = zip_source_win32w_create(path.c_str(), 0, -1, &error);
+#else
+  zip_source_t* const source = zip_source_file_create(path.c_str(), 0, -1, &error);
+#endif
+  if (source == nullptr) return nullptr;
+  zip_t* const archive = zip_open_from_source(source, ZIP_RDONLY, &error);
+  if (archive == nullptr) zip_source_free(source);
+  return archive;
+}
 
 std::string quoted(std::string_view name) { return "member '" + std::string(name) + "'"; }
 
@@ -61,18 +74,18 @@ Package& Package::operator=(Package&&) noexcept = default;
 Package::~Package() = default;
 
 Package::Package(const std::string& path) {
-  int code = ZIP_ER_OK;
-  archive_.reset(zip_open(path.c_str(), ZIP_RDONLY, &code));
-  if (!archive_) {
-    zip_error_t error;
-    zip_error_init_with_code(&error, code);
-    const std::string reason = zip_error_strerror(&error);
-    zip_error_fini(&error);
-    if (code == ZIP_ER_OPEN || code == ZIP_ER_READ || code == ZIP_ER_NOENT) throw OSError(path + ": " + reason);
-    throw BadZipFile("not a sound workbook (a ZIP package): " + reason);
-  }
+  const std::filesystem::path file = text::path_of(path);
+  zip_error_t error;
+  zip_error_init(&error);
+  archive_.reset(open(file, error));
+  const int code = zip_error_code_zip(&error);
+  const std::string reason = zip_error_strerror(&error);
+  zip_error_fini(&error);
+  if (!archive_ && (code == ZIP_ER_OPEN || code == ZIP_ER_READ || code == ZIP_ER_NOENT))
+    throw OSError(path + ": " + reason);
+  if (!archive_) throw BadZipFile("not a sound workbook (a ZIP package): " + reason);
   std::error_code unknown;
-  size_ = std::filesystem::file_size(path, unknown);
+  size_ = std::filesystem::file_size(file, unknown);
   const zip_int64_t count = zip_get_num_entries(archive_.get(), 0);
   for (zip_int64_t i = 0; i < count; ++i) {
     const auto index = static_cast<zip_uint64_t>(i);

@@ -4,10 +4,11 @@
 #include <array>
 #include <charconv>
 #include <cstddef>
+#include <cstdint>
+#include <cstring>
 #include <limits>
 #include <string>
 #include <system_error>
-#include <utility>
 
 #include "vexo_xyz_impl/failure.h"
 #include "vexo_xyz_impl/text/utf8.h"
@@ -15,116 +16,254 @@
 namespace vexo_xyz_impl {
 namespace {
 
-constexpr std::string_view kNoBreakSpace = "\xC2\xA0";
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
 constexpr bool is_digit(char c) { return c >= '0' && c <= '9'; }
-constexpr char lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
 
-bool is_word(std::string_view text, std::string_view word) {
-  if (text.size() != word.size()) return false;
-  for (std::size_t i = 0; i < word.size(); ++i)
-    if (lower(text[i]) != word[i]) return false;
-  return true;
-}
+// ---- Any token, read character by character up to the first that no number has at its place.
 
-// A literal whose digits are sound but whose value no double holds: infinity when it is too large, zero when too
-// small. The decimal exponent of the first digit that counts tells which.
-double beyond_double(std::string_view unsigned_literal) {
-  const std::size_t exponent_mark = unsigned_literal.find_first_of("eE");
-  const std::string_view digits = unsigned_literal.substr(0, exponent_mark);
-  long long exponent = 0;
-  if (exponent_mark != std::string_view::npos) {
-    std::string_view text = unsigned_literal.substr(exponent_mark + 1);
-    const bool negative = text.starts_with('-');
-    if (text.starts_with('+') || negative) text.remove_prefix(1);
-    if (std::from_chars(text.data(), text.data() + text.size(), exponent).ec != std::errc())
-      return negative ? 0.0 : std::numeric_limits<double>::infinity();
-    // No token is so long that a larger exponent could be made up for by its digits.
-    constexpr long long kDecisive = 1LL << 60U;
-    exponent = std::min(exponent, kDecisive);
-    if (negative) exponent = -exponent;
+constexpr char kWhiteSpace = ' ';  // any but blanks and no-break spaces, which are left out
+constexpr char kEnd = '$';
+constexpr char kOther = '?';
+
+// The characters of a token as its literal has them: without blanks, marks as points, letters small, digits of any
+// script as those of ASCII.
+class Characters {
+ public:
+  explicit Characters(std::string_view tok) : tok_(tok) { advance(); }
+
+  [[nodiscard]] char now() const { return now_; }
+
+  bool advance_over(char c) {
+    if (now_ != c) return false;
+    advance();
+    return true;
   }
-  const auto point = static_cast<long long>(std::min(digits.find('.'), digits.size()));
-  const auto first = static_cast<long long>(std::min(digits.find_first_not_of("0."), digits.size()));
-  return exponent + point - first > 0 ? std::numeric_limits<double>::infinity() : 0.0;
-}
 
-// A literal of ASCII characters, without blanks and underscores around its digits, its decimal mark a point.
-std::optional<double> parse_literal(std::string_view literal) {
-  const bool negative = literal.starts_with('-');
-  if (negative || literal.starts_with('+')) literal.remove_prefix(1);
-  if (literal.empty()) return std::nullopt;
-  double value = 0.0;
-  if (is_digit(literal.front()) || literal.front() == '.') {
-    const char* end = literal.data() + literal.size();
-    const auto [stopped, error] = std::from_chars(literal.data(), end, value);
-    if (stopped != end || error == std::errc::invalid_argument) return std::nullopt;
-    if (error == std::errc::result_out_of_range) value = beyond_double(literal);
-  } else if (is_word(literal, "inf") || is_word(literal, "infinity")) {
-    value = std::numeric_limits<double>::infinity();
-  } else if (is_word(literal, "nan")) {
-    value = std::numeric_limits<double>::quiet_NaN();
-  } else {
-    return std::nullopt;
+  bool advance_over(std::string_view word) {
+    return std::all_of(word.begin(), word.end(), [this](char c) { return advance_over(c); });
   }
-  return negative ? -value : value;
-}
 
-// Takes out single underscores between digits; false when an underscore stands anywhere else.
-bool remove_underscores(std::string& literal) {
-  std::string kept;
-  for (std::size_t i = 0; i < literal.size(); ++i) {
-    if (literal[i] != '_') {
-      kept.push_back(literal[i]);
-    } else if (i == 0 || i + 1 == literal.size() || !is_digit(literal[i - 1]) || !is_digit(literal[i + 1])) {
+  void advance() {
+    while (true) {
+      at_ += bytes_;
+      if (at_ == tok_.size()) {
+        bytes_ = 0;
+        now_ = kEnd;
+        return;
+      }
+      bytes_ = 1;
+      const char c = tok_[at_];
+      if (is_digit(c)) {
+        now_ = c;
+        return;
+      }
+      if (c == ' ') {
+        skip_repetitions();
+      } else if (read_other(c)) {
+        return;
+      }
+    }
+  }
+
+  // Leaves repetitions of the present character out, thousands at a time, and counts them. A text may be nothing else.
+  long long skip_repetitions() {
+    constexpr std::size_t kStep = 12 * 256;  // whole characters, whatever bytes one takes
+    const std::size_t start = at_;
+    while (tok_.size() - at_ >= kStep + bytes_ && std::memcmp(&tok_[at_], &tok_[at_ + bytes_], kStep) == 0)
+      at_ += kStep;
+    return static_cast<long long>((at_ - start) / bytes_);
+  }
+
+ private:
+  // False for what is left out.
+  bool read_other(char c) {
+    const auto code_point = text::decode(tok_, at_);
+    now_ = kOther;
+    if (!code_point) return true;
+    bytes_ = code_point->bytes;
+    if (code_point->value == U'\u00A0') {
+      skip_repetitions();
       return false;
     }
+    if (c == ',') {
+      now_ = '.';
+    } else if ((c >= 'a' && c <= 'z') || std::string_view("+-._").find(c) != std::string_view::npos) {
+      now_ = c;
+    } else if (c >= 'A' && c <= 'Z') {
+      now_ = static_cast<char>(c - 'A' + 'a');
+    } else if (text::is_white_space(code_point->value)) {
+      now_ = kWhiteSpace;
+    } else if (const auto digit = text::digit_value(code_point->value)) {
+      now_ = static_cast<char>('0' + *digit);
+    }
+    return true;
   }
-  literal = std::move(kept);
+
+  std::string_view tok_;
+  std::size_t at_ = 0;
+  std::size_t bytes_ = 0;  // of the present character
+  char now_ = kEnd;
+};
+
+// Gives digits with single underscores between them to `take`; false when an underscore stands elsewhere.
+template <class Take>
+bool read_digits(Characters& characters, Take take) {
+  while (is_digit(characters.now())) {
+    take(characters.now());
+    characters.advance();
+    if (characters.advance_over('_') && !is_digit(characters.now())) return false;
+  }
   return true;
 }
 
-// The general way, for tokens with anything beyond plain ASCII digits, signs, letters, blanks and commas.
-std::optional<double> parse_general(std::string_view tok) {
-  if (!text::is_valid(tok)) return std::nullopt;
-  std::string joined;
-  for (std::size_t at = 0; at < tok.size();) {
-    const bool no_break_space = tok.substr(at).starts_with(kNoBreakSpace);
-    if (!no_break_space && tok[at] != ' ') joined.push_back(tok[at] == ',' ? '.' : tok[at]);
-    at += no_break_space ? kNoBreakSpace.size() : 1;
+// 0.DIGITS times a power of ten.
+class Decimal {
+ public:
+  // Reads digits, a mark among them, and an exponent; false when they are not sound.
+  bool read(Characters& characters) {
+    const auto add_digit = [&](char digit) { add(digit, characters); };
+    if (!read_digits(characters, add_digit)) return false;
+    behind_mark_ = characters.advance_over('.');
+    if (behind_mark_ && !read_digits(characters, add_digit)) return false;
+    return has_digits_ && (!characters.advance_over('e') || read_exponent(characters));
   }
-  const std::string_view trimmed = text::trim(joined);
-  std::string literal;
-  for (std::size_t at = 0; at < trimmed.size();) {
-    const auto code_point = text::decode(trimmed, at);
-    if (!code_point) return std::nullopt;
-    if (code_point->value < 0x80) {
-      literal.push_back(trimmed[at]);
-    } else if (const auto digit = text::digit_value(code_point->value)) {
-      literal.push_back(static_cast<char>('0' + *digit));
+
+  double value() {
+    if (size_ == 0) return 0.0;
+    if (has_rest_) digits_[size_++] = '1';
+    const auto last_exponent = exponent_ - static_cast<long long>(size_);
+    digits_[size_] = 'e';
+    const char* end = std::to_chars(&digits_[size_ + 1], digits_.data() + digits_.size(), last_exponent).ptr;
+    double value = 0.0;
+    const auto error = std::from_chars(digits_.data(), end, value).ec;
+    if (error == std::errc::result_out_of_range) return exponent_ > 0 ? kInfinity : 0.0;
+    return value;
+  }
+
+ private:
+  static constexpr std::size_t kDecisiveDigits = 800;  // what stands behind them tells no more than that it is there
+  static constexpr long long kDecisiveExponent = 1LL << 56U;  // no token has digits enough to make up for it
+
+  void add(char digit, Characters& characters) {
+    has_digits_ = true;
+    const bool leading_zero = size_ == 0 && digit == '0';
+    long long count = 1;
+    if (!leading_zero && size_ < kDecisiveDigits) {
+      digits_[size_++] = digit;
     } else {
-      return std::nullopt;
+      count += characters.skip_repetitions();
+      has_rest_ = has_rest_ || digit != '0';
     }
-    at += code_point->bytes;
+    if (!leading_zero && !behind_mark_) exponent_ += count;
+    if (leading_zero && behind_mark_) exponent_ -= count;
   }
-  if (!remove_underscores(literal)) return std::nullopt;
-  return parse_literal(literal);
+
+  bool read_exponent(Characters& characters) {
+    const bool negative = characters.advance_over('-');
+    if (!negative) characters.advance_over('+');
+    if (!is_digit(characters.now())) return false;
+    long long exponent = 0;
+    const bool sound = read_digits(characters, [&](char digit) {
+      exponent = std::min(10 * exponent + (digit - '0'), kDecisiveExponent);
+      if (exponent == 0 || exponent == kDecisiveExponent) characters.skip_repetitions();
+    });
+    exponent_ += negative ? -exponent : exponent;
+    return sound;
+  }
+
+  // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): only what is written is read
+  std::array<char, kDecisiveDigits + 32> digits_;  // with room for a rest and an exponent
+  std::size_t size_ = 0;
+  bool has_digits_ = false;
+  bool has_rest_ = false;
+  bool behind_mark_ = false;
+  long long exponent_ = 0;
+};
+
+std::optional<double> read_unsigned(Characters& characters) {
+  if (characters.advance_over('n')) {
+    if (!characters.advance_over("an")) return std::nullopt;
+    return std::numeric_limits<double>::quiet_NaN();
+  }
+  if (characters.advance_over('i')) {
+    if (!characters.advance_over("nf")) return std::nullopt;
+    if (characters.now() == 'i' && !characters.advance_over("inity")) return std::nullopt;
+    return kInfinity;
+  }
+  Decimal decimal;
+  if (!decimal.read(characters)) return std::nullopt;
+  return decimal.value();
 }
+
+void skip_white_space(Characters& characters) {
+  while (characters.now() == kWhiteSpace) {
+    characters.skip_repetitions();
+    characters.advance();
+  }
+}
+
+std::optional<double> parse_general(std::string_view tok) {
+  Characters characters(tok);
+  skip_white_space(characters);
+  const bool negative = characters.advance_over('-');
+  if (!negative) characters.advance_over('+');
+  const auto value = read_unsigned(characters);
+  skip_white_space(characters);
+  if (!value || characters.now() != kEnd) return std::nullopt;
+  return negative ? -*value : *value;
+}
+
+// ---- Short tokens of ASCII digits, blanks, a mark and an exponent, which is what most cells hold.
+
+// So few digits and the power of ten behind their mark are exact in a double: one division rounds correctly.
+constexpr std::size_t kExactDigits = 15;
+constexpr std::array kPowersOfTen = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                     1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
 
 }  // namespace
 
 std::optional<double> parse_number(std::string_view tok) {
   std::array<char, 64> literal;  // NOLINT(cppcoreguidelines-pro-type-member-init): only what is written is read
   if (tok.size() > literal.size()) return parse_general(tok);
-  std::size_t size = 0;
+  char* end = literal.data();
+  bool is_signed = false;
+  bool negative = false;
+  bool plain = true;
+  std::uint64_t whole = 0;
+  std::size_t digits = 0;
+  std::size_t marks = 0;
+  std::size_t behind_mark = 0;
   for (const char c : tok) {
-    if (c > ' ' && c != '_') {  // char is signed: bytes beyond ASCII are negative
-      literal[size++] = c == ',' ? '.' : c;
-    } else if (c != ' ') {
+    if (is_digit(c)) {
+      *end++ = c;
+      whole = 10 * whole + static_cast<std::uint64_t>(c - '0');
+      ++digits;
+      behind_mark += marks;
+    } else if (c == ',' || c == '.') {
+      *end++ = '.';
+      ++marks;
+    } else if (c == ' ') {
+      continue;
+    } else if (end == literal.data() && !is_signed && (c == '-' || c == '+')) {
+      is_signed = true;
+      negative = c == '-';
+    } else if (end != literal.data() && c > ' ' && c <= '~' && c != '_') {
+      *end++ = c;
+      plain = false;
+    } else {
       return parse_general(tok);
     }
   }
-  return parse_literal({literal.data(), size});
+  double value = 0.0;
+  if (plain && digits > 0 && digits <= kExactDigits && marks <= 1) {
+    value = static_cast<double>(static_cast<std::int64_t>(whole)) / kPowersOfTen[behind_mark];
+  } else {
+    const auto [stopped, error] = std::from_chars(literal.data(), end, value);
+    if (error == std::errc::result_out_of_range) return parse_general(tok);
+    if (stopped != end || error != std::errc()) return std::nullopt;
+  }
+  return negative ? -value : value;
 }
 
 double _num(std::string_view tok) {

@@ -71,6 +71,18 @@ std::size_t end_of_valid(std::string_view bytes, std::size_t at) {
   }
 }
 
+// The last code point of a text; empty where no valid sequence ends.
+std::optional<CodePoint> last_code_point(std::string_view utf8) {
+  constexpr std::size_t kLongest = 4;
+  for (std::size_t bytes = 1; bytes <= std::min(kLongest, utf8.size()); ++bytes) {
+    const std::size_t at = utf8.size() - bytes;
+    if (is_continuation(byte_at(utf8, at))) continue;
+    const auto code_point = decode(utf8, at);
+    return code_point && code_point->bytes == bytes ? code_point : std::nullopt;
+  }
+  return std::nullopt;
+}
+
 // The valid texts in `bytes`, and what replaces what lies between them.
 template <class Take>
 void for_each_part(std::string_view bytes, Take take) {
@@ -108,12 +120,6 @@ std::optional<CodePoint> decode(std::string_view utf8, std::size_t at) {
   const bool surrogate = value >= 0xD800 && value <= 0xDFFF;
   if (value < smallest || surrogate || value > 0x10FFFF) return std::nullopt;
   return CodePoint{value, bytes};
-}
-
-CodePoint last_code_point(std::string_view utf8) {
-  std::size_t at = utf8.size() - 1;
-  while (at > 0 && is_continuation(byte_at(utf8, at))) --at;
-  return decode(utf8, at).value_or(CodePoint{byte_at(utf8, at), utf8.size() - at});
 }
 
 bool is_valid(std::string_view bytes) { return end_of_valid(bytes, 0) == bytes.size(); }
@@ -179,9 +185,9 @@ std::string_view trim(std::string_view utf8) {
       if (!is_ascii_white_space(last)) break;
       utf8.remove_suffix(1);
     } else {
-      const CodePoint code_point = last_code_point(utf8);
-      if (!is_white_space(code_point.value)) break;
-      utf8.remove_suffix(code_point.bytes);
+      const auto code_point = last_code_point(utf8);
+      if (!code_point || !is_white_space(code_point->value)) break;
+      utf8.remove_suffix(code_point->bytes);
     }
   }
   return utf8;

@@ -23,9 +23,6 @@ struct CodePoint {
 /// values above U+10FFFF are invalid). `at` must lie inside `utf8`.
 [[nodiscard]] std::optional<CodePoint> decode(std::string_view utf8, std::size_t at);
 
-/// The last code point of a non-empty, valid text.
-[[nodiscard]] CodePoint last_code_point(std::string_view utf8);
-
 /// Whether all of `bytes` is valid UTF-8.
 [[nodiscard]] bool is_valid(std::string_view bytes);
 
@@ -48,7 +45,7 @@ void append(std::string& utf8, char32_t code_point);
 /// Bytes of the white-space character that starts at `at`, 0 when none does.
 [[nodiscard]] std::size_t white_space_at(std::string_view utf8, std::size_t at);
 
-/// The text without leading and trailing white space.
+/// The text without leading and trailing white space; bytes that are no UTF-8, as a path may have, stay.
 [[nodiscard]] std::string_view trim(std::string_view utf8);
 
 /// Decimal value 0 to 9 of a digit of any script; empty for anything else.
