@@ -3,13 +3,12 @@
     make_workbooks.py FOLDER
 
 FOLDER/expected.json lists them with their rows, or with the kind of failure and pieces of its text, worked out by hand
-from the patterns that pick a worksheet's cells. FOLDER/samples holds the survey files of tests/data/samples as workbooks.
+from the patterns that pick a worksheet's cells.
 """
 import io
 import json
 import pathlib
 import random
-import re
 import struct
 import sys
 import warnings
@@ -195,27 +194,13 @@ PACKAGES = {  # a package and its rows; or None, the kind of failure, and pieces
 }
 
 
-def samples(folder):
-    """The survey files, each with its fields as texts and with numbers as a spreadsheet program stores them."""
-    for sample in json.loads((folder / "manifest.json").read_text("utf-8"))["files"]:
-        lines = (folder / sample["file"]).read_bytes().decode(sample["expected"]["decoded_as"]).splitlines()
-        rows = [line.split(";" if ";" in line else None) for line in lines if line.strip()[:1] not in "#/"]
-        for form, number in [("texts", "(?!)"), ("numbers", r"-?\d+([.,]\d+)?")]:
-            yield f"{sample['file']}.{form}", book("".join(row(*(  # an empty field leaves a gap
-                cell(f"{column}1", f"{float(field.replace(',', '.')):.15g}") if re.fullmatch(number, field) else
-                f'<c r="{column}1" t="inlineStr"><is><t>{field}</t></is></c>'
-                for column, field in zip("ABCDEFGH", fields) if field)) for fields in rows))
-
-
 def main(folder):
     books = {name: (book(sheet, THREE), rows) for name, (sheet, rows) in SHEETS.items()}
     books |= {name: (book(row(cells(range(len(made)), "s")), items), [made]) for name, (items, made) in ITEMS.items()}
     books |= {name: (book(sheet, *strings), rows) for name, (sheet, rows, *strings) in FLOODS.items()} | PACKAGES
-    (folder / "samples").mkdir(parents=True, exist_ok=True)
+    folder.mkdir(parents=True, exist_ok=True)
     for name, (data, *_) in books.items():
         (folder / f"{name}.xlsx").write_bytes(data)
-    for name, data in samples(pathlib.Path(__file__).resolve().parents[1] / "tests" / "data" / "samples"):
-        (folder / "samples" / f"{name}.xlsx").write_bytes(data)
     expected = [{"name": name, "rows": rows, "failure": failure} for name, (_, rows, *failure) in books.items()]
     (folder / "expected.json").write_text(json.dumps(expected), "utf-8")
 

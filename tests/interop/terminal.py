@@ -372,4 +372,6 @@ if __name__ == "__main__":
     if len(sys.argv) < 2:
         sys.exit(__doc__)
     Program.program = os.path.abspath(sys.argv[1])
+    for caught in (signal.SIGINT, signal.SIGHUP):  # the program would inherit that they are ignored, as behind nohup
+        signal.signal(caught, signal.SIG_DFL)
     unittest.main(argv=sys.argv[:1] + sys.argv[2:])
