@@ -173,27 +173,7 @@ TEST(Failures, AreDescribedByKindAndText) {
   EXPECT_EQ(described(std::domain_error("")), "RuntimeError: ");
 }
 
-TEST(Messages, AreFilledOrShownAsTheyStand) {
-  const struct {
-    std::string tpl;
-    std::vector<TemplateValue> values;
-    std::optional<std::string> filled;
-  } kCases[] = {
-      {"%s: %d (%.2f)", {std::string_view("ą"), 3LL, 2.345}, "ą: 3 (2.35)"},
-      {"100 %% %s", {std::string_view("50%d%%")}, "100 % 50%d%%"},
-      {"%s", {7LL}, "7"},
-      {"%5d|%-4s|", {7LL, std::string_view("a")}, "    7|a   |"},
-      {"brak", {7LL}, std::nullopt},
-      {"%s %s", {7LL}, std::nullopt},
-      {"%d", {std::string_view("siedem")}, std::nullopt},
-      {"%f", {7LL}, std::nullopt},
-      {"%", {}, std::nullopt},
-      {"%5%", {}, std::nullopt},
-      {"%q", {7LL}, std::nullopt},
-      {"%*d", {7LL}, std::nullopt},
-  };
-  for (const auto& [tpl, values, filled] : kCases) EXPECT_EQ(try_fill(tpl, values), filled) << tpl;
-
+TEST(Messages, AreShownAsTheyStandWhereTheyCannotBeFilled) {
   ConsoleHost host;
   host.siblings.add("vexo_teksty", std::make_unique<OwnTexts>(
                                        std::map<std::string, std::string, std::less<>>{{"xyz.zly", "tylko %d"}}));

@@ -8,15 +8,15 @@
 #include "console/texts/texts.h"
 #include "siblings/vexo_teksty/keys.h"
 #include "siblings/vexo_teksty/teksty.h"
-#include "vexo_xyz_impl/messages.h"
+#include "vexo_xyz_impl/text/printf_template.h"
 #include "vexo_xyz_impl/text/utf8.h"
 
 namespace {
 
 using vexo_teksty::Key;
 
-std::vector<vexo_xyz_impl::TemplateValue> values_of(const Key& key) {
-  std::vector<vexo_xyz_impl::TemplateValue> values;
+std::vector<vexo_xyz_impl::text::TemplateValue> values_of(const Key& key) {
+  std::vector<vexo_xyz_impl::text::TemplateValue> values;
   for (const char kind : key.values) {
     if (kind == 's') values.emplace_back(std::string_view("x"));
     if (kind == 'd') values.emplace_back(1LL);
@@ -43,7 +43,7 @@ int check_entries(std::string_view language, std::span<const vexo_teksty::Entry>
     const std::string text = catalogue.T(key.name);
     if (text == key.name || text.empty()) {
       report(key.name, "has no text");
-    } else if (!vexo_xyz_impl::try_fill(text, values_of(key))) {
+    } else if (!vexo_xyz_impl::text::try_fill(text, values_of(key))) {
       report(key.name, "does not take its values");
     }
     if (!vexo_xyz_impl::text::is_valid(text)) report(key.name, "is not UTF-8");

@@ -5,6 +5,8 @@
 #include <charconv>
 #include <utility>
 
+#include "vexo_xyz_impl/text/ascii.h"
+
 namespace console {
 
 using namespace vexo_xyz_impl::host;  // NOLINT(google-build-using-namespace): the interface that is implemented
@@ -282,8 +284,7 @@ bool Database::keep(GcDbObjectId oid, vexo_reaktywne_core::ControlRecord record)
 std::string handle_text(Handle handle) {
   std::array<char, 16> digits{};
   char* const end = std::to_chars(digits.data(), digits.data() + digits.size(), handle, 16).ptr;
-  std::transform(digits.data(), end, digits.data(),
-                 [](char c) { return c >= 'a' ? static_cast<char>(c - 'a' + 'A') : c; });
+  std::transform(digits.data(), end, digits.data(), vexo_xyz_impl::text::ascii_upper);
   return {digits.data(), end};
 }
 

@@ -4,6 +4,8 @@
 #include <cmath>
 #include <utility>
 
+#include "vexo_xyz_impl/text/ascii.h"
+
 namespace console {
 namespace {
 
@@ -26,8 +28,7 @@ struct IsSound {
 
 std::string lower_case(std::string_view name) {
   std::string lower(name);
-  std::transform(lower.begin(), lower.end(), lower.begin(),
-                 [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
+  std::transform(lower.begin(), lower.end(), lower.begin(), vexo_xyz_impl::text::ascii_lower);
   return lower;
 }
 

@@ -24,7 +24,7 @@ std::string joined(const std::vector<std::string>& words, char separator) {
 std::string prompt_text(const std::vector<std::string>& slowa, std::string_view kl_prompt, std::size_t i_dom) {
   const std::string choice = joined(slowa, '/');
   const std::string& by_default = slowa[i_dom];
-  auto prompt = try_fill(T(kl_prompt), {std::string_view(choice), std::string_view(by_default)});
+  auto prompt = text::try_fill(T(kl_prompt), {std::string_view(choice), std::string_view(by_default)});
   return prompt ? std::move(*prompt) : "\n[" + choice + "] <" + by_default + ">: ";
 }
 

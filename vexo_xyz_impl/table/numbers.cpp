@@ -11,6 +11,7 @@
 #include <system_error>
 
 #include "vexo_xyz_impl/failure.h"
+#include "vexo_xyz_impl/text/ascii.h"
 #include "vexo_xyz_impl/text/utf8.h"
 
 namespace vexo_xyz_impl {
@@ -91,7 +92,7 @@ class Characters {
     } else if ((c >= 'a' && c <= 'z') || std::string_view("+-._").find(c) != std::string_view::npos) {
       now_ = c;
     } else if (c >= 'A' && c <= 'Z') {
-      now_ = static_cast<char>(c - 'A' + 'a');
+      now_ = text::ascii_lower(c);
     } else if (text::is_white_space(code_point->value)) {
       now_ = kWhiteSpace;
     } else if (const auto digit = text::digit_value(code_point->value)) {
