@@ -3,30 +3,37 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <optional>
 #include <system_error>
 
 namespace vexo_boot {
 namespace {
 
-std::optional<std::filesystem::path> state_folder() {
+// Empty when the system names none.
+#ifdef _WIN32
+std::filesystem::path state_folder() {
+  const wchar_t* folder = _wgetenv(L"LOCALAPPDATA");  // in narrow characters it would be in the system's code page
+  return folder == nullptr ? std::filesystem::path() : folder;
+}
+#else
+std::filesystem::path state_folder() {
   const auto variable = [](const char* name) -> std::filesystem::path {
-    const char* value = std::getenv(name);  // NOLINT(concurrency-mt-unsafe): one thread
+    const char* value = std::getenv(name);
     return value == nullptr ? "" : value;
   };
-  if (const auto state = variable("XDG_STATE_HOME"); state.is_absolute()) return state;
+  if (auto state = variable("XDG_STATE_HOME"); state.is_absolute()) return state;
   if (const auto home = variable("HOME"); home.is_absolute()) return home / ".local" / "state";
-  return std::nullopt;
+  return {};
 }
+#endif
 
 }  // namespace
 
 void append_to_log(std::string_view line) {
   const auto state = state_folder();
-  if (!state) return;
+  if (state.empty()) return;
   std::error_code ignored;
-  std::filesystem::create_directories(*state / "vexo-xyz", ignored);
-  std::ofstream(*state / "vexo-xyz" / "log", std::ios::app) << line << '\n';
+  std::filesystem::create_directories(state / "vexo-xyz", ignored);
+  std::ofstream(state / "vexo-xyz" / "log", std::ios::app) << line << '\n';
 }
 
 }  // namespace vexo_boot

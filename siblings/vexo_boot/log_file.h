@@ -1,4 +1,5 @@
-// The program's log: failures, a line each, in the user's state folder (XDG_STATE_HOME, else ~/.local/state).
+// The program's log: failures, a line each, in the user's state folder (XDG_STATE_HOME, else ~/.local/state; on Windows
+// LOCALAPPDATA).
 #pragma once
 
 #include <string_view>
