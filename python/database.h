@@ -24,6 +24,14 @@ inline const pybind11::object& object_of(host::OpenObject& opened) {
   return dynamic_cast<ScriptObject&>(opened).object();
 }
 
+/// What a method of the host's answers with: a status and an object.
+template <class... Arguments>
+host::WithStatus<pybind11::object> answer_of(Run& run, const pybind11::object& object, const char* method,
+                                             Arguments&&... arguments) {
+  const pybind11::tuple answer = object.attr(method)(std::forward<Arguments>(arguments)...);
+  return {run.status(answer[0]), answer[1]};
+}
+
 /// An opened object of the host behind one of the boundary's interfaces.
 template <class Interface>
 class ScriptOpen : public Interface, public ScriptObject {
@@ -45,8 +53,7 @@ class ScriptOpen : public Interface, public ScriptObject {
   /// Calls a method that answers with a status and an object.
   template <class... Arguments>
   host::WithStatus<pybind11::object> call(const char* method, Arguments&&... arguments) const {
-    const pybind11::tuple answer = object_.attr(method)(std::forward<Arguments>(arguments)...);
-    return {run_.status(answer[0]), answer[1]};
+    return answer_of(run_, object_, method, std::forward<Arguments>(arguments)...);
   }
 
  private:
@@ -164,10 +171,8 @@ class ScriptDatabase final : public host::GcDbDatabase, public ScriptObject {
  private:
   template <class Wrapper, class Interface>
   host::WithStatus<std::unique_ptr<Interface>> open(const char* method, host::GcDb::OpenMode mode) {
-    return calling_script([&] {
-      const pybind11::tuple answer = object_.attr(method)(run_.mode(mode));
-      return wrapped<Wrapper, Interface>(run_, {run_.status(answer[0]), answer[1]});
-    });
+    return calling_script(
+        [&] { return wrapped<Wrapper, Interface>(run_, answer_of(run_, object_, method, run_.mode(mode))); });
   }
 
   Run& run_;

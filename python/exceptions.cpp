@@ -1,8 +1,8 @@
 #include "python/exceptions.h"
 
 #include <string>
+#include <string_view>
 
-#include "python/lock.h"
 #include "python/values.h"
 
 namespace scripting {
@@ -29,18 +29,20 @@ py::object class_of(const std::string& kind) {
   return is_exception ? found : py::reinterpret_borrow<py::object>(PyExc_RuntimeError);
 }
 
+void set_as_exception(const std::exception& failure) {
+  const py::object exception = exception_of(failure);
+  PyErr_SetObject(reinterpret_cast<PyObject*>(Py_TYPE(exception.ptr())), exception.ptr());
+}
+
 void translate(std::exception_ptr failure) {  // NOLINT(performance-unnecessary-value-param): as pybind11 wants it
   try {
     if (failure) std::rethrow_exception(failure);
   } catch (Interruption& interruption) {
     interruption.restore();
-  } catch (ScriptFailure& script) {
-    script.restore();
   } catch (const py::cast_error& wrong) {  // a value of the wrong type inside what a script passed
     PyErr_SetString(PyExc_TypeError, wrong.what());
   } catch (const vexo_xyz_impl::Failure& own) {
-    const py::object exception = exception_of(own);
-    PyErr_SetObject(reinterpret_cast<PyObject*>(Py_TYPE(exception.ptr())), exception.ptr());
+    set_as_exception(own);
   }
 }
 
@@ -53,7 +55,9 @@ bool ScriptFailure::is(std::string_view kind) const {
 
 void rethrow(py::error_already_set error) {
   if (!error.matches(PyExc_Exception)) throw Interruption(std::move(error));
-  std::string kind = from_script(error.type().attr("__name__"));
+  // Not by the attribute, which may be a script's.
+  const std::string_view name = reinterpret_cast<PyTypeObject*>(error.type().ptr())->tp_name;
+  std::string kind(name.substr(name.rfind('.') + 1));
   std::string text = text_of(error);
   throw ScriptFailure(std::move(kind), std::move(text), std::move(error));
 }
@@ -83,8 +87,7 @@ void raise_current() {
     } catch (const Interruption&) {
       translate(std::current_exception());
     } catch (const std::exception& failure) {
-      const py::object exception = exception_of(failure);
-      PyErr_SetObject(reinterpret_cast<PyObject*>(Py_TYPE(exception.ptr())), exception.ptr());
+      set_as_exception(failure);
     }
   } catch (...) {
     PyErr_SetString(PyExc_SystemError, "a failure of an unknown kind");

@@ -12,6 +12,7 @@
 
 #include <pybind11/pybind11.h>
 
+#include "python/lock.h"
 #include "vexo_xyz_impl/failure.h"
 
 namespace scripting {
@@ -49,7 +50,7 @@ class Interruption {
 template <class Call>
 auto calling_script(Call call) -> decltype(call()) {
   try {
-    return call();
+    return or_asleep(call);
   } catch (pybind11::error_already_set& error) {
     rethrow(error);
   } catch (const pybind11::cast_error& error) {

@@ -9,8 +9,6 @@ namespace py = pybind11;
 
 namespace {
 
-constexpr const char* kBindingModules[] = {"pygcad.core", "pygcad.core.runtime", "pygcad.pygrx"};  // NOLINT: a list
-
 // What `from module import *` would bring.
 py::list exported_names(const py::module_& module) {
   // NOLINTNEXTLINE(modernize-return-braced-init-list): that would be a list in a list

@@ -4,6 +4,7 @@
 // the later module wins. A name that the host lacks fails with NameError where it is used.
 #pragma once
 
+#include <array>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -12,6 +13,9 @@
 #include <pybind11/pybind11.h>
 
 namespace scripting {
+
+/// The host's modules; on a clash of names the later one wins.
+inline constexpr std::array kBindingModules = {"pygcad.core", "pygcad.core.runtime", "pygcad.pygrx"};
 
 class HostNames {
  public:

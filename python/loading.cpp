@@ -44,7 +44,8 @@ void Loading::own_folder_first() {
 
 std::shared_ptr<host::SiblingModule> Loading::load(std::string_view name) {
   return calling_script([&]() -> std::shared_ptr<host::SiblingModule> {
-    const py::module_ loaded = py::module_::import(std::string(name).c_str());
+    const std::string own(name);
+    const py::module_ loaded = py::module_::import(own.c_str());
     if (name == "vexo_teksty") {
       const py::object T = loaded.attr("T");
       importer_.attr("T") = T;
@@ -60,10 +61,10 @@ std::shared_ptr<host::SiblingModule> Loading::load(std::string_view name) {
       importer_.attr("_il") = py::module_::import("importlib");
       return std::make_shared<ScriptMarketChoice>(importer_, loaded);
     }
-    auto market = std::make_shared<ScriptMarket>(loaded);
+    if (!name.starts_with("vexo_xyz_dane_"))
+      throw vexo_xyz_impl::ImportError("nothing is known of module '" + own + "'");
     importer_.attr("_D") = loaded;
-    module_->market = market;
-    return market;
+    return std::make_shared<ScriptMarket>(loaded);
   });
 }
 

@@ -52,7 +52,7 @@ py::object ScriptMarket::code_of(int number) const {
 py::object ScriptMarket::name_of(const py::object& code) const {
   return calling_script([&]() -> py::object {
     const py::object names = module_.attr("NAZWY");
-    return has(names, code) ? py::object(names[code]) : py::none();
+    return has(names, code) ? py::object(names[code]) : to_script("EPSG:" + from_script(code));
   });
 }
 
@@ -80,13 +80,7 @@ std::vector<int> ScriptMarket::KOLEJNOSC() const {
 
 std::optional<std::string> ScriptMarket::NAZWY(int srid) const {
   const Locked lock;
-  return calling_script([&]() -> std::optional<std::string> {
-    const py::object code = code_of(srid);
-    const py::object name = name_of(code);
-    if (!name.is_none()) return from_script(name);
-    if (srid < 0) return "EPSG:" + from_script(code);  // a number below zero is nobody's code
-    return std::nullopt;
-  });
+  return calling_script([&] { return std::optional(from_script(name_of(code_of(srid)))); });
 }
 
 bool ScriptMarket::ZONE_EXEMPT(int srid) const {

@@ -13,18 +13,17 @@
 namespace scripting {
 
 /// The tables of a data module, asked as they are at each use. Codes are opaque to the importer: whole numbers stand
-/// for themselves, any other hashable code for a number of its own below zero. Every call takes the lock.
+/// for themselves, any other hashable code for a number of its own below zero. The role's calls take the lock, the
+/// others want it held.
 class ScriptMarket final : public vexo_xyz_impl::host::MarketTables {
  public:
   explicit ScriptMarket(pybind11::module_ module) : module_(std::move(module)) {}
-
-  [[nodiscard]] const pybind11::module_& module() const { return module_; }
 
   /// The number that stands for a script's code, and the code that a number stands for.
   [[nodiscard]] int number_of(const pybind11::object& code) const;
   [[nodiscard]] pybind11::object code_of(int number) const;
 
-  /// The name of a script's code, as the very object; none when there is none.
+  /// The name of a script's code, as the very object; "EPSG:" and the code when it has none.
   [[nodiscard]] pybind11::object name_of(const pybind11::object& code) const;
 
   [[nodiscard]] std::optional<vexo_xyz_impl::host::ZoneParameters> UKLADY(int srid) const override;

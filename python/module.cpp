@@ -38,6 +38,7 @@ void set_up(py::module_& m) {
   }
   Loading loading(m, module);
   module->loaded = xyz::bind_siblings(loading);
+  module->market = std::dynamic_pointer_cast<const ScriptMarket>(module->loaded.market);
   define_constants(m);
   define_input_and_table(m, module);
   define_coordinate_systems(m, module);

@@ -204,12 +204,8 @@ void define_coordinate_systems(py::module_& m, const std::shared_ptr<const Scrip
       },
       py::arg("E"), py::arg("N"), py::arg("srid"), "Whether a position is plausible in a system.");
   define(
-      m, "_uklad_nazwa",
-      [module](const py::object& srid) {
-        const py::object name = module->market->name_of(srid);
-        return name.is_none() ? py::object(to_script("EPSG:" + from_script(srid))) : name;
-      },
-      py::arg("srid"), "The system's name, 'EPSG:' and the code when it has none.");
+      m, "_uklad_nazwa", [module](const py::object& srid) { return module->market->name_of(srid); }, py::arg("srid"),
+      "The system's name, 'EPSG:' and the code when it has none.");
   define(
       m, "_wykryj_uklad",
       [module](const py::object& pary) {

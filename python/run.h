@@ -23,8 +23,8 @@ namespace host = vexo_xyz_impl::host;
 /// A loaded module as its functions share it; they, not the module, keep it alive.
 struct ScriptModule {
   HostNames names;
-  std::shared_ptr<const ScriptMarket> market;
   vexo_xyz_impl::Loaded loaded;
+  std::shared_ptr<const ScriptMarket> market;  ///< the same as in `loaded`
 };
 
 class Run final : public host::CommandLine,

@@ -71,6 +71,7 @@ class ScriptNotices final : public host::Notices {
  public:
   explicit ScriptNotices(pybind11::module_ module) : module_(std::move(module)) {}
   void zdarzenie(std::string_view name) override {
+    const Locked lock;
     calling_script([&] { module_.attr("zdarzenie")(to_script(name)); });
   }
   /// A script's own exception is passed as the very object.

@@ -14,7 +14,7 @@ Entered::Entered(Bindings bindings) : bindings_(std::move(bindings)), outer_(inn
 Entered::~Entered() { innermost = outer_; }
 
 const Bindings& bound() {
-  if (innermost == nullptr) throw ImportError("the module has not been loaded into a host");
+  if (innermost == nullptr) throw ImportError("no run has entered the module on this thread");
   return *innermost;
 }
 

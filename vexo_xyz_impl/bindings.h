@@ -2,7 +2,7 @@
 //
 // Operations have fixed names and arguments, so what they work with is not among these: whoever calls one enters the
 // module before, on the thread of the call. Entries nest, for a host's callback may call any operation again, and each
-// thread has its own; nothing of them is shared.
+// thread has its own.
 #pragma once
 
 #include <functional>

@@ -20,7 +20,8 @@ const char* kind_of(const std::exception& failure) {
 
 FailureNote describe(const std::exception& failure) {
   if (const auto* own = dynamic_cast<const Failure*>(&failure)) return {own->kind(), own->what()};
-  return {kind_of(failure), failure.what()};
+  const std::string kind = kind_of(failure);
+  return {kind, kind == "MemoryError" ? "not enough memory" : failure.what()};
 }
 
 }  // namespace vexo_xyz_impl

@@ -3,12 +3,15 @@
 // A label without its style is no reason to lose an import: whatever the host lacks or refuses leaves the text as it
 // is, in silence. Only what is no ordinary error in scripts (KeyboardInterrupt, SystemExit) passes.
 #include <exception>
+#include <ranges>
 #include <stdexcept>
 #include <string>
 #include <utility>
 
 #include <pybind11/pybind11.h>
 
+#include "python/exceptions.h"
+#include "python/host_names.h"
 #include "python/module_start.h"
 #include "siblings/vexo_cad_core/cad_core.h"
 
@@ -16,13 +19,10 @@ namespace {
 
 namespace py = pybind11;
 
-// Where the host's names stand; on a clash the first of these has it.
-constexpr const char* kBindingModules[] = {"pygcad.pygrx", "pygcad.core.runtime", "pygcad.core"};  // NOLINT: a list
-
 template <class Action>
 void ignoring_failures(Action action) {
   try {
-    action();
+    scripting::or_asleep(action);
   } catch (const py::error_already_set& error) {
     if (!error.matches(PyExc_Exception)) throw;
   } catch (const std::exception&) {  // NOLINT(bugprone-empty-catch): an answer of an unexpected shape, a refusal
@@ -30,7 +30,7 @@ void ignoring_failures(Action action) {
 }
 
 py::object host(const char* name) {
-  for (const char* binding : kBindingModules) {
+  for (const char* binding : scripting::kBindingModules | std::views::reverse) {
     py::object module;
     ignoring_failures([&] { module = py::module_::import(binding); });
     if (module && py::hasattr(module, name)) return module.attr(name);

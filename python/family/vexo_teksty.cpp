@@ -6,6 +6,7 @@
 #include <pybind11/pybind11.h>
 
 #include "python/module_start.h"
+#include "python/values.h"
 #include "siblings/vexo_teksty/teksty.h"
 #include "vexo_xyz_impl/text/ascii.h"
 
@@ -34,14 +35,9 @@ std::string language() {
 }
 
 py::str text_of(const vexo_teksty::Catalogue& catalogue, const py::str& key) {
-  Py_ssize_t size = 0;
-  const char* utf8 = PyUnicode_AsUTF8AndSize(key.ptr(), &size);
-  if (utf8 == nullptr) {  // lone surrogates, which stand in no catalogue
-    PyErr_Clear();
-    return key;
-  }
-  const std::string text = catalogue.T({utf8, static_cast<std::size_t>(size)});
-  return {text.data(), text.size()};
+  const std::string own = scripting::from_script(key);
+  const std::string text = catalogue.T(own);
+  return text == own ? key : scripting::to_script(text);
 }
 
 void set_up(py::module_& m) {

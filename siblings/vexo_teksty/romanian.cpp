@@ -21,8 +21,7 @@ constexpr auto kRomanian = [] {
        "Deschideți-l într-un program de calcul tabelar, salvați-l ca .xlsx sau .csv și citiți-l din nou.\n"},
       {"xyz.blad_otworz_plik",
        "\nFișierul nu poate fi deschis: %s\nVerificați dacă există, dacă este un fișier obișnuit și dacă aveți dreptul "
-       "să "
-       "îl citiți.\n"},
+       "să îl citiți.\n"},
       {"xyz.info_skoroszyt", "\nRegistru .xlsx: se citește numai prima foaie.\n"},
 
       // Layout of the columns

@@ -14,12 +14,15 @@ constexpr double kOneSpot = 1e-06;        // metres; an extent that is no larger
 constexpr double kHeightOnOneSpot = 2.5;  // raw label height there
 constexpr double kLabelOffset = 0.6;      // of the label height, to the right of the point and above it
 
-// Appends the entity and closes it; empty when the host refused it.
+// Appends the entity, adds its id to the ids and closes it; the id, empty when the host refused the entity.
 template <class Entity>
-std::optional<host::GcDbObjectId> append_and_close(host::GcDbBlockTableRecord& ms, host::Opened<Entity>& entity) {
+std::optional<host::GcDbObjectId> append_and_close(host::GcDbBlockTableRecord& ms, host::Opened<Entity>& entity,
+                                                   host::GcDbObjectIdArray& oidy) {
   const auto [status, oid] = ms.appendGcDbEntity(*entity);
+  const bool taken = status == host::Gcad::eOk;
+  if (taken) oidy.append(oid);
   entity.finish();
-  return status == host::Gcad::eOk ? std::optional(oid) : std::nullopt;
+  return taken ? std::optional(oid) : std::nullopt;
 }
 
 }  // namespace
@@ -32,21 +35,18 @@ double label_height(std::span<const PointRecord> punkty) {
 }
 
 Inserted insert_points(host::GcDbBlockTableRecord& ms, std::span<const PointRecord> punkty, double txtH) {
-  const auto& [host, loaded] = bound();
+  const Bindings& bindings = bound();
+  host::DatabaseServices& database = bindings.host.database;
   const double off = txtH * kLabelOffset;
   Inserted inserted;
-  inserted.oidy = host.database.newGcDbObjectIdArray();
+  inserted.oidy = database.newGcDbObjectIdArray();
   for (const PointRecord& record : punkty) {
-    host::Opened<host::GcDbPoint> point(host.database.newGcDbPoint({record.x, record.y, record.z}));
-    if (const auto oid = append_and_close(ms, point)) {
-      inserted.oidy->append(*oid);
-      inserted.oidy_punktow.push_back(*oid);
-    }
-    host::Opened<host::GcDbText> label(
-        host.database.newGcDbText({record.x + off, record.y + off, record.z}, record.nr));
-    loaded.style->nadaj_styl_pl(*label);
+    host::Opened<host::GcDbPoint> point(database.newGcDbPoint({record.x, record.y, record.z}));
+    if (const auto oid = append_and_close(ms, point, *inserted.oidy)) inserted.oidy_punktow.push_back(*oid);
+    host::Opened<host::GcDbText> label(database.newGcDbText({record.x + off, record.y + off, record.z}, record.nr));
+    bindings.loaded.style->nadaj_styl_pl(*label);
     label->setHeight(txtH);
-    if (const auto oid = append_and_close(ms, label)) inserted.oidy->append(*oid);
+    append_and_close(ms, label, *inserted.oidy);
     ++inserted.placed;
   }
   return inserted;

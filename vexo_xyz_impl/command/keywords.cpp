@@ -42,9 +42,8 @@ std::optional<std::string_view> _kword(std::span<const std::string_view> symbole
   if (i_dom >= symbole.size()) throw IndexError("a question has no default among its answers");
   std::vector<std::string> slowa;
   std::transform(symbole.begin(), symbole.end(), std::back_inserter(slowa), _slowo);
-  host::CommandLine& host = command_line();
-  host.gcedInitGet(0, joined(slowa, ' '));
-  const auto [rc, kw] = host.gcedGetKword(prompt_text(slowa, kl_prompt, i_dom));
+  command_line().gcedInitGet(0, joined(slowa, ' '));
+  const auto [rc, kw] = command_line().gcedGetKword(prompt_text(slowa, kl_prompt, i_dom));
   if (rc == host::RTNONE) return symbole[i_dom];
   if (rc != host::RTNORM) return std::nullopt;
   const auto found = std::find(slowa.begin(), slowa.end(), kw);

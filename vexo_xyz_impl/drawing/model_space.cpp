@@ -24,7 +24,7 @@ ModelSpace _openModelSpace() {
   host::Opened<host::GcDbBlockTableRecord> ms(std::move(record));
   bt.finish();  // whatever became of model space
   if (record_status != host::Gcad::eOk) return {};
-  return {std::move(ms), db};
+  return {db, std::move(ms)};
 }
 
 void _setPointDisplayVars() {

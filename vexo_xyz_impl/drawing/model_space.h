@@ -10,8 +10,8 @@ namespace vexo_xyz_impl {
 /// Model space opened for writing and the working database; both empty when no drawing is open or model space cannot be
 /// opened.
 struct ModelSpace {
+  std::shared_ptr<host::GcDbDatabase> db;  // before the record, which may refer to it until it is closed
   host::Opened<host::GcDbBlockTableRecord> ms;
-  std::shared_ptr<host::GcDbDatabase> db;
 };
 
 [[nodiscard]] ModelSpace _openModelSpace();

@@ -39,7 +39,6 @@ enum ErrorStatus {
   eInvalidKey,
   eInvalidInput,
   eNullObjectId,
-  eOutOfMemory,
 };
 }  // namespace Gcad
 
@@ -60,7 +59,6 @@ struct GcGePoint3d {
 /// Identity of a database object within one session; 0 is no object.
 struct GcDbObjectId {
   std::uint64_t value = 0;
-  [[nodiscard]] bool isNull() const { return value == 0; }
   friend bool operator==(GcDbObjectId, GcDbObjectId) = default;
 };
 
