@@ -24,12 +24,21 @@ inline const pybind11::object& object_of(host::OpenObject& opened) {
   return dynamic_cast<ScriptObject&>(opened).object();
 }
 
-/// What a method of the host's answers with: a status and an object.
+/// What a method of the host's answers with: a status, and an object that is open when that is eOk.
 template <class... Arguments>
 host::WithStatus<pybind11::object> answer_of(Run& run, const pybind11::object& object, const char* method,
                                              Arguments&&... arguments) {
-  const pybind11::tuple answer = object.attr(method)(std::forward<Arguments>(arguments)...);
-  return {run.status(answer[0]), answer[1]};
+  run.know_statuses();  // before there is anything to lose
+  const pybind11::list answer = items_of(object.attr(method)(std::forward<Arguments>(arguments)...), 2);
+  try {
+    return {run.status(answer[0]), answer[1]};
+  } catch (...) {  // nobody has what was opened, if it was
+    try {
+      answer[1].attr("close")();
+    } catch (const pybind11::error_already_set&) {  // NOLINT(bugprone-empty-catch): the first failure is the one
+    }
+    throw;
+  }
 }
 
 /// An opened object of the host behind one of the boundary's interfaces.

@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "python/lock.h"
 #include "python/values.h"
 
 namespace scripting {

@@ -12,7 +12,6 @@
 
 #include <pybind11/pybind11.h>
 
-#include "python/lock.h"
 #include "vexo_xyz_impl/failure.h"
 
 namespace scripting {
@@ -50,7 +49,7 @@ class Interruption {
 template <class Call>
 auto calling_script(Call call) -> decltype(call()) {
   try {
-    return or_asleep(call);
+    return call();
   } catch (pybind11::error_already_set& error) {
     rethrow(error);
   } catch (const pybind11::cast_error& error) {

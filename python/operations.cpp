@@ -176,8 +176,8 @@ void define_input_and_table(py::module_& m, const std::shared_ptr<const ScriptMo
       },
       py::arg("wiersze"), py::arg("fmt"), "(points as (number, x, y, z), skipped lines as (row, reason, text)).");
   define(
-      m, "_rowna_wysokosc", [](double h) { return xyz::_rowna_wysokosc(h); }, py::arg("h"),
-      "The round text height nearest to a raw one.");
+      m, "_rowna_wysokosc", [](const py::object& h) { return xyz::_rowna_wysokosc(number_from_script(h)); },
+      py::arg("h"), "The round text height nearest to a raw one.");
 }
 
 void define_coordinate_systems(py::module_& m, const std::shared_ptr<const ScriptModule>& module) {
@@ -190,17 +190,17 @@ void define_coordinate_systems(py::module_& m, const std::shared_ptr<const Scrip
       "The rectifying radius in metres and the series' coefficients beta and delta.");
   define(
       m, "_do_geo",
-      [module](double E, double N, const py::object& srid) -> py::object {
+      [module](const py::object& E, const py::object& N, const py::object& srid) -> py::object {
         const auto zone = module->market->UKLADY(module->market->number_of(srid));
-        if (zone) return py::cast(xyz::inverse(*zone, E, N));
+        if (zone) return py::cast(xyz::inverse(*zone, number_from_script(E), number_from_script(N)));
         return py::module_::import("vexo_stereo70").attr("stereo70_do_geo")(E, N);  // the sibling's answer, unchanged
       },
       py::arg("E"), py::arg("N"), py::arg("srid"), "Grid coordinates in metres to (latitude, longitude) in radians.");
   define(
       m, "_sensowny",
-      [module](double E, double N, const py::object& srid) {
+      [module](const py::object& E, const py::object& N, const py::object& srid) {
         const Run run(module);
-        return xyz::_sensowny(E, N, module->market->number_of(srid));
+        return xyz::_sensowny(number_from_script(E), number_from_script(N), module->market->number_of(srid));
       },
       py::arg("E"), py::arg("N"), py::arg("srid"), "Whether a position is plausible in a system.");
   define(

@@ -39,10 +39,16 @@ const py::object& ScriptRows::object_of(Row row) const {
 
 namespace {
 
-// A list that is filled in one pass; every place of it must be set.
+// A list that is filled in one pass, item by item; until it is `filled` no garbage collection shows it to anybody.
 py::list unfilled(std::size_t size) {
   auto list = py::reinterpret_steal<py::list>(PyList_New(static_cast<Py_ssize_t>(size)));
   if (!list) throw py::error_already_set();
+  PyObject_GC_UnTrack(list.ptr());
+  return list;
+}
+
+py::list filled(py::list list) {
+  PyObject_GC_Track(list.ptr());
   return list;
 }
 
@@ -78,9 +84,9 @@ py::list list_of(const vexo_xyz_impl::Table& table) {
     py::list cells = unfilled(row.size());
     std::size_t at = 0;
     for (const Cell cell : row) fill(cells, at++, cell.empty() ? py::object(gap) : texts.of(cell));
-    fill(rows, i, std::move(cells));
+    fill(rows, i, filled(std::move(cells)));
   }
-  return rows;
+  return filled(std::move(rows));
 }
 
 }  // namespace scripting

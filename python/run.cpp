@@ -26,8 +26,12 @@ vexo_xyz_impl::Loaded for_one_run(const vexo_xyz_impl::Loaded& loaded) {
 Run::Run(std::shared_ptr<const ScriptModule> module)
     : module_(std::move(module)), entered_({{*this, *this, *this, this}, for_one_run(module_->loaded)}) {}
 
-host::Gcad::ErrorStatus Run::status(const py::object& status) {
+void Run::know_statuses() {
   if (!ok_) ok_ = name("Gcad").attr("eOk");
+}
+
+host::Gcad::ErrorStatus Run::status(const py::object& status) {
+  know_statuses();
   return status.equal(ok_) ? host::Gcad::eOk : host::Gcad::eInvalidInput;
 }
 
@@ -70,19 +74,22 @@ host::PromptStatus Run::gcedGetFileD(std::string_view title, std::string_view de
 
 std::pair<host::PromptStatus, std::string> Run::gcedGetString(int spaces_allowed, std::string_view prompt) {
   return calling_script([&]() -> std::pair<host::PromptStatus, std::string> {
-    const py::tuple answer = name("gcedGetString")(spaces_allowed, to_script(prompt));
+    const py::list answer = items_of(name("gcedGetString")(spaces_allowed, to_script(prompt)), 2);
     const auto rc = prompt_status(answer[0]);
     return {rc, rc == host::RTNORM ? from_script(answer[1]) : std::string()};
   });
 }
 
 host::PromptStatus Run::gcedInitGet(int flags, std::string_view keywords) {
-  return calling_script([&] { return prompt_status(name("gcedInitGet")(flags, to_script(keywords))); });
+  return calling_script([&] {
+    name("gcedInitGet")(flags, to_script(keywords));
+    return host::RTNORM;  // whatever it answers
+  });
 }
 
 std::pair<host::PromptStatus, std::string> Run::gcedGetKword(std::string_view prompt) {
   return calling_script([&]() -> std::pair<host::PromptStatus, std::string> {
-    const py::tuple answer = name("gcedGetKword")(to_script(prompt));
+    const py::list answer = items_of(name("gcedGetKword")(to_script(prompt)), 2);
     const auto rc = prompt_status(answer[0]);
     return {rc, rc == host::RTNORM ? from_script(answer[1]) : std::string()};
   });
@@ -102,7 +109,8 @@ host::PromptStatus Run::gcedSetVar(std::string_view variable, const host::resbuf
       rb.attr("restype") = name("RTREAL");
       rb.attr("resval").attr("rreal") = value.resval.rreal;
     }
-    return prompt_status(name("gcedSetVar")(to_script(variable), rb));
+    name("gcedSetVar")(to_script(variable), rb);
+    return host::RTNORM;  // whatever it answers
   });
 }
 

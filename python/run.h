@@ -38,6 +38,8 @@ class Run final : public host::CommandLine,
   // ---- What the wrappers of the host's objects need
 
   [[nodiscard]] const pybind11::object& name(std::string_view name) const { return module_->names[name]; }
+  /// Looks up what statuses are judged by.
+  void know_statuses();
   [[nodiscard]] host::Gcad::ErrorStatus status(const pybind11::object& status);
   [[nodiscard]] pybind11::object mode(host::GcDb::OpenMode mode) const;
 

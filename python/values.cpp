@@ -42,15 +42,18 @@ bool truth_of(py::handle value) {
 }
 
 py::list items_of(py::handle sequence, std::size_t count) {
-  auto items = py::reinterpret_steal<py::list>(PySequence_List(sequence.ptr()));
-  if (!items) throw py::error_already_set();
-  const Py_ssize_t found = PyList_GET_SIZE(items.ptr());
-  const auto wanted = static_cast<Py_ssize_t>(count);
-  if (found > wanted) PyErr_Format(PyExc_ValueError, "too many values to unpack (expected %zd)", wanted);
-  if (found < wanted) {
-    PyErr_Format(PyExc_ValueError, "not enough values to unpack (expected %zd, got %zd)", wanted, found);
+  py::list items;
+  for (const py::handle item : py::iter(sequence)) {
+    if (items.size() == count) {
+      PyErr_Format(PyExc_ValueError, "too many values to unpack (expected %zu)", count);
+      throw py::error_already_set();
+    }
+    items.append(item);
   }
-  if (found != wanted) throw py::error_already_set();
+  if (items.size() != count) {
+    PyErr_Format(PyExc_ValueError, "not enough values to unpack (expected %zu, got %zu)", count, items.size());
+    throw py::error_already_set();
+  }
   return items;
 }
 

@@ -10,9 +10,9 @@
 
 #include <pybind11/pybind11.h>
 
-#include "python/exceptions.h"
 #include "python/host_names.h"
 #include "python/module_start.h"
+#include "python/values.h"
 #include "siblings/vexo_cad_core/cad_core.h"
 
 namespace {
@@ -22,7 +22,7 @@ namespace py = pybind11;
 template <class Action>
 void ignoring_failures(Action action) {
   try {
-    scripting::or_asleep(action);
+    action();
   } catch (const py::error_already_set& error) {
     if (!error.matches(PyExc_Exception)) throw;
   } catch (const std::exception&) {  // NOLINT(bugprone-empty-catch): an answer of an unexpected shape, a refusal
@@ -82,9 +82,14 @@ class TextStyles {
 
   // The second of (status, object).
   [[nodiscard]] py::object granted(const py::object& answer) const {
-    auto [status, object] = answer.cast<std::pair<py::object, py::object>>();
-    demand_ok(status);
-    return object;
+    const py::list both = scripting::items_of(answer, 2);
+    try {
+      demand_ok(both[0]);
+    } catch (const py::error_already_set&) {  // a status that cannot be judged: nobody has what was opened, if it was
+      ignoring_failures([&] { both[1].attr("close")(); });
+      throw;
+    }
+    return both[1];
   }
 
   // Setters may as well answer nothing.

@@ -200,6 +200,72 @@ import time
 time.sleep(0.3)
 print(json.dumps([True]))
 """,
+    "a thread inside a script while the interpreter ends": START + """
+import builtins, time
+class Late:  # keeps the interpreter ending while the threads wake up
+    def __del__(self, sleep=time.sleep): sleep(0.5)
+def slowly(*args):
+    while True: time.sleep(0.001)
+class Tables(types.SimpleNamespace):
+    __getitem__ = slowly
+m._D.UKLADY = Tables()
+def inserting():
+    session.thread, session.callback = None, lambda call: call == "GcDbText" and slowly()
+    m.importxyz()
+for work in (inserting, lambda: m._sensowny(1, 2, 1), lambda: m._wykryj_format([["1", "2", "3"]] * 3)):
+    threading.Thread(target=work, daemon=True).start()
+time.sleep(0.3)
+builtins.late = Late()
+print(json.dumps([True]))
+""",
+    "a garbage collection sees no half-made list": START + """
+book = workbook("b.xlsx", 3000)
+gc.callbacks.append(lambda *of: [one[-1] for one in gc.get_objects() if type(one) is list and len(one) == 3000])
+print(json.dumps([len(m._czytaj_xlsx(book)) == 3000]))
+""",
+    "a status that cannot be judged leaves nothing open": START + """
+class Odd:
+    def __eq__(self, other): raise KeyboardInterrupt
+import pygcad.pygrx
+answers = []
+for at in range(8):
+    session.clear()
+    session.file, statuses = points, itertools.count()
+    def judged(method):
+        def call(self, *arguments):
+            status, one = method(self, *arguments)
+            return (Odd() if next(statuses) == at else status), one
+        return call
+    kept = [(kind, name, getattr(kind, name)) for kind, name in (
+        (runtime.GcDbDatabase, "getBlockTable"), (runtime.GcDbBlockTable, "getAt"),
+        (runtime.GcDbDatabase, "getGroupDictionary"), (runtime.GcDbDatabase, "getTextStyleTable"))]
+    for kind, name, method in kept: setattr(kind, name, judged(method))
+    try:
+        m.importxyz()
+        interrupted = False
+    except KeyboardInterrupt:
+        interrupted = True
+    for kind, name, method in kept: setattr(kind, name, method)
+    answers.append(interrupted == (at < next(statuses)) and not session.open)
+print(json.dumps(answers))
+""",
+    "answers of any length and kind": START + """
+import pygcad.pygrx
+def fails(call, kind):
+    try: call()
+    except kind: return True
+class Interrupting:
+    def __float__(self): raise KeyboardInterrupt
+answers = [fails(lambda: m._wykryj_uklad([itertools.count()]), ValueError)]
+answers += [fails(lambda: m._do_geo(Interrupting(), 1, 2178), KeyboardInterrupt)]
+pygcad.pygrx.gcedInitGet = pygcad.pygrx.gcedSetVar = lambda *arguments: None
+pygcad.pygrx.gcedGetString = lambda *arguments: itertools.repeat("a")
+importlib.reload(m)
+m.importxyz()
+session.file = ""
+answers += [len(session.entities) == 6, fails(m.importxyz, ValueError)]
+print(json.dumps(answers))
+""",
     "readers in threads": START + """
 books = [workbook(f"b{i}.xlsx", 3000 + 500 * i) for i in range(4)]
 alone = [m._wczytaj(book) for book in books]

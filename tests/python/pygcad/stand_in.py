@@ -70,6 +70,7 @@ STATUS = "status"  # a way to fail; the other way is an exception to raise
 
 class Session:
     def __init__(self):
+        self.lock = threading.RLock()  # a collection may close something meanwhile
         self.commands, self.thread = {}, threading.get_ident()  # None: commands run on any thread
         self.clear()
 
@@ -171,7 +172,8 @@ class Opening(HostObject):
 
     def __init__(self, key, mode):
         self.key, self.mode, self.is_open = key, mode, True
-        session.open.append(self)
+        with session.lock:
+            session.open.append(self)
 
     def use(self, call):
         if self.is_open is not False:
@@ -183,7 +185,8 @@ class Opening(HostObject):
     @host_call(Gcad.eInvalidInput, acts_first=True)
     def close(self):
         self.is_open = False
-        session.open = [other for other in session.open if other is not self]
+        with session.lock:
+            session.open = [other for other in session.open if other is not self]
         return Gcad.eOk
 
 
