@@ -125,13 +125,7 @@ TEST(PrintfTemplate, ShowsValuesOrNothing) {
     std::vector<std::pair<std::string_view, std::optional<std::string>>> shown;
   } cases[] = {
       {7LL, {{"%d%%", "7%"}, {"%5i|%%", "    7|%"}, {"%-4u|", "7   |"}, {"%+.3d", "+007"}, {"% 05d", " 0007"}}},
-      {7LL,
-       {{"%s", "7"},
-        {"%f", "7.000000"},
-        {"%.1e", "7.0e+00"},
-        {"%hd%%d", "7%d"},
-        {"%llx", "7"},
-        {"%08.4d", "00000007"}}},
+      {7LL, {{"%s", "7"}, {"%f", "7.000000"}, {"%.1e", "7.0e+00"}, {"%hd%%d", "7%d"}, {"%08.4lld", "00000007"}}},
       {-255LL, {{"%x", "-ff"}, {"%#08X", "-0X000FF"}, {"%#o", "-0o377"}, {"%Lg", "-255"}, {"%c", std::nullopt}}},
       {380LL, {{"%c", "ż"}, {"%-3c|", "ż  |"}, {"%hhd", "380"}, {"%q", std::nullopt}, {"%*d", std::nullopt}}},
       {LLONG_MIN, {{"%d", "-9223372036854775808"}, {"%x", "-8000000000000000"}, {"%zd", "-9223372036854775808"}}},
@@ -142,8 +136,8 @@ TEST(PrintfTemplate, ShowsValuesOrNothing) {
       {kNan, {{"%d", std::nullopt}, {"%+f", "+nan"}, {"%05G", "00NAN"}}},
       {"żółw"sv, {{"%s", "żółw"}, {"%6s|", "  żółw|"}, {"%-6.2s|", "żó    |"}, {"%05.1s", "    ż"}, {"%ts", "żółw"}}},
       {"żółw"sv, {{"%d", std::nullopt}, {"%f", std::nullopt}, {"%c", std::nullopt}, {"%.s", ""}, {"%", std::nullopt}}},
-      {"50%d%%"sv,
-       {{"100 %% %s", "100 % 50%d%%"}, {"brak", std::nullopt}, {"%s%s", std::nullopt}, {"%5%%s", std::nullopt}}},
+      {"5%d%%"sv,
+       {{"100 %% %s", "100 % 5%d%%"}, {"brak", std::nullopt}, {"%s%s", std::nullopt}, {"%5%", std::nullopt}}},
       {"ą"sv, {{"%3c|", "  ą|"}, {"%y", std::nullopt}, {"%lls", "ą"}, {"%99999999999999999999s", std::nullopt}}},
   };
   for (const auto& [value, shown] : cases)

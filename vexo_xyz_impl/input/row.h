@@ -43,7 +43,7 @@ class Row {
       if (run_ != nullptr && column_ == run_->end) ++run_;
       return *this;
     }
-    Iterator operator++(int) {
+    Iterator operator++(int) {  // NOLINT(cert-dcl21-cpp): what iterators return
       const Iterator before = *this;
       ++*this;
       return before;
@@ -57,30 +57,27 @@ class Row {
   };
 
   Row() = default;
-  Row(std::span<const Cell> cells) : cells_(cells.data()), size_and_kind_(2 * cells.size()) {}  // NOLINT: a row is one
+  Row(std::span<const Cell> cells) : place_(cells.data()), size_and_kind_(2 * cells.size()) {}
 
   /// Of runs behind each other, each but the first behind a gap; the row ends with the last.
-  explicit Row(std::span<const Run> runs) : runs_(runs.data()), size_and_kind_(2 * runs.back().end + 1) {}
+  explicit Row(std::span<const Run> runs) : place_(runs.data()), size_and_kind_(2 * runs.back().end + 1) {}
 
   [[nodiscard]] std::size_t size() const { return size_and_kind_ / 2; }
   [[nodiscard]] bool empty() const { return size() == 0; }
-  [[nodiscard]] Cell operator[](std::size_t column) const { return has_gaps() ? behind_gaps(column) : cells_[column]; }
-  [[nodiscard]] Iterator begin() const {
-    return has_gaps() ? Iterator(nullptr, runs_, 0) : Iterator(cells_, nullptr, 0);
-  }
+  [[nodiscard]] Cell operator[](std::size_t column) const { return has_gaps() ? behind_gaps(column) : cells()[column]; }
+  [[nodiscard]] Iterator begin() const { return {has_gaps() ? nullptr : cells(), has_gaps() ? runs() : nullptr, 0}; }
   [[nodiscard]] Iterator end() const { return {nullptr, nullptr, size()}; }
 
   /// Where the row's first cell that is no gap is kept, which tells rows apart.
-  [[nodiscard]] const Cell* data() const { return has_gaps() ? runs_->cells : cells_; }
+  [[nodiscard]] const Cell* data() const { return has_gaps() ? runs()->cells : cells(); }
 
  private:
   [[nodiscard]] bool has_gaps() const { return size_and_kind_ % 2 != 0; }
+  [[nodiscard]] const Cell* cells() const { return static_cast<const Cell*>(place_); }
+  [[nodiscard]] const Run* runs() const { return static_cast<const Run*>(place_); }
   [[nodiscard]] Cell behind_gaps(std::size_t column) const;
 
-  union {
-    const Cell* cells_ = nullptr;
-    const Run* runs_;  // when there are gaps
-  };
+  const void* place_ = nullptr;    // of the cells, or of the runs when there are gaps
   std::size_t size_and_kind_ = 0;  // twice the size, and one more when there are gaps
 };
 

@@ -13,7 +13,7 @@ constexpr std::size_t kShortGap = 4;                       // cells; taking note
 }  // namespace
 
 Cell Row::behind_gaps(std::size_t column) const {
-  const Run* run = runs_;
+  const Run* run = runs();
   while (column >= run->end) ++run;
   return column < run->begin ? Cell("") : run->cells[column - run->begin];
 }

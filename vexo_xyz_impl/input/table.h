@@ -49,7 +49,7 @@ class Table {
     if (!columns_.empty()) {
       end_row_with_gaps();
     } else if (!cells_.open().empty()) {
-      rows_.push_back(cells_.close());
+      rows_.emplace_back(cells_.close());
     }
   }
 
