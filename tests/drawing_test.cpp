@@ -106,6 +106,7 @@ TEST(Database, RefusesWhatWouldSpoilTheDrawing) {
   EXPECT_EQ(table->getAt("*Paper_Space", GcDb::kForRead).first, Gcad::eKeyNotFound);
   point->close();
   reader->close();
+  EXPECT_EQ(reader->close(), Gcad::eInvalidInput);  // not the opening of anybody else
   table->close();
   EXPECT_EQ(database.open_count(), 0U);
   EXPECT_EQ(database.drawing().entities().size(), 1U);
