@@ -32,7 +32,7 @@ TEST(Import, SizesLabelsByTheExtentOfThePoints) {
   } kCases[] = {
       {"A;100;200\nB;100;200\n", 2.5},                                 // one spot
       {"A;0;0\nB;1e-6;1e-6\n", 2.5},   {"A;0;0\nB;1.1e-6;0\n", 0.1},   // the least of all heights
-      {"A;0;0\nB;100;60\n", 2.0},                                      // 2 % of the larger extent
+      {"A;0;0\nB;112;60\n", 2.0},                                      // 2 % of the larger extent
       {"A;0;0\nB;10;5000\n", 100.0},   {"A;0;0\nB;10;7750\n", 160.0},  // whole tens above 100
   };
   for (const auto& [content, height] : kCases) {

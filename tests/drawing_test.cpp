@@ -53,6 +53,7 @@ TEST(GroupName, IsFreeOrCarriesTheTime) {
   std::string lower = name;
   lower.back() = 'a';  // names are unique without regard to case
   database.drawing().add(Group{0, lower, "", true, {}});
+  EXPECT_EQ(vexo_xyz_impl::_nazwa_grupy(database, "A.csv"), name + "_2");
   for (int i = 2; i <= 98; ++i) database.drawing().add(Group{0, name + "_" + std::to_string(i), "", true, {}});
   EXPECT_EQ(vexo_xyz_impl::_nazwa_grupy(database, "A.csv"), name + "_99");
   database.drawing().add(Group{0, name + "_99", "", true, {}});
@@ -105,6 +106,7 @@ TEST(Database, RefusesWhatWouldSpoilTheDrawing) {
   EXPECT_EQ(table->getAt("*Paper_Space", GcDb::kForRead).first, Gcad::eKeyNotFound);
   point->close();
   reader->close();
+  EXPECT_EQ(reader->close(), Gcad::eInvalidInput);  // not the opening of anybody else
   table->close();
   EXPECT_EQ(database.open_count(), 0U);
   EXPECT_EQ(database.drawing().entities().size(), 1U);

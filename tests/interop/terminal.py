@@ -218,6 +218,7 @@ class Program(unittest.TestCase):
         forced, unlimited = ["--force", "-o", "rysunek.dxf"], resource.getrlimit(resource.RLIMIT_FSIZE)[0]
         for case, name, content, arguments, limit in [
             ("no such folder", None, None, ["-o", "nie/ma/rysunek.dxf"], unlimited),
+            ("name that is too long", None, None, ["-o", "d" * 300], unlimited),
             ("folder without write permission", "tylko", read_only, ["-o", "tylko/rysunek.dxf"], unlimited),
             ("target is a folder", "rysunek.dxf", os.mkdir, forced, unlimited),
             ("target is a FIFO", "rysunek.dxf", os.mkfifo, forced, unlimited),
