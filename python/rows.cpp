@@ -57,9 +57,9 @@ void fill(const py::list& list, std::size_t at, py::object item) {
 }
 
 // Cells as texts: one object for all that share a text.
-class Texts {
+class CellTexts {
  public:
-  explicit Texts(const vexo_xyz_impl::Table& table) : table_(table) {}
+  explicit CellTexts(const vexo_xyz_impl::Table& table) : table_(table) {}
 
   py::object of(Cell cell) {
     if (!table_.shares(cell)) return to_script(cell);
@@ -76,7 +76,7 @@ class Texts {
 }  // namespace
 
 py::list list_of(const vexo_xyz_impl::Table& table) {
-  Texts texts(table);
+  CellTexts texts(table);
   const py::str gap;
   py::list rows = unfilled(table.size());
   for (std::size_t i = 0; i < table.size(); ++i) {

@@ -164,7 +164,7 @@ TEST(Failures, AreDescribedByKindAndText) {
     return kind + ": " + text;
   };
   EXPECT_EQ(described(BadZipFile("a")), "BadZipFile: a");
-  EXPECT_EQ(described(std::bad_alloc()), "MemoryError: std::bad_alloc");
+  EXPECT_EQ(described(std::bad_alloc()), "MemoryError: not enough memory");
   EXPECT_EQ(described(std::length_error("a")), "MemoryError: a");
   EXPECT_EQ(described(std::system_error(ENOENT, std::generic_category(), "a")),
             "OSError: a: No such file or directory");

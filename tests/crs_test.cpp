@@ -208,19 +208,6 @@ TEST(Detection, NineTenthsOfTheFirstTwoHundredPairs) {
   }
 }
 
-TEST(Detection, OrderedByShareThenByTheMarket) {
-  MarketData market = one_zone();
-  // 53 degrees north are 5 874 620 m from the equator; 7 and 8 count their northings 1 km higher than 9.
-  market.KRAJ_LAT = {52.0, 53.0};
-  for (const int srid : {7, 8, 9}) market.UKLADY[srid] = Zone({21.0, 1.0, 500000.0, srid == 9 ? 0.0 : 1000.0});
-  std::vector<Pair> pary(18, {500000.0, 5.8e6});
-  pary.resize(20, {500000.0, 5875000.0});
-  market.KOLEJNOSC = {9, 8, 7};
-  EXPECT_EQ((Loaded(market), candidates(pary)), "8 7 9(0.9)");
-  market.KOLEJNOSC = {7, 9, 8};
-  EXPECT_EQ((Loaded(market), candidates(pary)), "7 8 9(0.9)");
-}
-
 TEST(Detection, AxesAndNames) {
   ConsoleHost romanian("RO");
   romanian.load();

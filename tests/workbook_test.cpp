@@ -67,19 +67,6 @@ TEST(Workbook, OddOnesAreReadOrRefusedAsTheyMustBe) {
 }
 
 // Readings at the same time share nothing that changes.
-TEST(Workbook, OnesAreReadAtTheSameTime) {
-  const auto reads_alike = [](const std::string& path) {
-    const Rows expected = read(path).rows;
-    for (int i = 0; i < 50; ++i)
-      if (read(path).rows != expected) return false;
-    return true;
-  };
-  const std::string folder = std::string(WORKBOOKS) + "/";
-  auto other = std::async(std::launch::async, reads_alike, folder + "many cells.xlsx");
-  EXPECT_TRUE(reads_alike(folder + "many strings.xlsx"));
-  EXPECT_TRUE(other.get());
-}
-
 TEST(Workbook, CellsThatShareATextAreViewsOfIt) {
   const Table table = _czytaj_xlsx(std::string(WORKBOOKS) + "/attributes.xlsx");  // which has the text and its index
   EXPECT_TRUE(table.shares(table[0][0]) && table.shares(table[1][1]));

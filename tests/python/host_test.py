@@ -222,17 +222,6 @@ class Scripts(HostTest):
                     self.assertEqual(repr(eval(call, known)), repr(expected))  # the types agree, too
         self.assertEqual(session.variables, {"PDMODE": 3, "PDSIZE": -2.0})
 
-    def test_rows_stay_the_script_s_own(self):
-        rows = [["Nr", "X", "Y"], ["P1", "1", "2"], ("P2", 3, 4.5), ["P3", "3"]]
-        before = [sys.getrefcount(row) for row in rows]
-        for _ in range(50):
-            fmt, text, dane = m._wykryj_format(rows)
-            m._rozbierz(rows, fmt), m._pary(rows, 1, 2), m._pierwsza_to_numer(dane), m._liczba_kolumn(rows)
-        self.assertEqual((fmt, text), ("NrXY", m.T("xyz.fmt_3_nrxy")))
-        self.assertEqual([id(row) for row in dane], [id(row) for row in rows[1:3]])
-        del dane
-        self.assertEqual([sys.getrefcount(row) for row in rows], before)
-
     def draw(self, count):
         """Points in model space, drawn by a script with the module's help: the database and the ids."""
         ms, db = m._openModelSpace()
@@ -386,34 +375,6 @@ class Imports(HostTest):
         Boot.notices = []
         del way
         self.check_nothing_is_held()
-
-    def test_a_thousand_imports_leave_nothing_behind(self):
-        ways = [(AXES, math.inf, STATUS), (INDEX_ERROR, math.inf, STATUS), (AXES, 60, Injected("x" * 1000)),
-                (AXES, 30, KeyboardInterrupt())]
-        files = [self.put(f"{i}.txt", content) for i, (content, *_) in enumerate(ways)]
-
-        def resident():
-            gc.collect()
-            return int(pathlib.Path("/proc/self/statm").read_text().split()[1]) * os.sysconf("SC_PAGE_SIZE")
-
-        for number in range(1100):
-            if number == 100:
-                before = resident()
-            session.clear()
-            Boot.notices = []
-            session.file, session.typed = files[number % 4], [""]
-            session.fail(*ways[number % 4][1:])
-            try:
-                m.importxyz()
-            except KeyboardInterrupt as interruption:
-                interruption.__traceback__ = None
-        growth = resident() - before
-        session.clear()
-        Boot.notices = []
-        del ways
-        self.check_nothing_is_held()
-        if "libasan" not in pathlib.Path("/proc/self/maps").read_text():  # which keeps what was freed
-            self.assertLess(growth, 3_000_000)
 
     def test_other_threads_run_while_a_file_is_read(self):
         # Not UTF-8 at its end, so that it is read twice; hardly a row in it, for making rows needs the lock.

@@ -266,15 +266,6 @@ session.file = ""
 answers += [len(session.entities) == 6, fails(m.importxyz, ValueError)]
 print(json.dumps(answers))
 """,
-    "readers in threads": START + """
-books = [workbook(f"b{i}.xlsx", 3000 + 500 * i) for i in range(4)]
-alone = [m._wczytaj(book) for book in books]
-numbers = itertools.count()
-def read():
-    i = next(numbers)
-    return all(m._wczytaj(books[i]) == alone[i] for _ in range(5))
-print(json.dumps(in_threads(4, read)))
-""",
     "a script's projection in threads": """
 import os
 os.environ["VEXO_RYNEK"] = "RO"

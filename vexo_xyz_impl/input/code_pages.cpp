@@ -1,6 +1,8 @@
 #include "vexo_xyz_impl/input/code_pages.h"
 
+#include <algorithm>
 #include <array>
+#include <cstdint>
 #include <string>
 
 #include "vexo_xyz_impl/text/utf8.h"
@@ -24,15 +26,23 @@ constexpr std::array<char16_t, 128> kCp1250 = {
     // clang-format on
 };
 
-// What a byte of either encoding becomes in UTF-8.
-using Expansion = std::array<std::string, 256>;
+// What a byte of either encoding becomes in UTF-8; nothing where it is undefined. Without destructors: a thread of a
+// host may still read while the process ends.
+struct Utf8 {
+  std::array<char, 3> bytes{};
+  std::uint8_t size = 0;
+};
+using Expansion = std::array<Utf8, 256>;
 
 Expansion expansion_of(const std::array<char16_t, 128>* upper_half) {
   Expansion expansion;
   for (std::size_t byte = 0; byte < expansion.size(); ++byte) {
     const bool as_it_is = byte < 0x80 || upper_half == nullptr;
     const char32_t code_point = as_it_is ? static_cast<char32_t>(byte) : (*upper_half)[byte - 0x80];
-    if (as_it_is || code_point != kUndefined) text::append(expansion[byte], code_point);
+    std::string utf8;
+    if (as_it_is || code_point != kUndefined) text::append(utf8, code_point);
+    std::copy(utf8.begin(), utf8.end(), expansion[byte].bytes.begin());
+    expansion[byte].size = static_cast<std::uint8_t>(utf8.size());
   }
   return expansion;
 }
@@ -40,15 +50,15 @@ Expansion expansion_of(const std::array<char16_t, 128>* upper_half) {
 std::optional<std::vector<char>> expand(std::span<const char> bytes, const Expansion& expansion) {
   std::size_t size = 0;
   for (const char byte : bytes) {
-    const std::string& utf8 = expansion[static_cast<unsigned char>(byte)];
-    if (utf8.empty()) return std::nullopt;
-    size += utf8.size();
+    const Utf8& utf8 = expansion[static_cast<unsigned char>(byte)];
+    if (utf8.size == 0) return std::nullopt;
+    size += utf8.size;
   }
   std::vector<char> expanded;
   expanded.reserve(size);
   for (const char byte : bytes) {
-    const std::string& utf8 = expansion[static_cast<unsigned char>(byte)];
-    expanded.insert(expanded.end(), utf8.begin(), utf8.end());
+    const Utf8& utf8 = expansion[static_cast<unsigned char>(byte)];
+    expanded.insert(expanded.end(), utf8.bytes.data(), utf8.bytes.data() + utf8.size);
   }
   return expanded;
 }

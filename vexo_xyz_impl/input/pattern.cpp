@@ -33,19 +33,20 @@ std::uint32_t compile_options(unsigned options) {
 
 }  // namespace
 
-void Pattern::Free::operator()(pcre2_real_code_8* code) const { pcre2_code_free(code); }
 void Matcher::Free::operator()(pcre2_real_match_data_8* data) const { pcre2_match_data_free(data); }
 void Matcher::Free::operator()(pcre2_real_match_context_8* context) const { pcre2_match_context_free(context); }
 
 Pattern::Pattern(std::string_view expression, unsigned options) {
   int error = 0;
   PCRE2_SIZE offset = 0;
-  code_.reset(pcre2_compile(reinterpret_cast<PCRE2_SPTR8>(expression.data()), expression.size(),
-                            compile_options(options), &error, &offset, nullptr));
-  if (!code_ && error == PCRE2_ERROR_HEAP_FAILED) throw MemoryError("not enough memory to compile a pattern");
-  if (!code_) throw ValueError("pattern '" + std::string(expression) + "': " + message_of(error));
+  code_ = pcre2_compile(reinterpret_cast<PCRE2_SPTR8>(expression.data()), expression.size(), compile_options(options),
+                        &error, &offset, nullptr);
+  if (code_ == nullptr && error == PCRE2_ERROR_HEAP_FAILED) {
+    throw MemoryError("not enough memory to compile a pattern");
+  }
+  if (code_ == nullptr) throw ValueError("pattern '" + std::string(expression) + "': " + message_of(error));
   // Where the machine has no just-in-time compiler the pattern is interpreted.
-  has_machine_code_ = pcre2_jit_compile(code_.get(), PCRE2_JIT_COMPLETE) == 0;
+  has_machine_code_ = pcre2_jit_compile(code_, PCRE2_JIT_COMPLETE) == 0;
 }
 
 Matcher::Matcher() : data_(pcre2_match_data_create(kPlaces, nullptr)), context_(pcre2_match_context_create(nullptr)) {
@@ -59,7 +60,7 @@ Matcher::Matcher() : data_(pcre2_match_data_create(kPlaces, nullptr)), context_(
 std::optional<Matcher::Match> Matcher::find(const Pattern& pattern, std::string_view subject, std::size_t from) {
   if (subject.empty()) subject = "";  // machine code takes no null pointer
   auto* const match = pattern.has_machine_code_ ? &pcre2_jit_match : &pcre2_match;
-  const int found = match(pattern.code_.get(), reinterpret_cast<PCRE2_SPTR8>(subject.data()), subject.size(), from, 0,
+  const int found = match(pattern.code_, reinterpret_cast<PCRE2_SPTR8>(subject.data()), subject.size(), from, 0,
                           data_.get(), context_.get());
   if (found == PCRE2_ERROR_NOMATCH) return std::nullopt;
   if (found == PCRE2_ERROR_NOMEMORY || found == PCRE2_ERROR_JIT_STACKLIMIT) {

@@ -1,8 +1,9 @@
 // Regular expressions over bytes, compiled once and run by machine code where the machine has a compiler for it.
 //
-// A pattern holds compiled code only and may be used from several threads at once; whatever matching writes to lies in
-// a `Matcher`, of which each reading makes its own. There is no match limit that a long text could meet: a row of a
-// worksheet may be as long as the worksheet. Groups are views into the subject.
+// A pattern holds compiled code only and may be used from several threads at once, to the very end of the process: its
+// code is never freed. Whatever matching writes to lies in a `Matcher`, of which each reading makes its own. There is
+// no match limit that a long text could meet: a row of a worksheet may be as long as the worksheet. Groups are views
+// into the subject.
 #pragma once
 
 #include <cstddef>
@@ -31,11 +32,7 @@ class Pattern {
  private:
   friend class Matcher;
 
-  struct Free {
-    void operator()(pcre2_real_code_8* code) const;
-  };
-
-  std::unique_ptr<pcre2_real_code_8, Free> code_;
+  pcre2_real_code_8* code_;
   bool has_machine_code_ = false;
 };
 

@@ -12,7 +12,7 @@ namespace vexo_xyz_impl {
 using Cell = std::string_view;
 
 /// Cells beside each other in the columns from `begin` up to `end`, behind a gap or at the row's beginning.
-struct Run {
+struct CellRun {
   std::size_t begin;
   std::size_t end;
   const Cell* cells;
@@ -32,7 +32,7 @@ class Row {
     using reference = Cell;
 
     Iterator() = default;
-    Iterator(const Cell* cells, const Run* run, std::size_t column) : cells_(cells), run_(run), column_(column) {}
+    Iterator(const Cell* cells, const CellRun* run, std::size_t column) : cells_(cells), run_(run), column_(column) {}
 
     Cell operator*() const {
       if (run_ == nullptr) return cells_[column_];
@@ -52,7 +52,7 @@ class Row {
 
    private:
     const Cell* cells_ = nullptr;
-    const Run* run_ = nullptr;
+    const CellRun* run_ = nullptr;
     std::size_t column_ = 0;
   };
 
@@ -60,7 +60,7 @@ class Row {
   Row(std::span<const Cell> cells) : place_(cells.data()), size_and_kind_(2 * cells.size()) {}
 
   /// Of runs behind each other, each but the first behind a gap; the row ends with the last.
-  explicit Row(std::span<const Run> runs) : place_(runs.data()), size_and_kind_(2 * runs.back().end + 1) {}
+  explicit Row(std::span<const CellRun> runs) : place_(runs.data()), size_and_kind_(2 * runs.back().end + 1) {}
 
   [[nodiscard]] std::size_t size() const { return size_and_kind_ / 2; }
   [[nodiscard]] bool empty() const { return size() == 0; }
@@ -74,7 +74,7 @@ class Row {
  private:
   [[nodiscard]] bool has_gaps() const { return size_and_kind_ % 2 != 0; }
   [[nodiscard]] const Cell* cells() const { return static_cast<const Cell*>(place_); }
-  [[nodiscard]] const Run* runs() const { return static_cast<const Run*>(place_); }
+  [[nodiscard]] const CellRun* runs() const { return static_cast<const CellRun*>(place_); }
   [[nodiscard]] Cell behind_gaps(std::size_t column) const;
 
   const void* place_ = nullptr;    // of the cells, or of the runs when there are gaps

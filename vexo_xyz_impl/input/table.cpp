@@ -13,7 +13,7 @@ constexpr std::size_t kShortGap = 4;                       // cells; taking note
 }  // namespace
 
 Cell Row::behind_gaps(std::size_t column) const {
-  const Run* run = runs();
+  const CellRun* run = runs();
   while (column >= run->end) ++run;
   return column < run->begin ? Cell("") : run->cells[column - run->begin];
 }
@@ -72,7 +72,7 @@ void Table::end_row_with_gaps() {
   const bool in_order = std::adjacent_find(columns_.begin(), columns_.end(), std::greater_equal<>()) == columns_.end();
   if (!in_order) sort_by_columns();
   const std::span<const Cell> cells = cells_.close();
-  Run run{0, cells.size() - columns_.size(), cells.data()};
+  CellRun run{0, cells.size() - columns_.size(), cells.data()};
   for (const std::size_t column : columns_) {
     if (column != run.end) {
       if (run.end != 0) runs_.add(run);

@@ -70,7 +70,7 @@ class Table {
   std::vector<std::vector<char>> kept_;     // blocks that `keep` fills
   std::string_view shared_;                 // one of the buffers
   Groups<Cell> cells_;
-  Groups<Run> runs_;
+  Groups<CellRun> runs_;
   std::vector<std::size_t> columns_;  // of the row being made, those of its cells from the first long gap on
   std::vector<Row> rows_;
 };
