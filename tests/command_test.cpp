@@ -11,6 +11,7 @@
 
 #include "console/dialogue/path_completion.h"
 #include "console/dialogue/shown_text.h"
+#include "siblings/vexo_boot/boot.h"
 #include "tests/support/console_host.h"
 #include "vexo_xyz_impl/command/keywords.h"
 #include "vexo_xyz_impl/failure.h"
@@ -171,6 +172,10 @@ TEST(Failures, AreDescribedByKindAndText) {
   EXPECT_EQ(described(std::out_of_range("a")), "IndexError: a");
   EXPECT_EQ(described(std::invalid_argument("a")), "ValueError: a");
   EXPECT_EQ(described(std::domain_error("")), "RuntimeError: ");
+
+  std::string log;
+  vexo_boot::Notices([&log](std::string_view line) { log += line; }).blad("VEXO_XYZ", OSError("a\r\nb"));
+  EXPECT_TRUE(log.ends_with(" VEXO_XYZ OSError: a  b")) << log;
 }
 
 TEST(Messages, AreShownAsTheyStandWhereTheyCannotBeFilled) {

@@ -127,6 +127,7 @@ TEST(Dxf, SpellsLabelsSoThatTheyShowAsTyped) {
       {"a\r\nb\tc", "a  b c"},
       {std::string("a\0b\x7F", 4), "a b "},
       {"a\u0085b%\u2028c", "a b% c"},
+      {"\xB9!", "\uFFFD!"},
   };
   for (const auto& [label, encoded] : kCases) EXPECT_EQ(encoded_label(label), encoded);
 }
