@@ -89,41 +89,6 @@ TEST(Layout, RowsToVerdict) {
   EXPECT_THROW(static_cast<void>(_wykryj_format(label_and_number.rows())), IndexError);
 }
 
-TEST(Points, RowsToPointsAndSkippedLines) {
-  const Host host;
-  // Points as "number x y z", then skipped lines as "row! key of the reason: text".
-  const struct {
-    std::string_view text;
-    Layout fmt;
-    std::string results;
-  } cases[] = {
-      {"", Layout::NrXYZ, ""},
-      {"P7;1 234,5;6 789,0\n01,50;1;2\nnan;3;4", Layout::NrXY, "P7 1234.5 6789 0\n01,50 1 2 0\nnan 3 4 0\n"},
-      {"A 1 2 -3,5 x 9\n1 4 5 6", Layout::NrXYZ, "A 1 2 -3.5\n1 4 5 6\n"},
-      {"1 2 3\n4 5 x", Layout::XY, "1 1 2 0\n2 4 5 0\n"},
-      {"1 2 3\n1 2 -\n4 5 6", Layout::XYZ, "1 1 2 3\n2 4 5 6\n2! naglowek: 1 2 -\n"},
-      {"P1;100,5;200,25", Layout::NrXYZ, "1! za_malo_kolumn(3, 4): P1 100,5 200,25\n"},
-      {"X Y\n1 2\nA x\n3 4\n5", Layout::XY,
-       "1 1 2 0\n2 3 4 0\n1! naglowek: X Y\n3! naglowek: A x\n5! za_malo_kolumn(1, 2): 5\n"},
-      // Cut after 40 characters of one to four bytes; the last may be the blank between two cells.
-      {"zażółć gęślą jaźń \U0001F4CD 234567890 234567890 koniec", Layout::XY,
-       "1! naglowek: zażółć gęślą jaźń \U0001F4CD 234567890 234567890 \n"},
-      {"ąćęłńóśźż0ąćęłńóśźż0ąćęłńóśźż0ąćęłńóśźż0końcówka;b", Layout::XY,
-       "1! naglowek: ąćęłńóśźż0ąćęłńóśźż0ąćęłńóśźż0ąćęłńóśźż0\n"},
-  };
-  for (const auto& [text, fmt, results] : cases) {
-    const Table table = read(text);
-    const Decomposition taken_apart = _rozbierz(table.rows(), fmt);
-    std::ostringstream got;
-    for (const auto& [nr, x, y, z] : taken_apart.punkty) got << nr << ' ' << x << ' ' << y << ' ' << z << '\n';
-    for (const SkippedLine& line : taken_apart.pominiete) {
-      const std::string reason = reason_text(line);
-      got << line.row << "! " << reason.substr(reason.find('_') + 1) << ": " << row_text(line.cells) << '\n';
-    }
-    EXPECT_EQ(got.str(), results) << text;
-  }
-}
-
 TEST(TextHeight, RoundHeights) {
   constexpr double kInfinity = std::numeric_limits<double>::infinity();
   // Pairs of raw and round: the nearest, the smaller of two equally near; whole tens above 100, halves to the even one.

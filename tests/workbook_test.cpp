@@ -2,7 +2,6 @@
 #include <chrono>
 #include <cstdint>
 #include <fstream>
-#include <future>
 #include <optional>
 #include <random>
 #include <string>
@@ -66,7 +65,6 @@ TEST(Workbook, OddOnesAreReadOrRefusedAsTheyMustBe) {
   }
 }
 
-// Readings at the same time share nothing that changes.
 TEST(Workbook, CellsThatShareATextAreViewsOfIt) {
   const Table table = _czytaj_xlsx(std::string(WORKBOOKS) + "/attributes.xlsx");  // which has the text and its index
   EXPECT_TRUE(table.shares(table[0][0]) && table.shares(table[1][1]));

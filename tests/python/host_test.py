@@ -4,7 +4,6 @@
 
 DIST_DIR holds the extension and the family's modules, PROGRAM is the console program.
 """
-import gc
 import itertools
 import json
 import math
@@ -36,7 +35,6 @@ _rowna_wysokosc _openModelSpace _nazwa_grupy _grupuj _oznacz_do_kontroli _setPoi
 AXES = "K1 5590435.97 5588346.40 392.34\nK2 5590429.97 5588342.20 393.60\nK3 5590428 5588334 394\n"  # one question
 COLUMNS = "7 100 200\n9 110 220\n"  # another one
 BOTH = "5590435.97 5588346.40 5590400.5\n5590429.97 5588342.20 5590401.5\n5590428 5588334 5590402.5\n"
-INDEX_ERROR = "1 2\nbaza 100\n3 4\n"
 
 # Scripts for processes that have loaded nothing yet; each prints what it found out as JSON.
 LOAD = """

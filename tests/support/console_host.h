@@ -41,18 +41,10 @@ class TemporaryFile {
   std::filesystem::path path_;
 };
 
-/// Keeps failure notices instead of writing them to the user's log.
-class RecordedNotices final : public vexo_xyz_impl::host::Notices {
- public:
-  explicit RecordedNotices(std::vector<std::string>& lines) : lines_(lines) {}
-  void zdarzenie(std::string_view name) override { lines_.push_back("start " + std::string(name)); }
-  void blad(std::string_view name, const std::exception& failure) override {
-    const auto [kind, text] = vexo_xyz_impl::describe(failure);
-    lines_.push_back(std::string(name) + " " + kind + ": " + text);
-  }
-
- private:
-  std::vector<std::string>& lines_;
+/// Takes failure notices instead of writing them to the user's log.
+class NoNotices final : public vexo_xyz_impl::host::Notices {
+  void zdarzenie(std::string_view /*name*/) override {}
+  void blad(std::string_view /*name*/, const std::exception& /*failure*/) override {}
 };
 
 /// A catalogue made of the pairs given; every other key has no entry.
@@ -76,7 +68,7 @@ class ConsoleHost : public vexo_xyz_impl::host::CommandTable {
         lines(console::lines_of_stream(in, out)),
         dialogue(*lines, out, database.drawing().variables, std::move(file), {}) {
     siblings = console::family(database, {market, "PL"});
-    siblings.add("vexo_boot", std::make_unique<RecordedNotices>(notices));
+    siblings.add("vexo_boot", std::make_shared<NoNotices>());
   }
 
   /// Loads the module and enters it; siblings may be changed before.
@@ -98,7 +90,6 @@ class ConsoleHost : public vexo_xyz_impl::host::CommandTable {
 
   std::istringstream in;
   std::ostringstream out;
-  std::vector<std::string> notices;
   console::Database database;
   std::unique_ptr<console::LineSource> lines;
   console::Dialogue dialogue;
