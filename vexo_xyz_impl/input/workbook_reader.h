@@ -1,6 +1,6 @@
 // Reads the first worksheet of an .xlsx workbook into the table of rows.
 //
-// No XML parser: the few elements that matter are picked from the package's members with the patterns below, which are
+// No XML parser: the few elements that matter are picked from the package's members by patterns (elements.h), which are
 // part of the design. Cells land in the column their reference names, so that an empty cell shifts nothing; the
 // row's own number, formats, merged and hidden cells are ignored; entities stay as written. The first worksheet is the
 // one whose member name sorts first, whatever the order of tabs.

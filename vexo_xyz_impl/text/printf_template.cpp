@@ -96,21 +96,23 @@ std::string sign_of(const Placeholder& placeholder, bool negative) {
   return placeholder.has(' ') ? " " : "";
 }
 
-std::optional<long long> whole_of(const TemplateValue& value) {
+// A whole number, or for a decimal one what a real has before its mark.
+std::optional<long long> whole_of(const TemplateValue& value, bool decimal) {
   if (const auto* whole = std::get_if<long long>(&value)) return *whole;
   const auto* real = std::get_if<double>(&value);
   constexpr double kBeyond = 0x1p63;
-  if (real == nullptr || std::trunc(*real) != *real || std::abs(*real) >= kBeyond) return std::nullopt;
+  if (real == nullptr || !decimal || !(std::abs(*real) < kBeyond)) return std::nullopt;
   return static_cast<long long>(*real);
 }
 
 std::optional<std::string> shown_whole(const Placeholder& placeholder, const TemplateValue& value) {
-  const auto whole = whole_of(value);
+  const char base = placeholder.conversion;
+  const bool decimal = base != 'x' && base != 'X' && base != 'o';
+  const auto whole = whole_of(value, decimal);
   if (!whole) return std::nullopt;
   const bool negative = *whole < 0;
   const auto bits = static_cast<std::uint64_t>(*whole);
   const std::uint64_t magnitude = negative ? 0 - bits : bits;
-  const char base = placeholder.conversion;
   std::string digits = base == 'x'   ? fmt::format("{:x}", magnitude)
                        : base == 'X' ? fmt::format("{:X}", magnitude)
                        : base == 'o' ? fmt::format("{:o}", magnitude)
@@ -118,7 +120,7 @@ std::optional<std::string> shown_whole(const Placeholder& placeholder, const Tem
   const std::size_t precision = placeholder.precision.value_or(0);
   if (digits.size() < precision) digits.insert(0, precision - digits.size(), '0');
   std::string sign = sign_of(placeholder, negative);
-  if (placeholder.has('#') && (base == 'x' || base == 'X' || base == 'o')) sign += {'0', base};
+  if (placeholder.has('#') && !decimal) sign += {'0', base};
   return padded(placeholder, sign, digits, true);
 }
 

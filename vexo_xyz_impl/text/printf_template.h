@@ -1,4 +1,5 @@
-// Templates of message catalogues, filled with values as the family's scripts fill them: by the % operator.
+// Templates of message catalogues, filled with values by the conversions of printf, with the leniency of the family's
+// scripts.
 #pragma once
 
 #include <optional>
@@ -16,9 +17,9 @@ using TemplateValue = std::variant<long long, double, std::string_view>;
 /// them is malformed.
 ///
 /// A placeholder is % with flags (- + blank # 0), width, precision, a length that says nothing (h hh l ll L q j z t)
-/// and a conversion: d i u x X o take a whole number, also as a real; e E f F g G any number; c a code point or a text
-/// of one character; s anything, a real with the fewest digits that tell it. %% is a per-cent sign. Width and precision
-/// of texts count characters and are at most 500; a * for them is malformed.
+/// and a conversion: d i u take a whole number, of a real what stands before its mark, x X o a whole number; e E f F g
+/// G any number; c a code point or a text of one character; s anything, a real with the fewest digits that tell it. %%
+/// is a per-cent sign. Width and precision of texts count characters and are at most 500; a * for them is malformed.
 [[nodiscard]] std::optional<std::string> try_fill(std::string_view tpl, const std::vector<TemplateValue>& values);
 
 }  // namespace vexo_xyz_impl::text
