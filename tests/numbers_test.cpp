@@ -105,7 +105,7 @@ TEST(Numbers, TokensThatAreNot) {
       EXPECT_THROW(static_cast<void>(_num(tok)), ValueError) << testing::PrintToString(tok);
     }
   }
-  for (const char* end : {",", "x", "e", "\t_", "_", "\u3000_", "-"}) {
+  for (const char* end : {",", "x5", "e", "\t_", "_", "\u3000_", "-"}) {
     EXPECT_FALSE(_czy_liczba(times(9000, "7") + "," + times(9000, "7") + end)) << end;
     EXPECT_FALSE(_czy_liczba(times(9000, " ") + times(9000, "\u00A0") + end)) << end;
   }
