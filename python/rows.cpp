@@ -1,10 +1,12 @@
 #include "python/rows.h"
 
 #include <algorithm>
+#include <string>
 #include <unordered_map>
 #include <utility>
 
 #include "python/values.h"
+#include "vexo_xyz_impl/failure.h"
 
 namespace scripting {
 
@@ -38,6 +40,9 @@ const py::object& ScriptRows::object_of(Row row) const {
 }
 
 namespace {
+
+// In all rows together, at 8 bytes each: gaps take memory in lists.
+constexpr std::size_t kMostPlaces = std::size_t{1} << 27U;
 
 // A list that is filled in one pass, item by item; until it is `filled` no garbage collection shows it to anybody.
 py::list unfilled(std::size_t size) {
@@ -76,6 +81,12 @@ class CellTexts {
 }  // namespace
 
 py::list list_of(const vexo_xyz_impl::Table& table) {
+  std::size_t places = 0;
+  for (const Row row : table.rows()) places += row.size();
+  if (places > kMostPlaces) {
+    throw vexo_xyz_impl::MemoryError("as lists, the rows would have " + std::to_string(places) +
+                                     " cells, gaps among them; delete what stands far to the right");
+  }
   CellTexts texts(table);
   const py::str gap;
   py::list rows = unfilled(table.size());
