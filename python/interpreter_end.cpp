@@ -14,7 +14,7 @@ namespace {
 
 // What ends a thread is no object, and the sanitizer minds that it is caught by reference.
 template <class Call>
-[[gnu::no_sanitize("undefined")]] auto or_asleep(Call call) -> decltype(call()) {
+__attribute__((no_sanitize("undefined"))) auto or_asleep(Call call) -> decltype(call()) {
   try {
     return call();
   } catch (const abi::__forced_unwind&) {

@@ -23,9 +23,9 @@ struct PointRecord {
 
 /// A row that gave no point. Of a million of these a few are shown, so their texts are made when they are.
 struct SkippedLine {
-  std::size_t row;           ///< counted from 1 among the rows taken apart
-  Row cells;                 ///< of the table
-  std::size_t cells_needed;  ///< when there are fewer; else 0: where a number is due there is none
+  std::size_t row = 0;           ///< counted from 1 among the rows taken apart
+  Row cells;                     ///< of the table
+  std::size_t cells_needed = 0;  ///< when there are fewer; else 0: where a number is due there is none
 };
 
 /// What `_rozbierz` returns. Moving it keeps the views valid; the table must outlive it.
