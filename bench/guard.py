@@ -1,0 +1,88 @@
+#!/usr/bin/env python3
+"""Holds what an import costs against the figures kept in guard.json: guard.py TREE [--write]
+
+Instructions are counted by callgrind, which a busy machine does not disturb; pages touched and the peak of memory show
+what instructions do not. A figure more than 3 % above the one kept is a failure; --write keeps the new ones.
+"""
+import json
+import os
+import re
+import shutil
+import subprocess
+import sys
+import tempfile
+
+from make_points import survey_lines, write
+from workbook import write_workbook
+
+KEPT = os.path.join(os.path.dirname(os.path.abspath(__file__)), "guard.json")
+ALLOWED = 1.03
+FEW, MANY, LARGE = 1000, 5000, 100_000  # rows
+
+
+def run(command):
+    environment = {**os.environ, "VEXO_RYNEK": "PL", "XDG_STATE_HOME": os.path.dirname(command[-1])}
+    result = subprocess.run(command, stdin=subprocess.DEVNULL, capture_output=True, text=True, env=environment)
+    if result.returncode != 0:
+        sys.exit(f"guard: failed: {' '.join(command)}\n{result.stderr}")
+    return result.stderr
+
+
+def instructions(*command):
+    return int(re.search(r"Collected : (\d+)", run(["valgrind", "--tool=callgrind", "--callgrind-out-file=/dev/null", *command]))[1])
+
+
+def measured(tree, folder):
+    program, reader = os.path.join(tree, "vexo-xyz"), os.path.join(tree, "bench", "read_workbook")
+    drawing = os.path.join(folder, "drawing.dxf")
+
+    def survey(lines):
+        path = os.path.join(folder, f"{lines}.csv")
+        write(path, survey_lines(lines))
+        return [path, "--force", "-o", drawing]
+
+    def workbook(rows):
+        path = os.path.join(folder, f"{rows}.xlsx")
+        write_workbook(path, rows)
+        return [path]
+
+    def a_row(binary, arguments):
+        return (instructions(binary, *arguments(MANY)) - instructions(binary, *arguments(FEW))) // (MANY - FEW)
+
+    pages, kilobytes = run(["/usr/bin/time", "-f", "%R %M", program, *survey(LARGE)]).split()[-2:]
+    return {
+        "instructions a line of text, from file to drawing": a_row(program, survey),
+        "instructions a row of a workbook, reading alone": a_row(reader, workbook),
+        "instructions of a whole run of 40 lines": instructions(program, *survey(40)),
+        f"pages touched, {LARGE:,} lines": int(pages),
+        f"peak memory, {LARGE:,} lines, kB": int(kilobytes),
+    }
+
+
+def main(tree, option=""):
+    if option not in ("", "--write"):
+        sys.exit(__doc__)
+    if shutil.which("valgrind") is None:
+        print("guard: skipped, valgrind is not installed")
+        return
+    with tempfile.TemporaryDirectory() as folder:
+        figures = measured(tree, folder)
+    with open(KEPT, encoding="utf-8") as file:
+        kept = json.load(file)
+    risen = False
+    print("| | kept | now | change |\n|---|---:|---:|---:|")
+    for name, now in figures.items():
+        before = kept.get(name, now)
+        risen |= now > ALLOWED * before
+        print(f"| {name} | {before:,} | {now:,} | {now / before - 1:+.1%}{' **too much**' if now > ALLOWED * before else ''} |")
+    if option == "--write":
+        with open(KEPT, "w", encoding="utf-8") as file:
+            file.write(json.dumps(figures, indent=2) + "\n")
+    elif risen:
+        sys.exit("guard: an import costs more than it did; if it must, keep the new figures: ./dev bench guard --write")
+
+
+if __name__ == "__main__":
+    if len(sys.argv) < 2:
+        sys.exit(__doc__)
+    main(*sys.argv[1:])
