@@ -17,7 +17,7 @@ class Reactors {
   explicit Reactors(const Drawing& drawing) {
     for (const Group& group : drawing.groups())
       for (const Handle member : group.members) pairs_.emplace_back(member, group.handle);
-    std::sort(pairs_.begin(), pairs_.end());
+    if (!std::is_sorted(pairs_.begin(), pairs_.end())) std::sort(pairs_.begin(), pairs_.end());  // the import's are
     next_ = pairs_.begin();
   }
 
