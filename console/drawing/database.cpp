@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <type_traits>
+#include <typeinfo>
 #include <utility>
 
 #include "vexo_xyz_impl/text/ascii.h"
@@ -16,6 +18,14 @@ namespace {
 constexpr Handle kBlockTable = handle_of(Fixed::block_table);
 constexpr Handle kModelSpace = handle_of(Fixed::model_space);
 constexpr Handle kGroupDictionary = handle_of(Fixed::group_dictionary);
+
+// What is passed in as one of the database's own final classes; nullptr when it is another's. Comparing the types is much
+// cheaper than a cast, which looks through all bases.
+template <class Own, class Interface>
+Own* own(Interface& object) {
+  static_assert(std::is_final_v<Own>);
+  return typeid(object) == typeid(Own) ? static_cast<Own*>(&object) : nullptr;
+}
 
 // One opening of an object that the database keeps.
 template <class Interface>
@@ -80,24 +90,14 @@ class OpenNewcomer : public Interface {
   bool open_ = true;
 };
 
-// A new entity, whatever its class.
-class NewEntity {
- public:
-  virtual ~NewEntity() = default;
-  NewEntity() = default;
-  NewEntity(const NewEntity&) = delete;
-  NewEntity& operator=(const NewEntity&) = delete;
-  virtual WithStatus<GcDbObjectId> move_into(Drawing& drawing) = 0;
-};
-
 template <class Interface, class Geometry>
-class OpenEntity : public OpenNewcomer<Interface>, public NewEntity {
+class OpenEntity : public OpenNewcomer<Interface> {
  public:
   OpenEntity(Database& database, Geometry geometry) : OpenNewcomer<Interface>(database) {
     newcomer_.geometry = std::move(geometry);
   }
 
-  WithStatus<GcDbObjectId> move_into(Drawing& drawing) final {
+  WithStatus<GcDbObjectId> move_into(Drawing& drawing) {
     if (!this->is_open() || this->is_resident()) return {Gcad::eInvalidInput, {}};
     const auto handle = drawing.add(std::move(newcomer_));
     if (!handle) {
@@ -164,7 +164,7 @@ class OpenGroup final : public OpenNewcomer<GcDbGroup> {
 
   Gcad::ErrorStatus append(const GcDbObjectIdArray& ids) override {
     if (!is_open()) return Gcad::eNotOpenForWrite;
-    const auto* array = dynamic_cast<const IdArray*>(&ids);
+    const auto* array = own<const IdArray>(ids);
     if (array == nullptr) return Gcad::eInvalidInput;
     const auto& handles = array->handles();
     const Drawing& drawing = database().drawing();
@@ -196,9 +196,10 @@ class OpenModelSpace final : public OpenResident<GcDbBlockTableRecord> {
 
   WithStatus<GcDbObjectId> appendGcDbEntity(GcDbEntity& entity) override {
     if (!writable()) return {Gcad::eNotOpenForWrite, {}};
-    auto* newcomer = dynamic_cast<NewEntity*>(&entity);
-    if (newcomer == nullptr) return {Gcad::eInvalidInput, {}};
-    return newcomer->move_into(database().drawing());
+    Drawing& drawing = database().drawing();
+    if (auto* const point = own<OpenPoint>(entity)) return point->move_into(drawing);
+    if (auto* const text = own<OpenText>(entity)) return text->move_into(drawing);
+    return {Gcad::eInvalidInput, {}};
   }
 };
 
@@ -228,7 +229,7 @@ class OpenGroupDictionary final : public OpenResident<GcDbDictionary> {
 
   WithStatus<GcDbObjectId> setAt(std::string_view name, GcDbGroup& group) override {
     if (!writable()) return {Gcad::eNotOpenForWrite, {}};
-    auto* newcomer = dynamic_cast<OpenGroup*>(&group);
+    auto* newcomer = own<OpenGroup>(group);
     if (newcomer == nullptr) return {Gcad::eInvalidInput, {}};
     return newcomer->move_into(database().drawing(), name);
   }
