@@ -11,29 +11,40 @@
 namespace vexo_xyz_impl {
 namespace {
 
-// Elementary functions that fail where IEEE would go on with a nan or an infinity made from nothing.
+// Elementary functions that fail where IEEE would go on with a nan or an infinity made from nothing. The failures stand
+// apart, which leaves the functions small enough to be expanded in place.
+
+[[noreturn]] void fail_at_zero_scale() {
+  throw ZeroDivisionError("division by zero: the scale k0 of a coordinate system is 0");
+}
+[[noreturn]] void fail_at_infinite_angle() {
+  throw ValueError("the sine or cosine of an infinite angle is not defined");
+}
+[[noreturn]] void fail_at_overflow() { throw OverflowError("a hyperbolic function of the easting overflows"); }
 
 double divide(double a, double b) {
-  if (b == 0.0) throw ZeroDivisionError("division by zero: the scale k0 of a coordinate system is 0");
+  if (b == 0.0) fail_at_zero_scale();
   return a / b;
 }
 
-double finite_angle(double angle) {
-  if (std::isinf(angle)) throw ValueError("the sine or cosine of an infinite angle is not defined");
-  return angle;
+struct SineAndCosine {
+  double sine;
+  double cosine;
+};
+
+// Side by side, so that the compiler makes one call of the two, which costs hardly more than one and has the same bits.
+SineAndCosine circular(double angle) {
+  if (std::isinf(angle)) fail_at_infinite_angle();
+  return {std::sin(angle), std::cos(angle)};
 }
 
-double sine(double angle) { return std::sin(finite_angle(angle)); }
-double cosine(double angle) { return std::cos(finite_angle(angle)); }
-
-double hyperbolic(double (*function)(double), double x) {
-  const double value = function(x);
-  if (std::isinf(value) && !std::isinf(x)) throw OverflowError("a hyperbolic function of the easting overflows");
+double unless_overflown(double value, double x) {
+  if (std::isinf(value) && !std::isinf(x)) fail_at_overflow();
   return value;
 }
 
-double hyperbolic_sine(double x) { return hyperbolic(std::sinh, x); }
-double hyperbolic_cosine(double x) { return hyperbolic(std::cosh, x); }
+double hyperbolic_sine(double x) { return unless_overflown(std::sinh(x), x); }
+double hyperbolic_cosine(double x) { return unless_overflown(std::cosh(x), x); }
 
 // To [-1, 1]; a nan becomes 1.
 double clamp_ratio(double ratio) {
@@ -86,21 +97,19 @@ std::pair<double, double> inverse(const host::ZoneParameters& zone, double E, do
   for (std::size_t j = 1; j <= _BETA.size(); ++j) {
     const double b = _BETA[j - 1];
     const double twice_j = 2.0 * static_cast<double>(j);
-    // The circular function first: where both fail, its kind is the one reported.
-    const double sin_xi = sine(twice_j * xi);
+    // The circular functions first: where both kinds fail, theirs is the one reported.
+    const auto [sin_xi, cos_xi] = circular(twice_j * xi);
     xi_prime -= b * sin_xi * hyperbolic_cosine(twice_j * eta);
-    const double cos_xi = cosine(twice_j * xi);
     eta_prime -= b * cos_xi * hyperbolic_sine(twice_j * eta);
   }
 
-  const double sin_xi_prime = sine(xi_prime);
+  const auto [sin_xi_prime, cos_xi_prime] = circular(xi_prime);
   const double chi = std::asin(clamp_ratio(sin_xi_prime / hyperbolic_cosine(eta_prime)));
   double lat = chi;
   for (std::size_t j = 1; j <= _DELTA.size(); ++j) {
-    lat += _DELTA[j - 1] * sine(2.0 * static_cast<double>(j) * chi);
+    lat += _DELTA[j - 1] * std::sin(2.0 * static_cast<double>(j) * chi);  // an asin is finite
   }
-  const double sinh_eta_prime = hyperbolic_sine(eta_prime);
-  const double lon = radians(lon0) + std::atan2(sinh_eta_prime, cosine(xi_prime));
+  const double lon = radians(lon0) + std::atan2(hyperbolic_sine(eta_prime), cos_xi_prime);
   return {lat, lon};
 }
 
