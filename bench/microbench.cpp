@@ -270,7 +270,7 @@ console::Drawing grouped_drawing() {
   console::Group group{.handle = 0, .name = "PIKIETY", .description = "", .selectable = true, .members = {}};
   std::size_t count = 0;
   for (const auto& [point, label] : positions()) {
-    const auto add = [&](auto geometry) { group.members.push_back(drawing.add(console::Entity{0, geometry}).value()); };
+    const auto add = [&](auto geometry) { group.members.push_back(drawing.add(geometry).value()); };
     add(console::PointGeometry{point});
     add(console::TextGeometry{label, kLabelHeight, style, std::to_string(++count)});
   }

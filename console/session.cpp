@@ -63,14 +63,14 @@ ExitCode Session::run() {
   const CommandOutcome outcome = import_();
   for (const std::string_view option : dialogue_.unused_options()) say("konsola.opcja_zbedna", {std::string(option)});
   if (outcome == CommandOutcome::failed) {
-    if (!database_.drawing().entities().empty()) say("konsola.nie_zapisano", {});
+    if (database_.drawing().entity_count() > 0) say("konsola.nie_zapisano", {});
     return kFailure;
   }
   if (database_.refused_count() > 0) {
     dialogue_.gcutPrintf(
         vexo_xyz_impl::filled("konsola.odrzucone", {static_cast<long long>(database_.refused_count())}));
   }
-  return database_.drawing().entities().empty() ? kNothingImported : save();
+  return database_.drawing().entity_count() == 0 ? kNothingImported : save();
 }
 
 ExitCode Session::save() {

@@ -82,10 +82,9 @@ TEST(Import, SaysWhyPointsAreNotControlled) {
     EXPECT_EQ(host.import(), CommandOutcome::done);
     EXPECT_NE(host.out.str().find(said), std::string::npos) << host.out.str();
     const auto& drawing = host.database.drawing();
-    for (const console::Entity& entity : drawing.entities()) {
-      const bool is_point = std::holds_alternative<console::PointGeometry>(entity.geometry);
-      ASSERT_EQ(drawing.control_record(entity.handle) != nullptr, marked && is_point);
-    }
+    drawing.for_each_entity([&](console::Handle handle, const auto&) {
+      EXPECT_EQ(drawing.control_record(handle) != nullptr, marked && drawing.point(handle) != nullptr);
+    });
     EXPECT_EQ(host.database.open_count(), 0U);
   }
 }

@@ -97,7 +97,7 @@ TEST(Database, RefusesWhatWouldSpoilTheDrawing) {
   text->setHeight(5.0);                                               // open until closed, now in the drawing
   text->close();
   EXPECT_EQ(text->setHeight(7.5), Gcad::eNotOpenForWrite);
-  EXPECT_EQ(std::get<TextGeometry>(database.drawing().entity(id.value)->geometry).height, 5.0);
+  EXPECT_EQ(database.drawing().text(id.value)->height, 5.0);
 
   ms->close();
   auto table = database.getBlockTable(GcDb::kForRead).second;
@@ -111,7 +111,7 @@ TEST(Database, RefusesWhatWouldSpoilTheDrawing) {
   EXPECT_EQ(reader->close(), Gcad::eInvalidInput);  // not the opening of anybody else
   table->close();
   EXPECT_EQ(database.open_count(), 0U);
-  EXPECT_EQ(database.drawing().entities().size(), 1U);
+  EXPECT_EQ(database.drawing().entity_count(), 1U);
 }
 
 TEST(Dxf, SpellsLabelsSoThatTheyShowAsTyped) {

@@ -19,8 +19,8 @@ constexpr Handle kBlockTable = handle_of(Fixed::block_table);
 constexpr Handle kModelSpace = handle_of(Fixed::model_space);
 constexpr Handle kGroupDictionary = handle_of(Fixed::group_dictionary);
 
-// What is passed in as one of the database's own final classes; nullptr when it is another's. Comparing the types is much
-// cheaper than a cast, which looks through all bases.
+// What is passed in as one of the database's own final classes; nullptr when it is another's. Comparing the types is
+// much cheaper than a cast, which looks through all bases.
 template <class Own, class Interface>
 Own* own(Interface& object) {
   static_assert(std::is_final_v<Own>);
@@ -93,13 +93,11 @@ class OpenNewcomer : public Interface {
 template <class Interface, class Geometry>
 class OpenEntity : public OpenNewcomer<Interface> {
  public:
-  OpenEntity(Database& database, Geometry geometry) : OpenNewcomer<Interface>(database) {
-    newcomer_.geometry = std::move(geometry);
-  }
+  OpenEntity(Database& database, const Geometry& geometry) : OpenNewcomer<Interface>(database), newcomer_(geometry) {}
 
   WithStatus<GcDbObjectId> move_into(Drawing& drawing) {
     if (!this->is_open() || this->is_resident()) return {Gcad::eInvalidInput, {}};
-    const auto handle = drawing.add(std::move(newcomer_));
+    const auto handle = drawing.add(newcomer_);
     if (!handle) {
       this->database().entity_refused();
       return {Gcad::eInvalidInput, {}};
@@ -109,14 +107,10 @@ class OpenEntity : public OpenNewcomer<Interface> {
   }
 
  protected:
-  // Where the geometry is now: with the maker or in the drawing.
-  Geometry& geometry() {
-    Entity& entity = this->is_resident() ? *this->database().drawing().entity(this->resident()) : newcomer_;
-    return std::get<Geometry>(entity.geometry);
-  }
+  Geometry& newcomer() { return newcomer_; }
 
  private:
-  Entity newcomer_;
+  Geometry newcomer_;  // until the drawing has it
 };
 
 class OpenPoint final : public OpenEntity<GcDbPoint, PointGeometry> {
@@ -126,7 +120,10 @@ class OpenPoint final : public OpenEntity<GcDbPoint, PointGeometry> {
 
 class OpenText final : public OpenEntity<GcDbText, TextGeometry> {
  public:
-  using OpenEntity::OpenEntity;
+  OpenText(Database& database, const Position& position, std::string_view text)
+      : OpenEntity(database, {.position = position}), text_(text) {
+    newcomer().text = text_;
+  }
 
   Gcad::ErrorStatus setHeight(double height) override {
     if (!is_open()) return Gcad::eNotOpenForWrite;
@@ -143,6 +140,12 @@ class OpenText final : public OpenEntity<GcDbText, TextGeometry> {
     geometry().style = style.value;
     return Gcad::eOk;
   }
+
+ private:
+  // Where the geometry is now: with the maker or in the drawing.
+  TextGeometry& geometry() { return is_resident() ? *database().drawing().text(resident()) : newcomer(); }
+
+  std::string text_;
 };
 
 class IdArray final : public GcDbObjectIdArray {
@@ -168,7 +171,7 @@ class OpenGroup final : public OpenNewcomer<GcDbGroup> {
     if (array == nullptr) return Gcad::eInvalidInput;
     const auto& handles = array->handles();
     const Drawing& drawing = database().drawing();
-    if (!std::all_of(handles.begin(), handles.end(), [&](Handle one) { return drawing.entity(one) != nullptr; })) {
+    if (!std::all_of(handles.begin(), handles.end(), [&](Handle one) { return drawing.has_entity(one); })) {
       return Gcad::eInvalidInput;
     }
     auto& members = (is_resident() ? *database().drawing().group(resident()) : newcomer_).members;
@@ -244,10 +247,7 @@ std::unique_ptr<GcDbPoint> Database::newGcDbPoint(const Position& position) {
 }
 
 std::unique_ptr<GcDbText> Database::newGcDbText(const Position& position, std::string_view text) {
-  TextGeometry geometry;
-  geometry.position = position;
-  geometry.text = text;
-  return std::make_unique<OpenText>(*this, std::move(geometry));
+  return std::make_unique<OpenText>(*this, position, text);
 }
 
 std::unique_ptr<GcDbGroup> Database::newGcDbGroup(std::string_view description, bool selectable) {
@@ -267,17 +267,16 @@ GcDbObjectId Database::ensure_text_style(std::string_view name, std::string_view
 }
 
 std::string Database::handle_of(GcDbObjectId oid) const {
-  return drawing_.entity(oid.value) != nullptr ? handle_text(oid.value) : std::string();
+  return drawing_.has_entity(oid.value) ? handle_text(oid.value) : std::string();
 }
 
 std::optional<Position> Database::position_of(GcDbObjectId oid) const {
-  const Entity* entity = drawing_.entity(oid.value);
-  const auto* point = entity == nullptr ? nullptr : std::get_if<PointGeometry>(&entity->geometry);
+  const PointGeometry* point = drawing_.point(oid.value);
   return point == nullptr ? std::nullopt : std::optional(point->position);
 }
 
 bool Database::keep(GcDbObjectId oid, vexo_reaktywne_core::ControlRecord record) {
-  if (drawing_.entity(oid.value) == nullptr || open_objects_.is_open(oid.value)) return false;
+  if (!drawing_.has_entity(oid.value) || open_objects_.is_open(oid.value)) return false;
   drawing_.keep(oid.value, std::move(record));
   return true;
 }

@@ -9,8 +9,6 @@
 namespace console {
 namespace {
 
-constexpr Handle kFirstFree = handle_of(Fixed::first_free);
-
 // Programs in use cut a line of a drawing after 255 bytes, and a number cut short is another number. Far below what a
 // double holds, so that sums of coordinates stay finite.
 constexpr double kFarthest = 1e250;
@@ -19,12 +17,11 @@ bool is_sound(double value) { return std::abs(value) <= kFarthest; }  // false f
 
 bool is_sound(const Position& position) { return is_sound(position.x) && is_sound(position.y) && is_sound(position.z); }
 
-struct IsSound {
-  bool operator()(const PointGeometry& point) const { return is_sound(point.position); }
-  bool operator()(const TextGeometry& text) const {
-    return is_sound(text.position) && is_sound(text.height) && text.height > 0.0;
-  }
-};
+bool is_sound(const PointGeometry& point) { return is_sound(point.position); }
+
+bool is_sound(const TextGeometry& text) {
+  return is_sound(text.position) && is_sound(text.height) && text.height > 0.0;
+}
 
 std::string lower_case(std::string_view name) {
   std::string lower(name);
@@ -34,13 +31,24 @@ std::string lower_case(std::string_view name) {
 
 }  // namespace
 
-std::optional<Handle> Drawing::add(Entity entity) {
-  if (!std::visit(IsSound(), entity.geometry)) return std::nullopt;
-  entity.handle = new_handle();
-  entities_.push_back(std::move(entity));
-  entity_slots_.resize(next_handle_ - kFirstFree);
-  entity_slots_.back() = static_cast<std::uint32_t>(entities_.size());
-  return entities_.back().handle;
+template <class Geometry>
+std::optional<Handle> Drawing::add(Kind kind, Column<Geometry>& all, const Geometry& one) {
+  constexpr std::uint32_t kMost = 1U << 30U;  // what a slot can number
+  if (!is_sound(one) || all.size() == kMost) return std::nullopt;
+  const Handle handle = new_handle();
+  slots_.resize(handle - kFirstFree);  // styles and groups have handles too
+  slots_.emplace_back().kind = kind;
+  slots_.back().index = static_cast<std::uint32_t>(all.size()) & (kMost - 1);
+  all.push_back(one);
+  return handle;
+}
+
+std::optional<Handle> Drawing::add(const PointGeometry& point) { return add(Kind::point, points_, point); }
+
+std::optional<Handle> Drawing::add(TextGeometry text) {
+  const std::span<const char> kept = letters_.keep(text.text);
+  text.text = {kept.data(), kept.size()};
+  return add(Kind::text, texts_, text);
 }
 
 std::optional<Handle> Drawing::add(Group group) {
@@ -63,20 +71,14 @@ void Drawing::keep(Handle entity, vexo_reaktywne_core::ControlRecord record) {
   control_records_.insert_or_assign(entity, std::move(record));
 }
 
-std::optional<std::size_t> Drawing::entity_index(Handle handle) const {
-  if (handle < kFirstFree || handle - kFirstFree >= entity_slots_.size()) return std::nullopt;
-  const std::uint32_t slot = entity_slots_[handle - kFirstFree];
-  return slot == 0 ? std::nullopt : std::optional<std::size_t>(slot - 1);
+const PointGeometry* Drawing::point(Handle handle) const {
+  const Slot found = slot(handle);
+  return found.kind == Kind::point ? &points_[found.index] : nullptr;
 }
 
-const Entity* Drawing::entity(Handle handle) const {
-  const auto index = entity_index(handle);
-  return index ? &entities_[*index] : nullptr;
-}
-
-Entity* Drawing::entity(Handle handle) {
-  const auto index = entity_index(handle);
-  return index ? &entities_[*index] : nullptr;
+TextGeometry* Drawing::text(Handle handle) {
+  const Slot found = slot(handle);
+  return found.kind == Kind::text ? &texts_[found.index] : nullptr;
 }
 
 Group* Drawing::group(Handle handle) {

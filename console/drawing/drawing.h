@@ -11,11 +11,12 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <variant>
 #include <vector>
 
+#include "console/drawing/column.h"
 #include "siblings/vexo_reaktywne_core/reaktywne_core.h"
 #include "vexo_xyz_impl/host/values.h"
+#include "vexo_xyz_impl/input/groups.h"
 
 namespace console {
 
@@ -69,13 +70,7 @@ struct TextGeometry {
   Position position;
   double height = 0.0;
   Handle style = handle_of(Fixed::style_standard);
-  std::string text;
-};
-
-/// An entity of model space on layer 0.
-struct Entity {
-  Handle handle = 0;  ///< 0 until it belongs to a drawing
-  std::variant<PointGeometry, TextGeometry> geometry;
+  std::string_view text = {};
 };
 
 struct TextStyle {
@@ -100,9 +95,11 @@ struct SystemVariables {
 
 class Drawing {
  public:
-  /// Takes the entity into model space and gives it its handle; empty when a number of its geometry is not finite or
-  /// beyond 1e250, which no file could show to all programs, or when a text has no height.
-  std::optional<Handle> add(Entity entity);
+  /// Takes an entity into model space, on layer 0, and gives it its handle; empty when a number of its geometry is not
+  /// finite or beyond 1e250, which no file could show to all programs, or when a text has no height. What a text says
+  /// is copied.
+  std::optional<Handle> add(const PointGeometry& point);
+  std::optional<Handle> add(TextGeometry text);
 
   /// Takes the group in under its name; empty when the name is empty or taken, letter case aside.
   std::optional<Handle> add(Group group);
@@ -113,14 +110,26 @@ class Drawing {
   /// Keeps a control record on an entity, in the place of an earlier one.
   void keep(Handle entity, vexo_reaktywne_core::ControlRecord record);
 
-  /// The entity or group of that handle; nullptr when there is none.
-  [[nodiscard]] Entity* entity(Handle handle);
-  [[nodiscard]] const Entity* entity(Handle handle) const;
+  /// The point, text or group of that handle; nullptr when there is none.
+  [[nodiscard]] const PointGeometry* point(Handle handle) const;
+  [[nodiscard]] TextGeometry* text(Handle handle);
   [[nodiscard]] Group* group(Handle handle);
+  [[nodiscard]] bool has_entity(Handle handle) const { return slot(handle).kind != Kind::none; }
   [[nodiscard]] bool has_group(std::string_view name) const;
   [[nodiscard]] const vexo_reaktywne_core::ControlRecord* control_record(Handle entity) const;
 
-  [[nodiscard]] const std::deque<Entity>& entities() const { return entities_; }  ///< in the order they were added
+  [[nodiscard]] std::size_t entity_count() const { return points_.size() + texts_.size(); }
+
+  /// Calls `visit(handle, geometry)` for each entity in the order they were added, which is that of rising handles.
+  template <class Visit>
+  void for_each_entity(Visit visit) const {
+    for (std::size_t i = 0; i < slots_.size(); ++i) {
+      const Slot slot = slots_[i];
+      if (slot.kind == Kind::point) visit(kFirstFree + i, points_[slot.index]);
+      if (slot.kind == Kind::text) visit(kFirstFree + i, texts_[slot.index]);
+    }
+  }
+
   [[nodiscard]] const std::deque<Group>& groups() const { return groups_; }
   [[nodiscard]] const std::vector<TextStyle>& text_styles() const { return text_styles_; }
   [[nodiscard]] Handle next_handle() const { return next_handle_; }  ///< above every handle in use
@@ -128,12 +137,28 @@ class Drawing {
   SystemVariables variables;
 
  private:
-  Handle new_handle() { return next_handle_++; }
-  [[nodiscard]] std::optional<std::size_t> entity_index(Handle handle) const;
+  static constexpr Handle kFirstFree = handle_of(Fixed::first_free);
 
-  Handle next_handle_ = handle_of(Fixed::first_free);
-  std::deque<Entity> entities_;
-  std::vector<std::uint32_t> entity_slots_;  // by handle above first_free: index into entities_ plus 1, or 0
+  // Where the entity of a handle stands. What is of one kind stands together, so that nothing is as large as the
+  // largest.
+  enum class Kind : std::uint32_t { none, point, text };
+  struct Slot {
+    Kind kind : 2;
+    std::uint32_t index : 30;
+  };
+
+  Handle new_handle() { return next_handle_++; }
+  [[nodiscard]] Slot slot(Handle handle) const {
+    return handle - kFirstFree < slots_.size() ? slots_[handle - kFirstFree] : Slot{};  // wraps below the first
+  }
+  template <class Geometry>
+  std::optional<Handle> add(Kind kind, Column<Geometry>& all, const Geometry& one);
+
+  Handle next_handle_ = kFirstFree;
+  std::vector<Slot> slots_;  // by handle above the first free one
+  Column<PointGeometry> points_;
+  Column<TextGeometry> texts_;
+  vexo_xyz_impl::Groups<char> letters_;  // what the texts say
   std::deque<Group> groups_;
   std::map<std::string, Handle> group_names_;  // in lower case
   std::vector<TextStyle> text_styles_;

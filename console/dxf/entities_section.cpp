@@ -2,7 +2,6 @@
 #include <algorithm>
 #include <string>
 #include <utility>
-#include <variant>
 #include <vector>
 
 #include "console/dxf/dxf_writer.h"
@@ -46,9 +45,10 @@ class EntityWriter {
   EntityWriter(TagWriter& tags, const Drawing& drawing)
       : tags_(tags), drawing_(drawing), reactors_(drawing), owner_(handle_of(Fixed::model_space)) {}
 
-  void write(const Entity& entity) {
-    std::visit([&](const auto& geometry) { write(entity.handle, geometry); }, entity.geometry);
-    if (const auto* record = drawing_.control_record(entity.handle)) write_control_record(tags_, *record);
+  template <class Geometry>
+  void operator()(Handle handle, const Geometry& geometry) {
+    write(handle, geometry);
+    if (const auto* record = drawing_.control_record(handle)) write_control_record(tags_, *record);
   }
 
  private:
@@ -91,8 +91,7 @@ class EntityWriter {
 
 void write_entities(TagWriter& tags, const Drawing& drawing) {
   tags.lines("0\nSECTION\n2\nENTITIES\n");
-  EntityWriter writer(tags, drawing);
-  for (const Entity& entity : drawing.entities()) writer.write(entity);
+  drawing.for_each_entity(EntityWriter(tags, drawing));
   tags.lines("0\nENDSEC\n");
 }
 

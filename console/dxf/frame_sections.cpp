@@ -1,7 +1,7 @@
 // Everything around the entities that does not depend on what was imported, but for the extents and text styles.
 #include <algorithm>
+#include <limits>
 #include <string>
-#include <variant>
 
 #include "console/dxf/sections.h"
 
@@ -159,21 +159,18 @@ void write_block(TagWriter& tags, std::string_view name, Fixed record, Fixed beg
 }  // namespace
 
 Extents extents_of(const Drawing& drawing) {
-  const auto position_of = [](const Entity& entity) {
-    return std::visit([](const auto& geometry) { return geometry.position; }, entity.geometry);
-  };
-  if (drawing.entities().empty()) return {{0.0, 0.0, 0.0}, {1.0, 1.0, 0.0}};
-  Extents extents{position_of(drawing.entities().front()), position_of(drawing.entities().front())};
+  if (drawing.entity_count() == 0) return {{0.0, 0.0, 0.0}, {1.0, 1.0, 0.0}};
+  constexpr double kBeyond = std::numeric_limits<double>::infinity();
+  Extents extents{{kBeyond, kBeyond, kBeyond}, {-kBeyond, -kBeyond, -kBeyond}};
   const auto widen = [](double value, double& smallest, double& largest) {
     smallest = std::min(smallest, value);
     largest = std::max(largest, value);
   };
-  for (const Entity& entity : drawing.entities()) {
-    const Position position = position_of(entity);
-    widen(position.x, extents.smallest.x, extents.largest.x);
-    widen(position.y, extents.smallest.y, extents.largest.y);
-    widen(position.z, extents.smallest.z, extents.largest.z);
-  }
+  drawing.for_each_entity([&](Handle, const auto& geometry) {
+    widen(geometry.position.x, extents.smallest.x, extents.largest.x);
+    widen(geometry.position.y, extents.smallest.y, extents.largest.y);
+    widen(geometry.position.z, extents.smallest.z, extents.largest.z);
+  });
   return extents;
 }
 

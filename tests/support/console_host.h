@@ -101,8 +101,9 @@ class ConsoleHost : public vexo_xyz_impl::host::CommandTable {
   template <class Geometry>
   std::vector<Geometry> geometries() {
     std::vector<Geometry> found;
-    for (const console::Entity& entity : database.drawing().entities())
-      if (const auto* geometry = std::get_if<Geometry>(&entity.geometry)) found.push_back(*geometry);
+    database.drawing().for_each_entity([&](console::Handle, const auto& geometry) {
+      if constexpr (std::is_same_v<decltype(geometry), const Geometry&>) found.push_back(geometry);
+    });
     return found;
   }
 };

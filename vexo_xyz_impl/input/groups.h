@@ -30,8 +30,15 @@ class Groups {
 
   /// Adds to the open group, whose things may move.
   void add(const T& thing) {
-    if (next_ == end_) make_room();
+    if (next_ == end_) make_room(1);
     *next_++ = thing;
+  }
+
+  /// A copy of the things as a group of its own; for when the open group is empty.
+  std::span<const T> keep(std::span<const T> things) {
+    if (static_cast<std::size_t>(end_ - next_) < things.size()) make_room(things.size());
+    next_ = std::copy(things.begin(), things.end(), next_);
+    return close();
   }
   [[nodiscard]] std::span<T> open() const { return {open_, next_}; }
 
@@ -53,11 +60,11 @@ class Groups {
     void operator()(T* block) const { std::allocator<T>().deallocate(block, size); }
   };
 
-  void make_room() {
+  void make_room(std::size_t things) {
     constexpr std::size_t kFirstBlock = 256;
     constexpr std::size_t kUsualBlock = std::size_t{1} << 16U;
     const std::size_t last = blocks_.empty() ? kFirstBlock / 2 : blocks_.back().get_deleter().size;
-    const std::size_t size = std::max(2 * std::min(last, kUsualBlock / 2), 2 * open().size());
+    const std::size_t size = std::max(2 * std::min(last, kUsualBlock / 2), 2 * open().size() + things);
     std::unique_ptr<T, Free> block(std::allocator<T>().allocate(size), Free{size});
     T* const moved = std::copy(open_, next_, block.get());
     if (!blocks_.empty() && open_ == blocks_.back().get()) blocks_.pop_back();  // it held nothing else

@@ -7,8 +7,7 @@
 namespace vexo_xyz_impl {
 namespace {
 
-constexpr std::size_t kKeptBlock = std::size_t{1} << 20U;  // texts that are kept share blocks of this size
-constexpr std::size_t kShortGap = 4;                       // cells; taking note of a gap would cost as much memory
+constexpr std::size_t kShortGap = 4;  // cells; taking note of a gap would cost as much memory
 
 }  // namespace
 
@@ -29,12 +28,8 @@ bool Table::shares(Cell cell) const {
 }
 
 std::string_view Table::keep(std::string_view text) {
-  const auto has_room = [&](const std::vector<char>& block) { return block.capacity() - block.size() >= text.size(); };
-  if (kept_.empty() || !has_room(kept_.back())) kept_.emplace_back().reserve(std::max(kKeptBlock, text.size()));
-  std::vector<char>& block = kept_.back();
-  const std::size_t at = block.size();
-  block.insert(block.end(), text.begin(), text.end());  // within its capacity: earlier views stay valid
-  return {block.data() + at, text.size()};
+  const std::span<const char> kept = kept_.keep(text);
+  return {kept.data(), kept.size()};
 }
 
 void Table::set_cell(std::size_t column, Cell cell) {

@@ -67,8 +67,8 @@ class Table {
   void end_row_with_gaps();
 
   std::vector<std::vector<char>> buffers_;  // not strings: views must survive a move of the table
-  std::vector<std::vector<char>> kept_;     // blocks that `keep` fills
-  std::string_view shared_;                 // one of the buffers
+  Groups<char> kept_;
+  std::string_view shared_;  // one of the buffers
   Groups<Cell> cells_;
   Groups<CellRun> runs_;
   std::vector<std::size_t> columns_;  // of the row being made, those of its cells from the first long gap on
