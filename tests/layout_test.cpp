@@ -89,6 +89,27 @@ TEST(Layout, RowsToVerdict) {
   EXPECT_THROW(static_cast<void>(_wykryj_format(label_and_number.rows())), IndexError);
 }
 
+TEST(SkippedLines, OutliveTheRowsOfTheTable) {
+  const Host host;
+  Table table;
+  const std::vector<std::vector<std::size_t>> columns = {{0}, {0, 1, 2}, {30}, {0, 20, 21, 500}};
+  for (const auto& row : columns) {
+    for (const std::size_t column : row) table.set_cell(column, "x");
+    table.end_row();
+  }
+  const Decomposition read = _rozbierz(table.rows(), Layout::NrXY);
+  table.forget_rows();
+  EXPECT_EQ(table.size(), 0U);
+  ASSERT_EQ(read.pominiete.size(), columns.size());
+  for (std::size_t i = 0; i < columns.size(); ++i) {
+    std::vector<std::size_t> found;
+    const Row cells = read.pominiete[i].cells;
+    for (std::size_t column = 0; column < cells.size(); ++column)
+      if (cells[column] == "x") found.push_back(column);
+    EXPECT_EQ(found, columns[i]);
+  }
+}
+
 TEST(TextHeight, RoundHeights) {
   constexpr double kInfinity = std::numeric_limits<double>::infinity();
   // Pairs of raw and round: the nearest, the smaller of two equally near; whole tens above 100, halves to the even one.

@@ -42,7 +42,7 @@ std::optional<Table> read_table(const std::string& path) {
 }
 
 CommandOutcome import_file(const std::string& path) {
-  const auto table = read_table(path);
+  auto table = read_table(path);
   if (!table) return CommandOutcome::failed;
 
   LayoutVerdict verdict;
@@ -52,6 +52,9 @@ CommandOutcome import_file(const std::string& path) {
   if (verdict.fmt) {
     announce_layout(*verdict.fmt, verdict.opis);
     without_lock([&] { read = _rozbierz(verdict.dane, *verdict.fmt); });
+    // Points and skipped lines hold what is needed of them, and the drawing needs the memory.
+    verdict.dane = std::vector<Row>();
+    table->forget_rows();
   }
   if (read.punkty.empty()) {
     print("xyz.zero_wierszy");

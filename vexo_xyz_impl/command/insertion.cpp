@@ -40,6 +40,7 @@ Inserted insert_points(host::GcDbBlockTableRecord& ms, std::span<const PointReco
   const double off = txtH * kLabelOffset;
   Inserted inserted;
   inserted.oidy = database.newGcDbObjectIdArray();
+  inserted.oidy_punktow.reserve(punkty.size());
   for (const PointRecord& record : punkty) {
     host::Opened<host::GcDbPoint> point(database.newGcDbPoint({record.x, record.y, record.z}));
     if (const auto oid = append_and_close(ms, point, *inserted.oidy)) inserted.oidy_punktow.push_back(*oid);

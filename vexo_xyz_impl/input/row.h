@@ -68,6 +68,16 @@ class Row {
   [[nodiscard]] Iterator begin() const { return {has_gaps() ? nullptr : cells(), has_gaps() ? runs() : nullptr, 0}; }
   [[nodiscard]] Iterator end() const { return {nullptr, nullptr, size()}; }
 
+  /// Calls `visit(column, cell)` for each cell but those of long gaps.
+  template <class Visit>
+  void for_each_stored(Visit visit) const {
+    const CellRun whole{0, size(), static_cast<const Cell*>(place_)};
+    for (const CellRun* run = has_gaps() ? runs() : &whole;; ++run) {
+      for (std::size_t i = run->begin; i < run->end; ++i) visit(i, run->cells[i - run->begin]);
+      if (run->end == size()) return;
+    }
+  }
+
   /// Where the row's first cell that is no gap is kept, which tells rows apart.
   [[nodiscard]] const Cell* data() const { return has_gaps() ? runs()->cells : cells(); }
 

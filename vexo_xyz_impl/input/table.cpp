@@ -46,6 +46,19 @@ void Table::set_cell(std::size_t column, Cell cell) {
   cells_.add(cell);
 }
 
+Row Table::add_row(Row row) {
+  if (row.empty()) return {};  // a script's may be
+  row.for_each_stored([this](std::size_t column, Cell cell) { set_cell(column, cell); });
+  end_row();
+  return rows_.back();
+}
+
+void Table::forget_rows() {
+  cells_ = {};
+  runs_ = {};
+  rows_ = std::vector<Row>();
+}
+
 // The cells from the first long gap on in the order of their columns; of several in one column the last set.
 void Table::sort_by_columns() {
   std::vector<std::pair<std::size_t, Cell>> placed;

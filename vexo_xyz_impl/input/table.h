@@ -53,6 +53,12 @@ class Table {
     }
   }
 
+  /// Adds a copy of another table's row, whose texts must outlive this table.
+  Row add_row(Row row);
+
+  /// Forgets all rows and their cells; the texts of the cells stay.
+  void forget_rows();
+
   /// Cells that take memory: all but those of long gaps.
   [[nodiscard]] std::size_t stored_cells() const { return cells_.count(); }
 

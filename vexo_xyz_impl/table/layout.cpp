@@ -142,6 +142,7 @@ LayoutVerdict _wykryj_format(std::span<const Row> wiersze) {
   if (n < 2) return {std::nullopt, T("xyz.fmt_mniej_2"), {}};
 
   std::vector<Row> dane;
+  dane.reserve(wiersze.size());
   std::copy_if(wiersze.begin(), wiersze.end(), std::back_inserter(dane),
                [n](Row row) { return looks_like_data(row, n); });
   if (dane.empty()) return {std::nullopt, T("xyz.fmt_brak_danych"), {}};

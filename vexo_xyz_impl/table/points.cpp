@@ -66,11 +66,11 @@ Decomposition _rozbierz(std::span<const Row> wiersze, Layout fmt) {
   for (std::size_t i = 0; i < wiersze.size(); ++i) {
     const Row w = wiersze[i];
     if (w.size() < ile) {
-      result.pominiete.push_back({i + 1, w, ile});
+      result.pominiete.push_back({i + 1, result.skipped_rows.add_row(w), ile});
     } else if (const auto point = point_of(w, fmt)) {
       result.punkty.push_back(*point);
     } else {
-      result.pominiete.push_back({i + 1, w, 0});
+      result.pominiete.push_back({i + 1, result.skipped_rows.add_row(w), 0});
     }
   }
   if (!has_number(fmt)) count_points(result);

@@ -24,11 +24,12 @@ struct PointRecord {
 /// A row that gave no point. Of a million of these a few are shown, so their texts are made when they are.
 struct SkippedLine {
   std::size_t row = 0;           ///< counted from 1 among the rows taken apart
-  Row cells;                     ///< of the table
+  Row cells;                     ///< kept with the decomposition
   std::size_t cells_needed = 0;  ///< when there are fewer; else 0: where a number is due there is none
 };
 
-/// What `_rozbierz` returns. Moving it keeps the views valid; the table must outlive it.
+/// What `_rozbierz` returns. Moving it keeps the views valid; of the table it needs the texts of the cells, not the
+/// rows.
 struct Decomposition {
   Decomposition() = default;
   Decomposition(Decomposition&&) noexcept = default;
@@ -39,6 +40,7 @@ struct Decomposition {
 
   std::vector<PointRecord> punkty;
   std::vector<SkippedLine> pominiete;
+  Table skipped_rows;                 ///< the rows of `pominiete`
   std::vector<char> counted_numbers;  ///< the texts behind `nr` when points are counted, else empty
 };
 
