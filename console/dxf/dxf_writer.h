@@ -18,7 +18,8 @@ namespace console {
 void write_dxf(const Drawing& drawing, std::string_view code_page, ByteSink& sink);
 
 /// A text as group 1 of a TEXT holds it, so that it shows as typed: what CAD programs would read as a code of theirs
-/// (%%d, ^J, \U+0041 …) is spelled so that they do not; control characters become blanks.
-[[nodiscard]] std::string encoded_label(std::string_view label);
+/// (%%d, ^J, \U+0041 …) is spelled so that they do not; control characters become blanks. The view is of the label
+/// itself when that needs no change, else of `changed`.
+[[nodiscard]] std::string_view encoded_label(std::string_view label, std::string& changed);
 
 }  // namespace console

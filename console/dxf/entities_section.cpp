@@ -70,7 +70,7 @@ class EntityWriter {
     tags_.lines("100\nAcDbEntity\n8\n0\n100\nAcDbText\n");
     tags_.position(10, text.position);
     tags_.real(40, text.height);
-    tags_.text(1, encoded_label(text.text));
+    tags_.text(1, encoded_label(text.text, changed_label_));
     tags_.text(7, style_name(text.style));
     tags_.lines("100\nAcDbText\n");
   }
@@ -85,6 +85,7 @@ class EntityWriter {
   const Drawing& drawing_;
   Reactors reactors_;
   Handle owner_;
+  std::string changed_label_;
 };
 
 }  // namespace

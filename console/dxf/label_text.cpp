@@ -26,24 +26,24 @@ bool needs_encoding(std::string_view label) {
 
 }  // namespace
 
-std::string encoded_label(std::string_view label) {
-  if (!needs_encoding(label)) return std::string(label);
-  std::string encoded;
+std::string_view encoded_label(std::string_view label, std::string& changed) {
+  if (!needs_encoding(label)) return label;
+  changed.clear();
   for (std::size_t at = 0; at < label.size();) {
     const auto code_point = text::decode(label, at);
     const std::string_view rest = label.substr(at + (code_point ? code_point->bytes : 1));
     const char32_t c = code_point ? code_point->value : U'\uFFFD';
     if (c == '%' && rest.starts_with('%')) {
-      encoded += kPercentByNumber;  // only the last of a run stands for itself
+      changed += kPercentByNumber;  // only the last of a run stands for itself
     } else if (c == '\\' && (rest.starts_with("U+") || rest.starts_with("M+"))) {
-      encoded += kBackslashByNumber;
+      changed += kBackslashByNumber;
     } else {
-      text::append(encoded, is_no_label_character(c) ? U' ' : c);
-      if (c == '^') encoded += ' ';
+      text::append(changed, is_no_label_character(c) ? U' ' : c);
+      if (c == '^') changed += ' ';
     }
     at = label.size() - rest.size();
   }
-  return encoded;
+  return changed;
 }
 
 }  // namespace console

@@ -1,3 +1,4 @@
+#include <string>
 #include <string_view>
 
 #include "console/dxf/dxf_writer.h"
@@ -33,7 +34,8 @@ void write_entry(TagWriter& tags, std::string_view name, Handle object) {
 void write_group(TagWriter& tags, const Group& group) {
   write_owned(tags, "GROUP", group.handle, Fixed::group_dictionary);
   tags.lines("100\nAcDbGroup\n");
-  tags.text(300, encoded_label(group.description));
+  std::string changed;
+  tags.text(300, encoded_label(group.description, changed));
   tags.lines("70\n0\n");  // named
   tags.whole(71, group.selectable ? 1 : 0);
   for (const Handle member : group.members) tags.handle(340, member);

@@ -55,13 +55,12 @@ void add_piece(Table& wiersze, std::string_view piece) {
   if (const std::string_view cell = text::trim(piece); !cell.empty()) wiersze.add_cell(cell);
 }
 
-void split_at_delimiters(Table& wiersze, std::string_view line) {
-  while (true) {
-    const std::size_t end = find_delimiter(line);
+void split_at_delimiters(Table& wiersze, std::string_view line, std::size_t first) {
+  for (std::size_t end = first; end != std::string_view::npos; end = find_delimiter(line)) {
     add_piece(wiersze, line.substr(0, end));
-    if (end == std::string_view::npos) return;
     line.remove_prefix(end + 1);
   }
+  add_piece(wiersze, line);
 }
 
 void split_at_white_space(Table& wiersze, std::string_view line) {
@@ -80,8 +79,8 @@ void split_at_white_space(Table& wiersze, std::string_view line) {
 void add_line(Table& wiersze, std::string_view raw) {
   const std::string_view line = text::trim(raw);
   if (line.empty() || is_comment(line)) return;
-  if (find_delimiter(line) != std::string_view::npos) {
-    split_at_delimiters(wiersze, line);
+  if (const std::size_t first = find_delimiter(line); first != std::string_view::npos) {
+    split_at_delimiters(wiersze, line, first);
   } else {
     split_at_white_space(wiersze, line);
   }

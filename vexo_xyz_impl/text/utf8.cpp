@@ -173,7 +173,7 @@ std::size_t white_space_at(std::string_view utf8, std::size_t at) {
   return code_point && is_white_space(code_point->value) ? code_point->bytes : 0;
 }
 
-std::string_view trim(std::string_view utf8) {
+std::string_view trim_white_space(std::string_view utf8) {
   while (!utf8.empty()) {
     const std::size_t bytes = white_space_at(utf8, 0);
     if (bytes == 0) break;

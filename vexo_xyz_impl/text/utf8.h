@@ -46,7 +46,12 @@ void append(std::string& utf8, char32_t code_point);
 [[nodiscard]] std::size_t white_space_at(std::string_view utf8, std::size_t at);
 
 /// The text without leading and trailing white space; bytes that are no UTF-8, as a path may have, stay.
-[[nodiscard]] std::string_view trim(std::string_view utf8);
+[[nodiscard]] std::string_view trim_white_space(std::string_view utf8);
+[[nodiscard]] inline std::string_view trim(std::string_view utf8) {
+  const auto is_visible_ascii = [](char c) { return c > ' ' && c <= '~'; };  // be char signed or not
+  if (!utf8.empty() && is_visible_ascii(utf8.front()) && is_visible_ascii(utf8.back())) return utf8;  // as most are
+  return trim_white_space(utf8);
+}
 
 /// Decimal value 0 to 9 of a digit of any script; empty for anything else.
 [[nodiscard]] std::optional<int> digit_value(char32_t code_point);
