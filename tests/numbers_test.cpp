@@ -1,12 +1,15 @@
 #include "vexo_xyz_impl/table/numbers.h"
 
+#include <algorithm>
 #include <bit>
 #include <chrono>
 #include <climits>
 #include <cmath>
 #include <cstdint>
+#include <cstdlib>
 #include <limits>
 #include <optional>
+#include <random>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -81,6 +84,15 @@ TEST(Numbers, TokensThatAreNumbers) {
   };
   for (const auto& [number, spellings] : cases)
     for (const std::string& tok : spellings) expect_number(tok, number);
+}
+
+TEST(Numbers, FewDigitsAreReadAsManyAre) {
+  std::mt19937_64 random(11);  // NOLINT(cert-msc51-cpp): the same numbers at every run
+  for (int i = 0; i < 50'000; ++i) {
+    std::string tok = std::to_string(random() >> (random() % 64)).insert(0, i % 5 == 0 ? "-" : "");
+    if (i % 7 != 0) tok.insert(tok.size() - random() % std::min<std::size_t>(tok.size(), 9), ".");
+    expect_number(tok, std::strtod(tok.c_str(), nullptr));
+  }
 }
 
 TEST(Numbers, TokensThatAreNot) {
