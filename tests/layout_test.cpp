@@ -4,6 +4,7 @@
 #include <cmath>
 #include <limits>
 #include <random>
+#include <set>
 #include <string>
 #include <string_view>
 #include <tuple>
@@ -16,6 +17,7 @@
 #include "vexo_xyz_impl/failure.h"
 #include "vexo_xyz_impl/input/text_reader.h"
 #include "vexo_xyz_impl/table/points.h"
+#include "vexo_xyz_impl/table/repeated_numbers.h"
 #include "vexo_xyz_impl/table/text_height.h"
 
 namespace vexo_xyz_impl {
@@ -107,6 +109,20 @@ TEST(SkippedLines, OutliveTheRowsOfTheTable) {
     for (std::size_t column = 0; column < cells.size(); ++column)
       if (cells[column] == "x") found.push_back(column);
     EXPECT_EQ(found, columns[i]);
+  }
+}
+
+TEST(RepeatedNumbers, AreThoseThatASetWouldRefuse) {
+  std::mt19937_64 random(5);  // NOLINT(cert-msc51-cpp): the same numbers at every run
+  for (const std::size_t count : {0U, 1U, 2U, 3U, 127U, 128U, 1000U, 20'000U}) {
+    for (const std::size_t kinds : {std::size_t{1}, std::size_t{3}, count / 2 + 1, 100 * count + 1}) {
+      std::vector<std::string> numbers(count);
+      for (std::string& number : numbers) number = "P" + std::to_string(random() % kinds);
+      std::vector<PointRecord> points;
+      for (const std::string& number : numbers) points.push_back({number, 0.0, 0.0, 0.0});
+      EXPECT_EQ(repeated_numbers(points), count - std::set(numbers.begin(), numbers.end()).size())
+          << count << ' ' << kinds;
+    }
   }
 }
 

@@ -2,13 +2,12 @@
 
 #include <algorithm>
 #include <exception>
-#include <functional>
-#include <utility>
 
 #include "vexo_xyz_impl/drawing/control.h"
 #include "vexo_xyz_impl/drawing/group.h"
 #include "vexo_xyz_impl/failure.h"
 #include "vexo_xyz_impl/messages.h"
+#include "vexo_xyz_impl/table/repeated_numbers.h"
 
 namespace vexo_xyz_impl {
 namespace {
@@ -16,26 +15,6 @@ namespace {
 constexpr std::size_t kSkippedShown = 5;
 
 long long count_of(std::size_t count) { return static_cast<long long>(count); }
-
-// Shorter numbers before longer ones, which is how a counter rises.
-bool rises(std::string_view before, std::string_view after) {
-  return before.size() != after.size() ? before.size() < after.size() : before < after;
-}
-
-// Points less distinct numbers. Numbers that rise, as most files' do, are distinct; others are sorted by their hashes
-// first, which no choice of numbers can make slow.
-std::size_t repeated_numbers(const Decomposition& read) {
-  const auto& punkty = read.punkty;
-  if (!read.counted_numbers.empty()) return 0;
-  const auto not_rising = [](const PointRecord& a, const PointRecord& b) { return !rises(a.nr, b.nr); };
-  if (std::adjacent_find(punkty.begin(), punkty.end(), not_rising) == punkty.end()) return 0;
-  std::vector<std::pair<std::size_t, std::string_view>> numbers;
-  numbers.reserve(punkty.size());
-  for (const PointRecord& point : punkty) numbers.emplace_back(std::hash<std::string_view>()(point.nr), point.nr);
-  std::sort(numbers.begin(), numbers.end());
-  const auto distinct = std::unique(numbers.begin(), numbers.end()) - numbers.begin();
-  return punkty.size() - static_cast<std::size_t>(distinct);
-}
 
 }  // namespace
 
@@ -85,7 +64,7 @@ void report_rest(const Decomposition& read) {
   if (read.pominiete.size() > kSkippedShown) {
     print("xyz.pominieto_dalsze", {count_of(read.pominiete.size() - kSkippedShown)});
   }
-  if (const std::size_t dubli = repeated_numbers(read); dubli != 0) print("xyz.dubli", {count_of(dubli)});
+  if (const std::size_t dubli = repeated_numbers(read.punkty); dubli != 0) print("xyz.dubli", {count_of(dubli)});
   print("xyz.zoom_hint");
 }
 
