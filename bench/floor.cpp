@@ -21,20 +21,17 @@ namespace {
 
 struct Point {
   std::string_view number;
-  double x, y, z;
+  double y, x, z;
 };
 
 std::vector<char> contents(const char* path) {
   std::vector<char> bytes(std::filesystem::file_size(path));
-  const int file = open(path, O_RDONLY);
-  bytes.resize(static_cast<std::size_t>(std::max<ssize_t>(read(file, bytes.data(), bytes.size()), 0)));
-  close(file);
+  if (read(open(path, O_RDONLY), bytes.data(), bytes.size()) != std::ssize(bytes)) std::abort();
+  std::replace(bytes.begin(), bytes.end(), ',', '.');
   return bytes;
 }
 
-std::vector<Point> points_of(std::vector<char>& text) {
-  std::replace(text.begin(), text.end(), ',', '.');
-  std::vector<Point> points;
+std::vector<Point> points_of(const std::vector<char>& text) {
   const char* at = text.data();
   const char* const end = at + text.size();
   const auto field = [&](char mark) {
@@ -48,12 +45,8 @@ std::vector<Point> points_of(std::vector<char>& text) {
     std::from_chars(digits.begin(), digits.end(), value);
     return value;
   };
-  while (at < end) {
-    Point& point = points.emplace_back(Point{field(';'), 0.0, 0.0, 0.0});
-    point.y = number(';');
-    point.x = number(';');
-    point.z = number('\n');
-  }
+  std::vector<Point> points;
+  while (at < end) points.push_back({.number = field(';'), .y = number(';'), .x = number(';'), .z = number('\n')});
   return points;
 }
 
@@ -119,7 +112,7 @@ void write_drawing(Output& out, const std::vector<Point>& points) {
 
 int main(int argc, char** argv) {
   if (argc != 3) return 2;
-  std::vector<char> text = contents(argv[1]);
+  const std::vector<char> text = contents(argv[1]);
   Output out{open(argv[2], O_WRONLY | O_CREAT | O_TRUNC, 0666)};
   write_drawing(out, points_of(text));
 }

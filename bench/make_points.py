@@ -15,6 +15,7 @@ import random
 import sys
 import zipfile
 
+KINDS = ("survey", "shuffled", "plain", "labelled", "workbook")
 SEED = 20000707
 
 # Millimetres: the south-western corner, the side of the square, the lowest and the highest point.
@@ -78,7 +79,8 @@ def write_workbook(count, path):
     large = {SHEET: "".join(sheet) + "</sheetData></worksheet>", SHARED: "".join(shared) + "</sst>"}
     with zipfile.ZipFile(FRAME) as frame, zipfile.ZipFile(path, "w", zipfile.ZIP_DEFLATED) as package:
         for name in frame.namelist():
-            package.writestr(name, f'<?xml version="1.0" encoding="UTF-8"?>{large[name]}' if name in large else frame.read(name))
+            text = f'<?xml version="1.0" encoding="UTF-8"?>{large[name]}' if name in large else frame.read(name)
+            package.writestr(name, text)
 
 
 def make(kind, count, path):
@@ -89,6 +91,6 @@ def make(kind, count, path):
 
 
 if __name__ == "__main__":
-    if len(sys.argv) != 4 or sys.argv[1] not in ("survey", "shuffled", "plain", "labelled", "workbook"):
+    if len(sys.argv) != 4 or sys.argv[1] not in KINDS:
         sys.exit(__doc__)
     make(sys.argv[1], int(sys.argv[2]), sys.argv[3])

@@ -17,6 +17,7 @@
 #include <string>
 #include <string_view>
 #include <utility>
+#include <valarray>
 #include <vector>
 
 #include <sys/resource.h>
@@ -37,58 +38,48 @@
 
 namespace {
 
-// What this process has used up, or between two such moments.
-struct Usage {
-  double wall;   // seconds, as is cpu
-  double cpu;    // user and system
-  double pages;  // touched for the first time
+// Seconds of wall time and of CPU time, pages touched for the first time: of this process so far, or of a part of it.
+using Usage = std::valarray<double>;
 
-  static Usage so_far() {
-    rusage usage{};
-    getrusage(RUSAGE_SELF, &usage);
-    const std::chrono::duration<double> wall = std::chrono::steady_clock::now().time_since_epoch();
-    return {wall.count(), static_cast<double>(std::clock()) / CLOCKS_PER_SEC, static_cast<double>(usage.ru_minflt)};
-  }
-  Usage operator-(const Usage& other) const { return {wall - other.wall, cpu - other.cpu, pages - other.pages}; }
-  Usage operator+(const Usage& other) const { return {wall + other.wall, cpu + other.cpu, pages + other.pages}; }
-};
+Usage so_far() {
+  rusage usage{};
+  getrusage(RUSAGE_SELF, &usage);
+  const std::chrono::duration<double> wall = std::chrono::steady_clock::now().time_since_epoch();
+  return {wall.count(), static_cast<double>(std::clock()) / CLOCKS_PER_SEC, static_cast<double>(usage.ru_minflt)};
+}
 
 class Steps {
  public:
   // Ends the step that began with the last call.
-  void done(std::string_view name, Usage not_its_own = {}) {
-    add(name, Usage::so_far() - begun_ - not_its_own);
-    begun_ = Usage::so_far();
+  void done(std::string_view name, const Usage& not_its_own = Usage(3)) {
+    add(name, so_far() - begun_ - not_its_own);
+    begun_ = so_far();
   }
 
-  void add(std::string_view name, Usage used) { lines_.emplace_back(name, used); }
+  void add(std::string_view name, const Usage& used) { lines_.emplace_back(name, used); }
 
   void print() const {
     for (const auto& [name, used] : lines_)
-      std::printf("%s\t%.6f\t%.6f\t%.0f\n", name.c_str(), used.wall, used.cpu, used.pages);
+      std::printf("%s\t%.6f\t%.6f\t%.0f\n", name.c_str(), used[0], used[1], used[2]);
   }
 
  private:
   std::vector<std::pair<std::string, Usage>> lines_;
-  Usage begun_ = Usage::so_far();
+  Usage begun_ = so_far();
 };
 
 // Tells writing from the formatting around it.
-class TimedSink final : public console::ByteSink {
- public:
-  explicit TimedSink(console::ByteSink& sink) : sink_(sink) {}
+struct TimedSink final : console::ByteSink {
+  explicit TimedSink(console::ByteSink& to) : sink(to) {}
 
   void write(std::string_view bytes) override {
-    const Usage begun = Usage::so_far();
-    sink_.write(bytes);
-    used_ = used_ + (Usage::so_far() - begun);
+    const Usage begun = so_far();
+    sink.write(bytes);
+    used += so_far() - begun;
   }
 
-  [[nodiscard]] Usage used() const { return used_; }
-
- private:
-  console::ByteSink& sink_;
-  Usage used_{};
+  console::ByteSink& sink;
+  Usage used = Usage(3);
 };
 
 // A console without a terminal: nothing is answered, what is printed is kept in memory.
@@ -154,8 +145,8 @@ void save(const console::Drawing& drawing, const std::string& target, Steps& ste
   console::AtomicFile file(std::filesystem::path(target).parent_path());
   TimedSink sink(file);
   console::write_dxf(drawing, "ANSI_1250", sink);
-  steps.done("make the DXF text", sink.used());
-  steps.add("write to the file", sink.used());
+  steps.done("make the DXF text", sink.used);
+  steps.add("write to the file", sink.used);
   file.flush();
   if (!file.commit(target, true)) throw std::runtime_error("cannot name the drawing " + target);
   steps.done("flush to the disk and rename");

@@ -1,3 +1,4 @@
+#!/usr/bin/python3
 """The same drawing as a script of a few lines makes it: with_ezdxf.py FILE OUT.dxf"""
 import csv
 import sys
