@@ -8,7 +8,6 @@ import importlib.util
 import json
 import math
 import os
-import platform
 import re
 import shlex
 import shutil
@@ -29,11 +28,11 @@ ROOT = Path(__file__).resolve().parents[1]
 TREE = ROOT / "build" / "bench"
 NOISY_SHARE = 0.05  # of the machine's CPU time, used by others
 NOISY_SPREAD = 1.25  # slowest by fastest run
-BEGIN, END = "<!-- measured: begin -->\n", "<!-- measured: end -->\n"
+PLACE = re.compile("(?<=<!-- measured: begin -->\n).*(?=<!-- measured: end -->\n)", re.S)  # of the results in a page
 
 
 class Program(NamedTuple):
-    """What is measured. The command names its files as they stand in the folder: KIND_COUNT is made, out_… written."""
+    """In a command, files called KIND_COUNT.… are made before it runs; those called out_… it writes."""
     name: str
     command: str
     needs: str = "sys"  # a module of Python
@@ -51,9 +50,6 @@ class Run(NamedTuple):
     output: str
 
 
-# ---- Showing --------------------------------------------------------------------------------
-
-
 def spread(values, digits, factor=1.0):
     return " / ".join(f"{value * factor:,.{digits}f}" for value in (min(values), median(values), max(values)))
 
@@ -63,7 +59,8 @@ def column(runs, what):
 
 
 def goal(what, value, limit, digits=3, unit=""):
-    return f"- Goal: {what}: at most {limit}{unit}. {value:,.{digits}f}{unit}: {'met' if value <= limit else '**missed**'}.\n"
+    verdict = "met" if value <= limit else "**missed**"
+    return f"- Goal: {what}: at most {limit}{unit}. {value:,.{digits}f}{unit}: {verdict}.\n"
 
 
 def table(head, rows, words=1):
@@ -74,15 +71,17 @@ def table(head, rows, words=1):
 
 
 def comparison(results, goals):
-    """Figures of all programs, the first one's by those of each other, and whether (one, other, figure, limit) is met."""
+    """Figures of all programs, the first one's by those of each other; whether goals (one, other, figure, limit) are met."""
     ours = next(iter(results))
+    shown = (("wall", 2), ("cpu", 2), ("system", 2), ("peak", 0))
 
-    def ratios(one, other, figure):
-        return [getattr(a, figure) / getattr(b, figure) for a, b in zip(results[one], results[other])]
+    def ratios(one, other, what):
+        return [a / b for a, b in zip(column(results[one], what), column(results[other], what))]
 
-    text = table(["", "wall time, s", "CPU time (user + system), s", "of it system, s", "peak memory, MB", "written, MB"],
-                 [[f"`{name}`", *(spread(column(runs, what), 2) for what in ("wall", "cpu", "system")), spread(column(runs, "peak"), 0),
-                   f"{runs[-1].size:,.1f}" if runs[-1].size else ""] for name, runs in results.items()])
+    text = table(
+        ["", "wall time, s", "CPU time (user + system), s", "of it system, s", "peak memory, MB", "written, MB"],
+        [[f"`{name}`", *(spread(column(runs, what), digits) for what, digits in shown),
+          f"{runs[-1].size:,.1f}" if runs[-1].size else ""] for name, runs in results.items()])
     text += table([f"`{ours}` by", "ratio of wall times", "ratio of CPU times", "runs"],
                   [[f"`{name}`", *(spread(ratios(ours, name, what), 3) for what in ("wall", "cpu")), str(len(runs))]
                    for name, runs in results.items() if name != ours])
@@ -90,42 +89,37 @@ def comparison(results, goals):
         if other in results:
             text += goal(f"{what.replace('cpu', 'CPU')} time of `{one}` by that of `{other}`, median of the runs",
                          median(ratios(one, other, what)), limit)
-    return text + f"- Noise: {noise(results) or 'none to speak of'}.\n"
+    return text + f"- Noise: {noise(results)}.\n"
 
 
 def noise(results):
-    """What speaks against the figures; empty when nothing does."""
     everything = [run for runs in results.values() for run in runs]
-    share = sum(run.others for run in everything) / (os.cpu_count() * sum(run.wall for run in everything))
+    share = sum(column(everything, "others")) / (os.cpu_count() * sum(column(everything, "wall")))
     findings = [f"other processes used {share:.0%} of the machine's CPU time"] if share > NOISY_SHARE else []
-    for name, runs in results.items():
-        by = max(run.wall for run in runs) / min(run.wall for run in runs)
-        if by > NOISY_SPREAD:
-            findings.append(f"the slowest run of `{name}` took {by:.2f} times its fastest")
-    return "; ".join(findings)
+    for name, walls in ((name, column(runs, "wall")) for name, runs in results.items()):
+        if max(walls) > NOISY_SPREAD * min(walls):
+            findings.append(f"the slowest run of `{name}` took {max(walls) / min(walls):.2f} times its fastest")
+    return "; ".join(findings) or "none to speak of"
 
 
-def chart(panels, counts):
-    """An SVG of a curve for each title and its values, one for each count; both axes logarithmic."""
+def chart(counts, *panels):
+    """An SVG with a curve for each (title, values), one value for each count; both axes are logarithmic."""
     marks = ['<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 760 240" font-family="sans-serif" font-size="13"'
              ' text-anchor="middle" fill="#768390" stroke-width="2">']
+    names = [f"{count // 10**6} M" if count >= 10**6 else f"{count:,}" for count in counts]
     for left, (title, values) in zip((50, 430), panels):
         low, high = math.log(min(values)), math.log(max(values))
-        at = [(left + 280 * place / max(1, len(values) - 1), 170 - 100 * (math.log(value) - low) / (high - low or 1))
-              for place, value in enumerate(values)]
-        marks.append(f'<text x="{left + 140}" y="25" font-size="15">{title}</text>')
-        marks.append(f'<path d="M{left - 20} 190h320" stroke="#768390" stroke-width="1"/>')
-        marks.append(f'<polyline points="{" ".join(f"{x:.0f},{y:.0f}" for x, y in at)}" fill="none" stroke="#3b82d0"/>')
-        for (x, y), value, count in zip(at, values, counts):
-            name = f"{count // 10**6} M" if count >= 10**6 else f"{count:,}"
-            marks.append(f'<circle cx="{x:.0f}" cy="{y:.0f}" r="4" fill="#3b82d0"/>')
-            marks.append(f'<text x="{x:.0f}" y="{y - 11:.0f}">{value:,.{2 if value < 100 else 0}f}</text>')
-            marks.append(f'<text x="{x:.0f}" y="208">{name}</text>')
-        marks.append(f'<text x="{left + 140}" y="230">lines of the file</text>')
+        places = [(left + 280 * index // (len(values) - 1), round(170 - 100 * (math.log(value) - low) / (high - low)))
+                  for index, value in enumerate(values)]
+        curve = " ".join(f"{x},{y}" for x, y in places)
+        marks.append(f'<text x="{left + 140}" y="25" font-size="15">{title}</text>'
+                     f'<text x="{left + 140}" y="230">lines of the file</text>'
+                     f'<path d="M{left - 20} 190h320" stroke="#768390" stroke-width="1"/>'
+                     f'<polyline points="{curve}" fill="none" stroke="#3b82d0"/>')
+        marks += [f'<circle cx="{x}" cy="{y}" r="4" fill="#3b82d0"/><text x="{x}" y="208">{name}</text>'
+                  f'<text x="{x}" y="{y - 11}">{value:,.{2 if value < 100 else 0}f}</text>'
+                  for (x, y), value, name in zip(places, values, names)]
     return "\n".join([*marks, "</svg>\n"])
-
-
-# ---- Running and measuring ------------------------------------------------------------------
 
 
 def all_cpu():
@@ -180,7 +174,8 @@ class Bench:
             sys.exit(f"{output}\nbench: failed: {program.command}")
         cpu = used.ru_utime + used.ru_stime
         return Run(wall, used.ru_utime, used.ru_stime, cpu, max(0.0, all_cpu() - before - cpu),
-                   int(Path("peak").read_text()) * 1024 / 1e6, sum(path.stat().st_size for path in written) / 1e6, output)
+                   int(Path("peak").read_text()) * 1024 / 1e6,
+                   sum(path.stat().st_size for path in written) / 1e6, output)
 
     def in_turn(self, programs, check=lambda: None):
         """The runs of each program by its name, after one for warming up, which `check` follows."""
@@ -206,25 +201,21 @@ class Bench:
         return results
 
 
-# ---- The sections ---------------------------------------------------------------------------
-
-
 def machine(bench):
-    cpu = Path("/proc/cpuinfo").read_text()
-    memory = os.sysconf("SC_PAGE_SIZE") * os.sysconf("SC_PHYS_PAGES") / 1e9
-    compiler = re.search(r"^CMAKE_CXX_COMPILER:\w+=(.*)", (TREE / "CMakeCache.txt").read_text(), re.M)[1]
-
     def answer(*command):
         return subprocess.run(command, capture_output=True, text=True, check=True).stdout.splitlines()
 
+    cpu = Path("/proc/cpuinfo").read_text()
+    compiler = re.search(r"^CMAKE_CXX_COMPILER:\w+=(.*)", (TREE / "CMakeCache.txt").read_text(), re.M)[1]
+    gdal = answer("ogr2ogr", "--version")[0].split(",")[0] if shutil.which("ogr2ogr") else "no GDAL"
     bench.show(f"""Measured on {time.strftime("%Y-%m-%d")} with `./dev bench`.
 
 - Processor: {re.search("^model name[^:]*: (.*)", cpu, re.M)[1]}, {os.cpu_count()} cores\
-{", in a virtual machine" if re.search("^flags.* hypervisor", cpu, re.M) else ""}; {memory:.0f} GB of memory; \
+{", in a virtual machine" if re.search("^flags.* hypervisor", cpu, re.M) else ""}; \
+{os.sysconf("SC_PAGE_SIZE") * os.sysconf("SC_PHYS_PAGES") / 1e9:.0f} GB of memory; \
 load average at the start: {" ".join(f"{load:.2f}" for load in os.getloadavg())}
-- Kernel: {platform.system()} {platform.release()}; files on {answer("df", "--output=fstype", ".")[-1]}
-- Compiler: {answer(compiler, "--version")[0]}; \
-{answer("ogr2ogr", "--version")[0].split(",")[0] if shutil.which("ogr2ogr") else "no GDAL"}
+- Kernel: {os.uname().sysname} {os.uname().release}; files on {answer("df", "--output=fstype", ".")[-1]}
+- Compiler: {answer(compiler, "--version")[0]}; {gdal}
 
 Programs that are compared take turns; figures are smallest / median / largest; MB are millions of bytes.
 
@@ -279,34 +270,27 @@ and writes points only; with labels, it writes them as MTEXT, without a group.
     bench.show(comparison(bench.in_turn(with_script), []) + "\n")
 
 
-def counts_of(points):
-    return [count for count in (10**power for power in range(3, 8)) if count <= 10 * points]
-
-
 def growth(bench):
     """time and memory by number of lines"""
-    counts = counts_of(bench.points)
-    bench.show("## By number of lines\n\n")
+    counts = [10**power for power in range(3, 8) if 10**power <= 10 * bench.points]
     results = bench.in_turn([Program(f"{count:,}", f"vexo-xyz survey_{count}.csv -o out_growth.dxf",
                                      slow=count > bench.points) for count in counts])
     Path(f"survey_{counts[-1]}.csv").unlink()
-
-    def by_count(what):
-        return [median(getattr(run, what) for run in runs) for runs in results.values()]
-
-    each = {what: [value / count * 1e6 for value, count in zip(by_count(what), counts)] for what in ("wall", "cpu", "peak")}
+    a_line = {what: [median(column(runs, what)) / count * 1e6 for runs, count in zip(results.values(), counts)]
+              for what in ("wall", "user", "cpu", "peak")}
+    bench.show("## By number of lines\n\n")
     bench.show(table(
         ["lines", "wall time, ms", "user, ms", "system, ms", "peak memory, MB", "wall time a line, µs",
          "CPU time a line, µs", "memory a line, bytes", "runs"],
-        [[name, *(spread(column(runs, what), 1, 1e3) for what in ("wall", "user", "system")), spread(column(runs, "peak"), 0),
-          f"{wall:.2f}", f"{cpu:.2f}", f"{peak:,.0f}", str(len(runs))]
-         for (name, runs), wall, cpu, peak in zip(results.items(), *each.values())]))
+        [[name, *(spread(column(runs, what), 1, 1e3) for what in ("wall", "user", "system")),
+          spread(column(runs, "peak"), 0), f"{wall:.2f}", f"{cpu:.2f}", f"{peak:,.0f}", str(len(runs))]
+         for (name, runs), wall, _, cpu, peak in zip(results.items(), *a_line.values())]))
     for what, title, limit in (("user", "user time", 11.5), ("peak", "peak memory", 11)):
-        tenth, largest = by_count(what)[-2:]
-        bench.show(goal(f"{title} of the largest by that of a tenth of its lines", largest / tenth, limit, 1))
+        bench.show(goal(f"{title} of the most lines by that of a tenth of them",
+                        10 * a_line[what][-1] / a_line[what][-2], limit, 1))
     if bench.page:
-        panels = ("CPU time a line, µs", each["cpu"]), ("peak memory a line, bytes", each["peak"])
-        bench.page.with_name("growth.svg").write_text(chart(panels, counts), encoding="utf-8")
+        svg = chart(counts, ("CPU time a line, µs", a_line["cpu"]), ("peak memory a line, bytes", a_line["peak"]))
+        bench.page.with_name("growth.svg").write_text(svg, encoding="utf-8")
         bench.show("\n![CPU time and memory a line, by the number of lines](growth.svg)\n")
     bench.show("\n")
 
@@ -316,17 +300,16 @@ def phases(bench):
     program = Program("phases", f"phases survey_{bench.points}.csv out_phases.dxf")
     steps, (runs,) = defaultdict(list), bench.in_turn([program]).values()
     for run in runs:
-        lines = [line.split("\t") for line in run.output.splitlines()]
-        for name, *used in lines:
+        rest = [run.wall, run.cpu]
+        for name, *used in (line.split("\t") for line in run.output.splitlines()):
             steps[name].append([float(one) for one in used])
-        steps["start and end of the process"].append(
-            [run.wall - sum(float(wall) for _, wall, _, _ in lines), run.cpu - sum(float(cpu) for _, _, cpu, _ in lines)])
+            rest = [left - one for left, one in zip(rest, steps[name][-1])]
+        steps["start and end of the process"].append(rest)
         steps["the whole process"].append([run.wall, run.cpu])
-    total = median(run.wall for run in runs)
-    rows = []
+    rows, whole_time = [], median(column(runs, "wall"))
     for name, each in steps.items():
         wall, cpu, *pages = zip(*each)
-        rows.append([name, spread(wall, 0, 1e3), spread(cpu, 0, 1e3), f"{median(wall) / total:.0%}",
+        rows.append([name, spread(wall, 0, 1e3), spread(cpu, 0, 1e3), f"{median(wall) / whole_time:.0%}",
                      f"{median(pages[0]):,.0f}" if pages else ""])
     bench.show(f"""## Where the time goes, {bench.points:,} lines
 
@@ -357,8 +340,8 @@ def micro(bench):
             rows.append([topic, f"`{function}`", shown, f"{baseline / speed:.2f}"])
     bench.show(f"""## Single functions
 
-`microbench`: CPU time, medians of 9 repetitions in random order. A baseline is work that nobody gets around, measured in
-the same run: absolute times depend on the machine and what else it does, the ratio hardly.
+`microbench`: CPU time, medians of 9 repetitions in random order. A baseline is work that nobody gets around, measured
+in the same run: absolute times depend on the machine and what else it does, the ratio hardly.
 
 {table(["on", "function", "speed", "time by the baseline's"], rows, words=2)}""")
     pairs = {function: median(rates) for function, rates in groups["coordinates, per pair"].items()}
@@ -391,26 +374,14 @@ def script(bench):
     results = bench.in_turn([Program(name, f"host_share.py {modules} {host} survey_{points}.csv")
                              for name, host in (("the tests' strict stand-in", stand_in), ("a mute host", "mute"))])
     times = {name: [float(run.output) for run in runs] for name, runs in results.items()}
-    share = median(mute / strict for strict, mute in zip(*times.values()))
+    share = 100 * median(mute / strict for strict, mute in zip(*times.values()))
     bench.show("## The module in the scripting layer\n\n")
     bench.show(table([f"import of {points:,} points through", "seconds"],
                      [[name, spread(seconds, 2)] for name, seconds in times.items()]))
-    bench.show(goal("the module's own share, siblings and the cost of calling included", 100 * share, 12, 1, " %"))
+    bench.show(goal("the module's own share, siblings and the cost of calling included", share, 12, 1, " %") + "\n")
 
 
 SECTIONS = {section.__name__: section for section in (whole, growth, phases, micro, workbook, script)}
-
-
-# ---- What is asked for ----------------------------------------------------------------------
-
-
-def around_results(page):
-    """What stands before and after the place for the results."""
-    before, begin, rest = page.read_text("utf-8").partition(BEGIN)
-    _, end, after = rest.partition(END)
-    if not begin or not end:
-        sys.exit(f"bench: {page} lacks the lines that say where the results go")
-    return before, after
 
 
 def arguments():
@@ -419,33 +390,30 @@ def arguments():
         epilog="sections:\n" + "\n".join(f"  {name:9} {section.__doc__}" for name, section in SECTIONS.items()))
     parser.add_argument("sections", nargs="*", metavar="SECTION", help="all of them unless named")
     parser.add_argument("--in", dest="folder", metavar="DIR", type=Path, default=Path(tempfile.gettempdir()),
-                        help="folder for the files, some 4.5 GB (default: $TMPDIR, else /tmp); all are removed at the end")
+                        help="folder for the files, some 4.5 GB, all removed at the end (default: $TMPDIR, else /tmp)")
     parser.add_argument("--points", metavar="N", type=int, default=1_000_000,
                         help="lines of the large file (default: %(default)s); up to ten times as many in growth")
     parser.add_argument("--runs", metavar="N", type=int, default=5,
                         help="runs of each program, in turn (default: %(default)s); half as many of slow ones")
     parser.add_argument("--write", metavar="FILE", type=Path,
-                        help=f"also put the results into FILE, between the lines {BEGIN.strip()} and {END.strip()}, and "
-                             "growth.svg beside it; only with all sections")
+                        help="put the results of all sections into FILE, too, between its lines `<!-- measured: … -->`,"
+                             " and growth.svg beside it")
     asked = parser.parse_args()
-    if unknown := set(asked.sections) - set(SECTIONS):
-        parser.error(f"no such section: {', '.join(unknown)}")
+    if not set(asked.sections) <= set(SECTIONS):
+        parser.error(f"the sections are: {', '.join(SECTIONS)}")
     if asked.points < 1000 or asked.runs < 1:
         parser.error("--points takes a number from 1000 on, --runs one from 1 on")
-    if asked.write:
-        if asked.sections:
-            parser.error("--write takes no sections: the page would lose the others")
-        asked.write = asked.write.resolve()
-        around_results(asked.write)
+    if asked.write and asked.sections:
+        parser.error("--write takes no sections: the page would lose the others")
+    if asked.write and not PLACE.search(asked.write.read_text("utf-8")):
+        parser.error(f"{asked.write} lacks the lines between which the results go")
     return asked
 
 
 def main():
     asked = arguments()
-    names = asked.sections or SECTIONS
-    needed = max(2_000 * asked.points, 450 * counts_of(asked.points)[-1] if "growth" in names else 0) / 1e6
-    if not asked.folder.is_dir():
-        sys.exit(f"bench: no such folder: {asked.folder}")
+    names, page = asked.sections or SECTIONS, asked.write and asked.write.resolve()
+    needed = asked.points * (4_500 if "growth" in names else 2_000) / 1e6  # MB
     if (free := shutil.disk_usage(asked.folder).free / 1e6) < needed:
         sys.exit(f"bench: {asked.folder} has {free:.0f} MB free, {needed:.0f} are needed (--in DIR chooses another)")
     for number in (signal.SIGTERM, signal.SIGHUP):
@@ -454,18 +422,18 @@ def main():
         os.chdir(work)
         os.environ.update(PATH=f"{TREE}:{TREE}/bench:{ROOT}/bench:{os.environ['PATH']}", PYTHONDONTWRITEBYTECODE="1",
                           LC_ALL="C", XDG_STATE_HOME=work, VEXO_RYNEK="PL")  # neither this user's log nor country
-        bench = Bench(asked.points, asked.runs, asked.write)
+        bench = Bench(asked.points, asked.runs, page)
         bench.say(f"working in {work}, which takes up to {needed:.0f} MB and is removed at the end")
         machine(bench)
         for name in names:
             SECTIONS[name](bench)
-    if asked.write:
-        before, after = around_results(asked.write)
-        asked.write.write_text(f"{before}{BEGIN}{''.join(bench.results).strip()}\n{END}{after}", encoding="utf-8")
+    if page:
+        results = "".join(bench.results).strip()
+        page.write_text(PLACE.sub(lambda _: f"{results}\n", page.read_text("utf-8")), encoding="utf-8")
 
 
 if __name__ == "__main__":
     try:
         main()
-    except KeyboardInterrupt:
-        sys.exit("bench: interrupted")
+    except (KeyboardInterrupt, OSError) as failure:
+        sys.exit(f"bench: {failure or 'interrupted'}")

@@ -15,13 +15,11 @@ def mute_host(file):
         return lambda *arguments: value
 
     ok = object()
-    opened = {"close": answering(ok), "setHeight": answering(ok), "setTextStyle": answering(ok), "append": answering(ok),
-              "has": answering(True), "setName": answering(None), "setFileName": answering(None)}
 
     def kind(**methods):
-        return types.SimpleNamespace(**{**opened, **methods})
+        quiet = ("close", "setHeight", "setTextStyle", "append", "has", "setName", "setFileName")
+        return types.SimpleNamespace(**{**{name: answering(ok) for name in quiet}, **methods})
 
-    entity, group = kind(), kind()
     table = kind(getAt=answering((ok, kind(appendGcDbEntity=answering((ok, 1))))))
     styles = kind(getAt=answering((ok, 1)))
     groups = kind(has=answering(False), setAt=answering((ok, 1)))
@@ -39,25 +37,21 @@ def mute_host(file):
         gcedInitGet=answering(1), gcedGetKword=answering((2, "")), gcedSetVar=answering(1),
         resbuf=lambda: types.SimpleNamespace(resval=types.SimpleNamespace()), Gcad=types.SimpleNamespace(eOk=ok),
         GcDb=types.SimpleNamespace(kForRead=5, kForWrite=6), gcdbWorkingDatabase=answering(database),
-        GcGePoint3d=answering(entity), GcDbPoint=answering(entity), GcDbText=answering(entity), GcDbGroup=answering(group),
-        GcDbObjectIdArray=answering(kind()), GcDbTextStyleTableRecord=answering(kind()))
+        **{name: answering(kind()) for name in (
+            "GcGePoint3d", "GcDbPoint", "GcDbText", "GcDbGroup", "GcDbObjectIdArray", "GcDbTextStyleTableRecord")})
     sys.modules["pygcad.core"] = host
     for name in ("pygcad", "pygcad.core.runtime", "pygcad.pygrx"):
         sys.modules[name] = types.ModuleType(name)
 
 
-def main(modules, stand_in, file):
-    sys.path[:0] = [modules, stand_in]
-    if stand_in == "mute":
-        mute_host(file)
-    else:
-        from pygcad.stand_in import session
-        session.file = file
-    import vexo_xyz_impl
-    start = time.perf_counter()
-    vexo_xyz_impl.importxyz()
-    print(time.perf_counter() - start)
-
-
-if __name__ == "__main__":
-    main(*sys.argv[1:])
+modules, stand_in, survey = sys.argv[1:]
+sys.path[:0] = [modules, stand_in]
+if stand_in == "mute":
+    mute_host(survey)
+else:
+    from pygcad.stand_in import session
+    session.file = survey
+import vexo_xyz_impl
+start = time.perf_counter()
+vexo_xyz_impl.importxyz()
+print(time.perf_counter() - start)

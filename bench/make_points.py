@@ -36,11 +36,6 @@ def points(count):
         yield number, NORTH + int(draw() * SIDE), EAST + int(draw() * SIDE), LOW + int(draw() * (HIGH - LOW))
 
 
-def in_random_order(count):
-    draw = random.Random(SEED + 1).random
-    return sorted(range(1, count + 1), key=lambda _: draw())
-
-
 def decimal(millimetres, mark="."):
     return f"{millimetres // 1000}{mark}{millimetres % 1000:03d}"
 
@@ -49,8 +44,8 @@ def label(number):
     return f"PKT-{number:07d}"
 
 
-def survey_line(name, north, east, height):
-    return f"{name};{decimal(north, ',')};{decimal(east, ',')};{decimal(height, ',')}\r\n"
+def survey_line(name, *values):
+    return f"{name};{';'.join(decimal(value, ',') for value in values)}\r\n"
 
 
 def plain_line(north, east, height):
@@ -61,7 +56,9 @@ def lines(kind, count):
     if kind == "survey":
         yield from (survey_line(*point) for point in points(count))
     elif kind == "shuffled":
-        yield from (survey_line(label(number), *at) for number, (_, *at) in zip(in_random_order(count), points(count)))
+        draw = random.Random(SEED + 1).random
+        order = sorted(range(1, count + 1), key=lambda _: draw())
+        yield from (survey_line(label(number), *at) for number, (_, *at) in zip(order, points(count)))
     elif kind == "plain":
         yield "x,y,z\n"
         yield from (plain_line(*at) for _, *at in points(count))

@@ -2,15 +2,13 @@
 //
 //     microbench SURVEY [--benchmark_…]
 //
-// SURVEY is a file of make_points.py. A benchmark is named GROUP/FUNCTION or GROUP/baseline: WHAT. Functions are
-// compared with the baseline of their own group and run, which a busy machine slows down as much; they count the same
-// items.
+// SURVEY is a file of make_points.py of 100,000 lines. Functions, named GROUP/FUNCTION, are compared with the baseline
+// of their own group and run, which a busy machine slows down as much; they count the same items.
 #include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
 #include <cstddef>
-#include <cstring>
 #include <fstream>
 #include <iterator>
 #include <span>
@@ -72,8 +70,6 @@ std::string in_threes(std::string number, std::string_view blank) {
   return number;
 }
 
-// ---- The functions, by group -----------------------------------------------------------------------------------
-
 void reading(const std::vector<char>& survey) {
   static const std::vector<char> text(survey.begin(), survey.begin() + std::min(survey.size(), kReadBytes));
   add("reading, per byte/table_from_bytes", text.size(), [] {
@@ -82,11 +78,8 @@ void reading(const std::vector<char>& survey) {
   });
   add("reading, per byte/baseline: lines counted with memchr", text.size(), [] {
     std::size_t lines = 0;
-    const char* const end = text.data() + text.size();
-    const void* at = text.data();
-    for (; (at = std::memchr(at, '\n', static_cast<std::size_t>(end - static_cast<const char*>(at)))) != nullptr;
-         ++lines)
-      at = static_cast<const char*>(at) + 1;
+    const std::string_view all(text.data(), text.size());
+    for (std::size_t at = 0; (at = all.find('\n', at)) != all.npos; ++at) ++lines;
     benchmark::DoNotOptimize(lines);
   });
 }
@@ -149,18 +142,7 @@ void coordinates(const std::vector<Position>& points) {
   });
 }
 
-// A console into which the module is loaded, for the market's tables.
-void load_module() {
-  static std::istringstream no_answers;
-  static std::ostringstream printed;
-  static const auto lines = console::lines_of_stream(no_answers, printed);
-  static console::SessionOptions options;
-  options.choice.market = "PL";
-  static console::Session session(options, *lines, printed);
-}
-
 void table(const std::vector<Row>& rows) {
-  load_module();
   add("table of 100,000 rows, per row/_wykryj_format", rows.size(),
       [&rows] { benchmark::DoNotOptimize(vexo_xyz_impl::_wykryj_format(rows).fmt); });
   add("table of 100,000 rows, per row/_rozbierz", rows.size(), [&rows] {
@@ -172,10 +154,8 @@ void table(const std::vector<Row>& rows) {
   });
 }
 
-constexpr double kLabelHeight = 200.0;  // what the import chooses for ten kilometres
-constexpr double kLabelOffset = 120.0;
-
-Position label_at(const Position& point) { return {point.x + kLabelOffset, point.y + kLabelOffset, point.z}; }
+// At the distance that the import chooses for ten kilometres.
+Position label_at(const Position& point) { return {point.x + 120.0, point.y + 120.0, point.z}; }
 
 console::Drawing grouped_drawing(const std::vector<Position>& points) {
   console::Drawing drawing;
@@ -187,7 +167,7 @@ console::Drawing grouped_drawing(const std::vector<Position>& points) {
       group.members.push_back(drawing.add(console::Entity{0, geometry}).value());
     };
     take(console::PointGeometry{point});
-    take(console::TextGeometry{label_at(point), kLabelHeight, style, std::to_string(++count)});
+    take(console::TextGeometry{label_at(point), 200.0, style, std::to_string(++count)});
   }
   drawing.add(std::move(group));
   return drawing;
@@ -229,6 +209,12 @@ int main(int argc, char** argv) {
     const auto number = [&](std::size_t column) { return vexo_xyz_impl::parse_number(row[column]).value(); };
     points.push_back({number(2), number(1), number(3)});
   }
+  std::istringstream no_answers;
+  std::ostringstream printed;
+  const auto lines = console::lines_of_stream(no_answers, printed);
+  console::SessionOptions options;
+  options.choice.market = "PL";
+  const console::Session session(options, *lines, printed);  // loads the module: the market's tables are asked for
   reading(survey);
   numbers(rows);
   coordinates(points);

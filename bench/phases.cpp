@@ -8,7 +8,6 @@
 #include <chrono>
 #include <cstdio>
 #include <ctime>
-#include <exception>
 #include <filesystem>
 #include <memory>
 #include <optional>
@@ -156,17 +155,11 @@ void save(const console::Drawing& drawing, const std::string& target, Steps& ste
 
 int main(int argc, char** argv) {
   if (argc != 3) return 2;
-  try {
-    Console console(argv[1]);
-    Steps steps;
-    import(argv[1], steps);
-    save(console.database->drawing(), argv[2], steps);
-    console.database.reset();
-    steps.done("release the drawing");
-    steps.print();
-    return 0;
-  } catch (const std::exception& failure) {
-    std::fprintf(stderr, "phases: %s\n", failure.what());
-    return 1;
-  }
+  Console console(argv[1]);
+  Steps steps;
+  import(argv[1], steps);
+  save(console.database->drawing(), argv[2], steps);
+  console.database.reset();
+  steps.done("release the drawing");
+  steps.print();
 }
