@@ -32,7 +32,7 @@ PLACE = re.compile("(?<=<!-- measured: begin -->\n).*(?=<!-- measured: end -->\n
 
 
 class Program(NamedTuple):
-    """In a command, files called KIND_COUNT.… are made before it runs; those called out_… it writes."""
+    """Of the files that a command names, KIND_COUNT.… are made before it runs, and it writes out_… itself."""
     name: str
     command: str
     needs: str = "sys"  # a module of Python
@@ -71,9 +71,8 @@ def table(head, rows, words=1):
 
 
 def comparison(results, goals):
-    """Figures of all programs, the first one's by those of each other; whether goals (one, other, figure, limit) are met."""
-    ours = next(iter(results))
-    shown = (("wall", 2), ("cpu", 2), ("system", 2), ("peak", 0))
+    """Figures of all programs, the first one's by those of the others; goals: (one, other, figure, limit of the ratio)."""
+    ours, shown = next(iter(results)), (("wall", 2), ("cpu", 2), ("system", 2), ("peak", 0))
 
     def ratios(one, other, what):
         return [a / b for a, b in zip(column(results[one], what), column(results[other], what))]
@@ -113,11 +112,11 @@ def chart(counts, *panels):
                   for index, value in enumerate(values)]
         curve = " ".join(f"{x},{y}" for x, y in places)
         marks.append(f'<text x="{left + 140}" y="25" font-size="15">{title}</text>'
-                     f'<text x="{left + 140}" y="230">lines of the file</text>'
+                     f'<text x="{left + 140}" y="230">lines of the file (both axes are logarithmic)</text>'
                      f'<path d="M{left - 20} 190h320" stroke="#768390" stroke-width="1"/>'
                      f'<polyline points="{curve}" fill="none" stroke="#3b82d0"/>')
         marks += [f'<circle cx="{x}" cy="{y}" r="4" fill="#3b82d0"/><text x="{x}" y="208">{name}</text>'
-                  f'<text x="{x}" y="{y - 11}">{value:,.{2 if value < 100 else 0}f}</text>'
+                  f'<text x="{x + 14}" y="{y - 10}">{value:,.{2 if value < 100 else 0}f}</text>'
                   for (x, y), value, name in zip(places, values, names)]
     return "\n".join([*marks, "</svg>\n"])
 
@@ -133,7 +132,7 @@ class Bench:
 
     def __init__(self, points, runs, page):
         self.points, self.runs, self.page = points, runs, page
-        self.results = []
+        self.results, self.growth = [], ""
 
     def show(self, text):
         self.results.append(text)
@@ -144,13 +143,12 @@ class Bench:
         print(f"bench: {text}", file=sys.stderr, flush=True)
 
     def made(self, command):
-        """The files that the command reads, made unless they are there."""
-        files = re.findall(rf"\b(({'|'.join(make_points.KINDS)})_(\d+)\.\w+)", command)
-        for path, kind, count in files:
+        """The command, when there are the files that it reads."""
+        for path, kind, count in re.findall(rf"\b(({'|'.join(make_points.KINDS)})_(\d+)\.\w+)", command):
             if not os.path.exists(path):
                 self.say(f"making {path}")
                 make_points.make(kind, int(count), path)
-        return [Path(path) for path, _, _ in files]
+        return command
 
     def measured(self, program):
         written = [Path(word) for word in program.command.split() if word.startswith("out_")]
@@ -158,7 +156,7 @@ class Bench:
             path.unlink(missing_ok=True)
         subprocess.run(["sync", "-f", "."], check=True)
         # A child's peak memory counts from the size of its parent: `time` is a small one.
-        command = ["/usr/bin/time", "-o", "peak", "-f", "%M", *shlex.split(program.command)]
+        command = ["/usr/bin/time", "-o", "peak", "-f", "%M", *shlex.split(self.made(program.command))]
         before, begun = all_cpu(), time.perf_counter()
         with open("output", "wb") as output, subprocess.Popen(command, stdin=subprocess.DEVNULL, stdout=output,
                                                               stderr=output, start_new_session=True) as process:
@@ -184,12 +182,8 @@ class Bench:
         if missing := [f"`{program.name}`" for program in programs if program not in there]:
             self.show(f"Left out, as not installed: {', '.join(missing)}.\n\n")
         results = {program.name: [] for program in there}
-        for program in there:
-            self.made(program.command)
         for number in range(self.runs + 1):
-            for program in there:
-                if program.slow and number > max(1, self.runs // 2):
-                    continue
+            for program in (one for one in there if not one.slow or number <= max(1, self.runs // 2)):
                 self.say(f"{program.name}: {f'run {number} of {self.runs}' if number else 'warming up'}")
                 run = self.measured(program)
                 if number > 0:
@@ -244,7 +238,7 @@ def whole(bench):
         Program("ogr2ogr, points and labels",
                 f'ogr2ogr -f DXF out_labelled.dxf labelled_{n}.csv {columns} -dialect SQLite -sql "{both}"', slow=True)]
     with_script = [Program("vexo-xyz", f"vexo-xyz survey_{few}.csv -o out_few.dxf"),
-                   Program("ezdxf", f"with_ezdxf.py survey_{few}.csv out_ezdxf.dxf", needs="ezdxf")]
+                   Program("ezdxf", f"with_ezdxf.py survey_{few}.csv out_ezdxf.dxf", needs="ezdxf", slow=True)]
 
     def check():
         same = [len(set(points)) == 1 for points in zip(*map(points_of, Path().glob("out_*.dxf")), strict=True)]
@@ -257,8 +251,7 @@ def whole(bench):
 is on the disk. `floor` goes straight to the same entities, without checks and waiting. `ogr2ogr` reads coordinates only
 and writes points only; with labels, it writes them as MTEXT, without a group.
 
-    {"{}    ".format(chr(10)).join(program.command for program in programs + with_script)}
-
+{"".join(f"    {program.command}{os.linesep}" for program in programs + with_script)}
 """)
     results = bench.in_turn(programs, check)
     bench.show(comparison(results, [
@@ -288,11 +281,8 @@ def growth(bench):
     for what, title, limit in (("user", "user time", 11.5), ("peak", "peak memory", 11)):
         bench.show(goal(f"{title} of the most lines by that of a tenth of them",
                         10 * a_line[what][-1] / a_line[what][-2], limit, 1))
-    if bench.page:
-        svg = chart(counts, ("CPU time a line, µs", a_line["cpu"]), ("peak memory a line, bytes", a_line["peak"]))
-        bench.page.with_name("growth.svg").write_text(svg, encoding="utf-8")
-        bench.show("\n![CPU time and memory a line, by the number of lines](growth.svg)\n")
-    bench.show("\n")
+    bench.growth = chart(counts, ("CPU time a line, µs", a_line["cpu"]), ("peak memory a line, bytes", a_line["peak"]))
+    bench.show("\n![CPU time and memory a line, by the number of lines](growth.svg)\n\n" if bench.page else "\n")
 
 
 def phases(bench):
@@ -321,11 +311,9 @@ those of 4 KiB of memory that a step touches for the first time.
 
 def micro(bench):
     """single functions, each beside a baseline"""
-    program = Program("micro, which takes a minute or two", "microbench survey_100000.csv --benchmark_out=micro.json"
-                      " --benchmark_repetitions=9 --benchmark_min_time=0.1 --benchmark_enable_random_interleaving=true")
-    bench.made(program.command)
-    bench.say(program.name)
-    bench.measured(program)
+    bench.say("micro: this takes a minute or two")
+    bench.measured(Program("", "microbench survey_100000.csv --benchmark_out=micro.json --benchmark_repetitions=9"
+                           " --benchmark_min_time=0.1 --benchmark_enable_random_interleaving=true"))
     groups = defaultdict(lambda: defaultdict(list))  # group, function: items a second
     for one in sorted(json.loads(Path("micro.json").read_text())["benchmarks"], key=lambda one: one["family_index"]):
         if one["run_type"] == "iteration":
@@ -358,7 +346,7 @@ def workbook(bench):
                 Program("ogr2ogr to CSV", f"ogr2ogr -f CSV out_gdal.csv {path}"),
                 Program("openpyxl, read-only", f'/usr/bin/python3 -c "{script}" {path}', needs="openpyxl", slow=True),
                 Program("xlsx2csv", f"xlsx2csv {path} out_xlsx2csv.csv", slow=True)]
-    with zipfile.ZipFile(*bench.made(path)) as package:
+    with zipfile.ZipFile(bench.made(path)) as package:
         unpacked = sum(package.getinfo(name).file_size for name in (make_points.SHEET, make_points.SHARED)) / 1e6
     bench.show(f"## A workbook of {bench.points // 5:,} rows and four columns, {unpacked:.0f} MB unpacked\n\n")
     results = bench.in_turn(programs)
@@ -403,10 +391,8 @@ def arguments():
         parser.error(f"the sections are: {', '.join(SECTIONS)}")
     if asked.points < 1000 or asked.runs < 1:
         parser.error("--points takes a number from 1000 on, --runs one from 1 on")
-    if asked.write and asked.sections:
-        parser.error("--write takes no sections: the page would lose the others")
-    if asked.write and not PLACE.search(asked.write.read_text("utf-8")):
-        parser.error(f"{asked.write} lacks the lines between which the results go")
+    if asked.write and (asked.sections or not PLACE.search(asked.write.read_text("utf-8"))):
+        parser.error("--write takes a file with the lines between which the results go, and no section")
     return asked
 
 
@@ -429,6 +415,7 @@ def main():
             SECTIONS[name](bench)
     if page:
         results = "".join(bench.results).strip()
+        page.with_name("growth.svg").write_text(bench.growth, encoding="utf-8")
         page.write_text(PLACE.sub(lambda _: f"{results}\n", page.read_text("utf-8")), encoding="utf-8")
 
 
@@ -436,4 +423,4 @@ if __name__ == "__main__":
     try:
         main()
     except (KeyboardInterrupt, OSError) as failure:
-        sys.exit(f"bench: {failure or 'interrupted'}")
+        sys.exit(f"bench: {str(failure) or 'interrupted'}")

@@ -65,8 +65,8 @@ void add_each(const char* name, const std::vector<Item>& items, Work work) {
 
 // "5 788 410,03": the whole part in threes; a label stays as it is.
 std::string in_threes(std::string number, std::string_view blank) {
-  if (number.find(',') == std::string::npos) return number;
-  for (std::size_t at = number.find(','); at > 3; at -= 3) number.insert(at - 3, blank);
+  const std::size_t mark = number.find(',');
+  for (std::size_t at = mark; mark != number.npos && at > 3; at -= 3) number.insert(at - 3, blank);
   return number;
 }
 
