@@ -81,9 +81,9 @@ def comparison(results, goals):
         ["", "wall time, s", "CPU time (user + system), s", "of it system, s", "peak memory, MB", "written, MB"],
         [[f"`{name}`", *(spread(column(runs, what), digits) for what, digits in shown),
           f"{runs[-1].size:,.1f}" if runs[-1].size else ""] for name, runs in results.items()])
-    text += table([f"`{ours}` by", "ratio of wall times", "ratio of CPU times", "runs"],
-                  [[f"`{name}`", *(spread(ratios(ours, name, what), 3) for what in ("wall", "cpu")), str(len(runs))]
-                   for name, runs in results.items() if name != ours])
+    others = [[f"`{name}`", *(spread(ratios(ours, name, what), 3) for what in ("wall", "cpu")), str(len(runs))]
+              for name, runs in results.items() if name != ours]
+    text += table([f"`{ours}` by", "ratio of wall times", "ratio of CPU times", "runs"], others) if others else ""
     for one, other, what, limit in goals:
         if other in results:
             text += goal(f"{what.replace('cpu', 'CPU')} time of `{one}` by that of `{other}`, median of the runs",
