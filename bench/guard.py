@@ -1,4 +1,4 @@
-#!/usr/bin/env python3
+#!/usr/bin/python3
 """Holds what an import costs against the figures kept in guard.json: guard.py TREE [--write]
 
 Instructions are counted by callgrind, which a busy machine does not disturb; pages touched and the peak of memory show
@@ -12,8 +12,7 @@ import subprocess
 import sys
 import tempfile
 
-from make_points import survey_lines, write
-from workbook import write_workbook
+from make_points import make
 
 KEPT = os.path.join(os.path.dirname(os.path.abspath(__file__)), "guard.json")
 ALLOWED = 1.03
@@ -38,12 +37,12 @@ def measured(tree, folder):
 
     def survey(lines):
         path = os.path.join(folder, f"{lines}.csv")
-        write(path, survey_lines(lines))
+        make("survey", lines, path)
         return [path, "--force", "-o", drawing]
 
     def workbook(rows):
         path = os.path.join(folder, f"{rows}.xlsx")
-        write_workbook(path, rows)
+        make("workbook", rows, path)
         return [path]
 
     def a_row(binary, arguments):

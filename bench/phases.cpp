@@ -2,14 +2,13 @@
 //
 //     phases FILE OUT.dxf
 //
-// Prints a line for each step: its name, its wall time in seconds, the pages it touched for the first time; separated
-// by tabs. The steps are those of the command and of the session (command/import.cpp, console/session.cpp), in their
-// order, and memory is released where they release it.
+// Prints a line for each step: its name, its wall and its CPU time in seconds, the pages it touched for the first time;
+// separated by tabs. The steps are those of the command and of the session (command/import.cpp, console/session.cpp),
+// in their order, and memory is released where they release it.
 #include <chrono>
 #include <cstdio>
-#include <exception>
+#include <ctime>
 #include <filesystem>
-#include <iostream>
 #include <memory>
 #include <optional>
 #include <sstream>
@@ -17,6 +16,7 @@
 #include <string>
 #include <string_view>
 #include <utility>
+#include <valarray>
 #include <vector>
 
 #include <sys/resource.h>
@@ -37,63 +37,48 @@
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
-using Seconds = std::chrono::duration<double>;
+// Seconds of wall time and of CPU time, pages touched for the first time: of this process so far, or of a part of it.
+using Usage = std::valarray<double>;
 
-long faults_so_far() {
+Usage so_far() {
   rusage usage{};
   getrusage(RUSAGE_SELF, &usage);
-  return usage.ru_minflt;
+  const std::chrono::duration<double> wall = std::chrono::steady_clock::now().time_since_epoch();
+  return {wall.count(), static_cast<double>(std::clock()) / CLOCKS_PER_SEC, static_cast<double>(usage.ru_minflt)};
 }
 
 class Steps {
  public:
   // Ends the step that began with the last call.
-  void done(std::string_view name, Seconds of_which_not_its_own = {}, long faults_not_its_own = 0) {
-    const auto now = Clock::now();
-    const long faults = faults_so_far();
-    add(name, now - begun_ - of_which_not_its_own, faults - faults_ - faults_not_its_own);
-    faults_ = faults_so_far();
-    begun_ = Clock::now();
+  void done(std::string_view name, const Usage& not_its_own = Usage(3)) {
+    add(name, so_far() - begun_ - not_its_own);
+    begun_ = so_far();
   }
 
-  void add(std::string_view name, Seconds time, long faults) { lines_.push_back({std::string(name), time, faults}); }
+  void add(std::string_view name, const Usage& used) { lines_.emplace_back(name, used); }
 
   void print() const {
-    for (const Line& line : lines_) std::printf("%s\t%.6f\t%ld\n", line.name.c_str(), line.time.count(), line.faults);
+    for (const auto& [name, used] : lines_)
+      std::printf("%s\t%.6f\t%.6f\t%.0f\n", name.c_str(), used[0], used[1], used[2]);
   }
 
  private:
-  struct Line {
-    std::string name;
-    Seconds time;
-    long faults;
-  };
-  std::vector<Line> lines_;
-  long faults_ = faults_so_far();
-  Clock::time_point begun_ = Clock::now();
+  std::vector<std::pair<std::string, Usage>> lines_;
+  Usage begun_ = so_far();
 };
 
 // Tells writing from the formatting around it.
-class TimedSink final : public console::ByteSink {
- public:
-  explicit TimedSink(console::ByteSink& sink) : sink_(sink) {}
+struct TimedSink final : console::ByteSink {
+  explicit TimedSink(console::ByteSink& to) : sink(to) {}
 
   void write(std::string_view bytes) override {
-    const long faults = faults_so_far();
-    const auto begun = Clock::now();
-    sink_.write(bytes);
-    time_ += Clock::now() - begun;
-    faults_ += faults_so_far() - faults;
+    const Usage begun = so_far();
+    sink.write(bytes);
+    used += so_far() - begun;
   }
 
-  [[nodiscard]] Seconds time() const { return time_; }
-  [[nodiscard]] long faults() const { return faults_; }
-
- private:
-  console::ByteSink& sink_;
-  Seconds time_{};
-  long faults_ = 0;
+  console::ByteSink& sink;
+  Usage used = Usage(3);
 };
 
 // A console without a terminal: nothing is answered, what is printed is kept in memory.
@@ -159,35 +144,22 @@ void save(const console::Drawing& drawing, const std::string& target, Steps& ste
   console::AtomicFile file(std::filesystem::path(target).parent_path());
   TimedSink sink(file);
   console::write_dxf(drawing, "ANSI_1250", sink);
-  steps.done("make the DXF text", sink.time(), sink.faults());
-  steps.add("write to the file", sink.time(), sink.faults());
+  steps.done("make the DXF text", sink.used);
+  steps.add("write to the file", sink.used);
   file.flush();
   if (!file.commit(target, true)) throw std::runtime_error("cannot name the drawing " + target);
   steps.done("flush to the disk and rename");
 }
 
-void run(const std::string& path, const std::string& target) {
-  Console console(path);
-  Steps steps;
-  import(path, steps);
-  save(console.database->drawing(), target, steps);
-  console.database.reset();
-  steps.done("release the drawing");
-  steps.print();
-}
-
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (argc != 3) {
-    std::cerr << "usage: phases FILE OUT.dxf\n";
-    return 2;
-  }
-  try {
-    run(argv[1], argv[2]);
-    return 0;
-  } catch (const std::exception& failure) {
-    std::cerr << "phases: " << failure.what() << '\n';
-    return 1;
-  }
+  if (argc != 3) return 2;
+  Console console(argv[1]);
+  Steps steps;
+  import(argv[1], steps);
+  save(console.database->drawing(), argv[2], steps);
+  console.database.reset();
+  steps.done("release the drawing");
+  steps.print();
 }
