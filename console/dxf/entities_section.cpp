@@ -14,6 +14,9 @@ namespace {
 class Reactors {
  public:
   explicit Reactors(const Drawing& drawing) {
+    std::size_t members = 0;
+    for (const Group& group : drawing.groups()) members += group.members.size();
+    pairs_.reserve(members);
     for (const Group& group : drawing.groups())
       for (const Handle member : group.members) pairs_.emplace_back(member, group.handle);
     if (!std::is_sorted(pairs_.begin(), pairs_.end())) std::sort(pairs_.begin(), pairs_.end());  // the import's are
