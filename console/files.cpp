@@ -14,8 +14,6 @@
 namespace console {
 namespace {
 
-constexpr std::size_t kWriteBehind = std::size_t{32} << 20U;  // bytes; keeps the disk busy while tags are made
-
 [[noreturn]] void fail(const std::string& what) { throw std::system_error(errno, std::generic_category(), what); }
 
 // ---- An interrupt must leave no temporary file behind. The handler may touch nothing but plain memory.
@@ -86,15 +84,22 @@ void AtomicFile::write(std::string_view bytes) {
     if (written < 0 && errno == EINTR) continue;
     if (written < 0) fail("writing");
     bytes.remove_prefix(static_cast<std::size_t>(written));
-    unflushed_ += static_cast<std::size_t>(written);
+    size_ += static_cast<std::size_t>(written);
   }
-  if (unflushed_ >= kWriteBehind) {
-    sync_file_range(descriptor_, 0, 0, SYNC_FILE_RANGE_WRITE);  // a hint: its failure shows again at the flush
-    unflushed_ = 0;
-  }
+  if (size_ >= next_step_) begin_step();
+}
+
+// Room for many blocks at once is much cheaper than for each, and the disk is kept busy while tags are made. Both are
+// hints: where they fail, writing or flushing does, or it just takes longer.
+void AtomicFile::begin_step() {
+  const auto end = static_cast<off_t>(size_);
+  fallocate(descriptor_, FALLOC_FL_KEEP_SIZE, end, static_cast<off_t>(kStep));
+  sync_file_range(descriptor_, 0, 0, SYNC_FILE_RANGE_WRITE);
+  next_step_ = size_ + kStep;
 }
 
 void AtomicFile::flush() {
+  if (next_step_ > kStep && ftruncate(descriptor_, static_cast<off_t>(size_)) != 0) fail("writing");  // unused room
   if (fsync(descriptor_) != 0) fail("flushing to the disk");
   const int closing = descriptor_;
   descriptor_ = -1;

@@ -32,9 +32,14 @@ class AtomicFile final : public ByteSink {
   [[nodiscard]] bool commit(const std::filesystem::path& target, bool replace);
 
  private:
+  static constexpr std::size_t kStep = std::size_t{32} << 20U;  // bytes; most drawings are smaller
+
+  void begin_step();
+
   std::string temporary_;
   int descriptor_;
-  std::size_t unflushed_ = 0;  // bytes since the kernel was last asked to write behind
+  std::size_t size_ = 0;
+  std::size_t next_step_ = kStep;
 };
 
 /// `stem`.dxf beside the file at `path`, `stem`_2.dxf and so on for `number` 2 and up.
