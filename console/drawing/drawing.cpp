@@ -32,23 +32,26 @@ std::string lower_case(std::string_view name) {
 }  // namespace
 
 template <class Geometry>
-std::optional<Handle> Drawing::add(Kind kind, Column<Geometry>& all, const Geometry& one) {
+std::optional<Handle> Drawing::place(Kind kind, Column<Geometry>& all, const Geometry& one) {
   constexpr std::uint32_t kMost = 1U << 30U;  // what a slot can number
-  if (!is_sound(one) || all.size() == kMost) return std::nullopt;
+  if (all.size() == kMost) return std::nullopt;
+  all.push_back(one);
   const Handle handle = new_handle();
   slots_.resize(handle - kFirstFree);  // styles and groups have handles too
   slots_.emplace_back().kind = kind;
-  slots_.back().index = static_cast<std::uint32_t>(all.size()) & (kMost - 1);
-  all.push_back(one);
+  slots_.back().index = static_cast<std::uint32_t>(all.size() - 1) & (kMost - 1);
   return handle;
 }
 
-std::optional<Handle> Drawing::add(const PointGeometry& point) { return add(Kind::point, points_, point); }
+std::optional<Handle> Drawing::add(const PointGeometry& point) {
+  return is_sound(point) ? place(Kind::point, points_, point) : std::nullopt;
+}
 
 std::optional<Handle> Drawing::add(TextGeometry text) {
+  if (!is_sound(text)) return std::nullopt;
   const std::span<const char> kept = letters_.keep(text.text);
   text.text = {kept.data(), kept.size()};
-  return add(Kind::text, texts_, text);
+  return place(Kind::text, texts_, text);
 }
 
 std::optional<Handle> Drawing::add(Group group) {

@@ -97,7 +97,7 @@ class Drawing {
  public:
   /// Takes an entity into model space, on layer 0, and gives it its handle; empty when a number of its geometry is not
   /// finite or beyond 1e250, which no file could show to all programs, or when a text has no height. What a text says
-  /// is copied.
+  /// is copied. A drawing holds a billion entities of a kind at most.
   std::optional<Handle> add(const PointGeometry& point);
   std::optional<Handle> add(TextGeometry text);
 
@@ -152,7 +152,7 @@ class Drawing {
     return handle - kFirstFree < slots_.size() ? slots_[handle - kFirstFree] : Slot{};  // wraps below the first
   }
   template <class Geometry>
-  std::optional<Handle> add(Kind kind, Column<Geometry>& all, const Geometry& one);
+  std::optional<Handle> place(Kind kind, Column<Geometry>& all, const Geometry& one);
 
   Handle next_handle_ = kFirstFree;
   std::vector<Slot> slots_;  // by handle above the first free one
