@@ -25,6 +25,7 @@
 #include "console/drawing/database.h"
 #include "console/dxf/dxf_writer.h"
 #include "console/files.h"
+#include "console/kept_memory.h"
 #include "console/sibling_registry.h"
 #include "vexo_xyz_impl/command/insertion.h"
 #include "vexo_xyz_impl/command/module.h"
@@ -112,6 +113,8 @@ void import(const std::string& path, Steps& steps) {
 
   std::optional<Decomposition> read = _rozbierz(verdict->dane, *verdict->fmt);
   if (read->punkty.empty()) throw std::runtime_error("no points");
+  verdict->dane = std::vector<Row>();
+  loaded.rows->forget_rows();
   steps.done("take the rows apart");
 
   if (settle_axes(read->punkty))
@@ -155,6 +158,7 @@ void save(const console::Drawing& drawing, const std::string& target, Steps& ste
 
 int main(int argc, char** argv) {
   if (argc != 3) return 2;
+  console::keep_freed_memory();
   Console console(argv[1]);
   Steps steps;
   import(argv[1], steps);

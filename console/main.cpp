@@ -5,15 +5,14 @@
 #include <cstring>
 #include <exception>
 #include <iostream>
-#include <limits>
 #include <memory>
 #include <string>
 
 #include <CLI/CLI.hpp>
 #include <langinfo.h>
-#include <malloc.h>
 #include <unistd.h>
 
+#include "console/kept_memory.h"
 #include "console/session.h"
 #include "vexo_xyz_impl/command/keywords.h"
 
@@ -95,21 +94,12 @@ int run(const console::SessionOptions& options) {
   return console::Session(options, *lines, std::cout).run();
 }
 
-// What an import frees it soon needs again: kept, it is not fetched from the system page by page once more. The largest
-// blocks are beyond what can be kept, so that a huge file takes no more memory than without.
-void keep_freed_memory() {
-#ifdef __GLIBC__
-  mallopt(M_MMAP_THRESHOLD, 32 << 20);
-  mallopt(M_TRIM_THRESHOLD, std::numeric_limits<int>::max());
-#endif
-}
-
 int run(int argc, char** argv) {
   // A reader that went away or a size limit is an error of writing, not the end of the program.
   std::signal(SIGPIPE, SIG_IGN);
   std::signal(SIGXFSZ, SIG_IGN);
   use_utf8_locale();
-  keep_freed_memory();
+  console::keep_freed_memory();
 
   CLI::App app("Imports a file of surveyed points into a new drawing: a point and its number for each row.",
                "vexo-xyz");
