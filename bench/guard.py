@@ -5,7 +5,9 @@ Instructions are counted by callgrind, which a busy machine does not disturb; pa
 what instructions do not. A figure more than 3 % above the one kept is a failure; --write keeps the new ones.
 """
 import json
+import math
 import os
+import platform
 import re
 import shutil
 import subprocess
@@ -20,7 +22,7 @@ FEW, MANY, LARGE = 1000, 5000, 100_000  # rows
 
 
 def run(command):
-    environment = {**os.environ, "VEXO_RYNEK": "PL", "XDG_STATE_HOME": os.path.dirname(command[-1])}
+    environment = {**os.environ, "VEXO_RYNEK": "PL", "LC_ALL": "C", "XDG_STATE_HOME": os.path.dirname(command[-1])}
     result = subprocess.run(command, stdin=subprocess.DEVNULL, capture_output=True, text=True, env=environment)
     if result.returncode != 0:
         sys.exit(f"guard: failed: {' '.join(command)}\n{result.stderr}")
@@ -58,6 +60,14 @@ def measured(tree, folder):
     }
 
 
+def machine(tree):
+    """What the figures depend on beside the code."""
+    with open(os.path.join(tree, "CMakeCache.txt"), encoding="utf-8") as file:
+        compiler = re.search(r"^CMAKE_CXX_COMPILER:\w+=(.*)", file.read(), re.M)[1]
+    version = subprocess.run([compiler, "--version"], capture_output=True, text=True, check=True).stdout.split("\n")[0]
+    return f"{version}; {' '.join(platform.libc_ver())}; {platform.machine()}"
+
+
 def main(tree, option=""):
     if option not in ("", "--write"):
         sys.exit(__doc__)
@@ -68,15 +78,16 @@ def main(tree, option=""):
         figures = measured(tree, folder)
     with open(KEPT, encoding="utf-8") as file:
         kept = json.load(file)
-    risen = False
+    risen = [name for name, now in figures.items() if now > ALLOWED * kept["figures"].get(name, 0)]
     print("| | kept | now | change |\n|---|---:|---:|---:|")
     for name, now in figures.items():
-        before = kept.get(name, now)
-        risen |= now > ALLOWED * before
-        print(f"| {name} | {before:,} | {now:,} | {now / before - 1:+.1%}{' **too much**' if now > ALLOWED * before else ''} |")
+        before = kept["figures"].get(name, math.nan)
+        print(f"| {name} | {before:,} | {now:,} | {now / before - 1:+.1%}{' **too much**' if name in risen else ''} |")
     if option == "--write":
         with open(KEPT, "w", encoding="utf-8") as file:
-            file.write(json.dumps(figures, indent=2) + "\n")
+            file.write(json.dumps({"machine": machine(tree), "figures": figures}, indent=2) + "\n")
+    elif kept["machine"] != machine(tree):
+        print(f"guard: not held against the figures kept, which are of {kept['machine']}, not {machine(tree)}")
     elif risen:
         sys.exit("guard: an import costs more than it did; if it must, keep the new figures: ./dev bench guard --write")
 

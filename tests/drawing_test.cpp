@@ -3,14 +3,19 @@
 #include <charconv>
 #include <cmath>
 #include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <limits>
 #include <random>
 #include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
 #include "console/dxf/dxf_writer.h"
 #include "console/dxf/tag_writer.h"
+#include "console/files.h"
 #include "tests/support/console_host.h"
 #include "vexo_xyz_impl/drawing/group.h"
 #include "vexo_xyz_impl/text/local_time.h"
@@ -154,6 +159,57 @@ class RealWriter {
   StringSink sink_;
   TagWriter tags_{sink_};
 };
+
+TEST(Drawing, HoldsMoreThanABlockOfEachKind) {
+  constexpr std::size_t kPairs = 9000;
+  Drawing drawing;
+  std::vector<Handle> members;
+  for (std::size_t i = 0; i < kPairs; ++i) {
+    const auto at = static_cast<double>(i);
+    members.push_back(drawing.add(PointGeometry{{at, 1, 2}}).value());
+    // The first label says nothing.
+    members.push_back(drawing.add(TextGeometry{{at, 3, 4}, 2.5, 0, std::string(i % 300, 'x')}).value());
+  }
+  std::size_t visited = 0;
+  drawing.for_each_entity([&](Handle handle, const auto& geometry) {
+    ASSERT_EQ(handle, members[visited]);
+    ASSERT_EQ(geometry.position.x, static_cast<double>(visited++ / 2));
+  });
+  EXPECT_EQ(visited, 2 * kPairs);
+  EXPECT_EQ(drawing.point(members[kPairs])->position.x, kPairs / 2);
+  EXPECT_EQ(drawing.point(members[kPairs + 1]), nullptr);
+  EXPECT_EQ(drawing.text(members[kPairs + 1])->text, std::string(kPairs / 2 % 300, 'x'));
+
+  // Groups that name their members in no order, one of them in two.
+  drawing.add(Group{0, "A", "", true, {members[2], members[0]}});
+  drawing.add(Group{0, "B", "", true, {members[2]}});
+  StringSink sink;
+  write_dxf(drawing, "ANSI_1250", sink);
+  const std::string point = "0\nPOINT\n5\n";
+  const std::string one = "102\n{ACAD_REACTORS\n330\n" + handle_text(drawing.groups()[0].handle) + "\n";
+  const std::string other = "330\n" + handle_text(drawing.groups()[1].handle) + "\n";
+  EXPECT_NE(sink.text.find(point + handle_text(members[0]) + "\n" + one + "102\n}\n"), std::string::npos);
+  EXPECT_NE(sink.text.find(point + handle_text(members[2]) + "\n" + one + other + "102\n}\n"), std::string::npos);
+  EXPECT_NE(sink.text.find(point + handle_text(members[4]) + "\n330\n"), std::string::npos);
+}
+
+TEST(AtomicFile, IsAsLongAsWhatWasWritten) {
+  const std::filesystem::path folder = std::filesystem::path(testing::TempDir()) / "vexo-atomic";
+  std::filesystem::create_directories(folder);
+  for (const std::size_t pieces : {std::size_t{1}, std::size_t{34}, std::size_t{70}}) {
+    AtomicFile file(folder);
+    const std::string piece(std::size_t{1} << 20U, static_cast<char>('0' + pieces % 10));
+    for (std::size_t i = 0; i < pieces; ++i) file.write(piece);
+    file.write("end");
+    file.flush();
+    ASSERT_TRUE(file.commit(folder / "drawing.dxf", true));
+    std::ifstream written(folder / "drawing.dxf", std::ios::binary);
+    std::string read(piece.size(), ' ');
+    for (std::size_t i = 0; i < pieces; ++i) ASSERT_TRUE(written.read(read.data(), std::ssize(read)) && read == piece);
+    EXPECT_EQ(std::string(std::istreambuf_iterator<char>(written), {}), "end");
+  }
+  std::filesystem::remove_all(folder);
+}
 
 TEST(Dxf, WritesTextsLongerThanItsBuffer) {
   StringSink sink;

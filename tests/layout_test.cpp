@@ -120,8 +120,10 @@ TEST(RepeatedNumbers, AreThoseThatASetWouldRefuse) {
       for (std::string& number : numbers) number = "P" + std::to_string(random() % kinds);
       std::vector<PointRecord> points;
       for (const std::string& number : numbers) points.push_back({number, 0.0, 0.0, 0.0});
-      EXPECT_EQ(repeated_numbers(points), count - std::set(numbers.begin(), numbers.end()).size())
-          << count << ' ' << kinds;
+      const std::size_t repeated = count - std::set(numbers.begin(), numbers.end()).size();
+      EXPECT_EQ(repeated_numbers(points), repeated) << count << ' ' << kinds;
+      const auto poor_hash = [](std::string_view number) { return number.size(); };
+      EXPECT_EQ(repeated_numbers(points, poor_hash), repeated) << count << ' ' << kinds;
     }
   }
 }

@@ -1,8 +1,9 @@
-// Many things of one kind, in blocks: unlike those of a vector they are not copied when there are more, and take hardly
-// more memory than they fill.
+// Many things of one kind, in blocks: unlike a vector's they are not copied when there are more, and unlike a deque's
+// the blocks hold thousands and not nine.
 #pragma once
 
 #include <cstddef>
+#include <utility>
 #include <vector>
 
 namespace console {
@@ -11,7 +12,11 @@ template <class T>
 class Column {
  public:
   void push_back(const T& thing) {
-    if (size_ % kBlock == 0) blocks_.emplace_back().reserve(kBlock);
+    if (size_ % kBlock == 0) {
+      std::vector<T> block;
+      block.reserve(kBlock);
+      blocks_.push_back(std::move(block));
+    }
     blocks_.back().push_back(thing);
     ++size_;
   }

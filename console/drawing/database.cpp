@@ -81,7 +81,6 @@ class OpenNewcomer : public Interface {
 
  protected:
   Database& database() { return database_; }
-  [[nodiscard]] const Database& database() const { return database_; }
   [[nodiscard]] Handle resident() const { return resident_; }
 
  private:

@@ -70,7 +70,7 @@ struct TextGeometry {
   Position position;
   double height = 0.0;
   Handle style = handle_of(Fixed::style_standard);
-  std::string_view text = {};
+  std::string_view text = {};  ///< the caller's letters until it is added, then the drawing's
 };
 
 struct TextStyle {
@@ -139,8 +139,7 @@ class Drawing {
  private:
   static constexpr Handle kFirstFree = handle_of(Fixed::first_free);
 
-  // Where the entity of a handle stands. What is of one kind stands together, so that nothing is as large as the
-  // largest.
+  // Where the entity of a handle stands. What is of one kind stands together, so that no point takes a text's room.
   enum class Kind : std::uint32_t { none, point, text };
   struct Slot {
     Kind kind : 2;

@@ -19,9 +19,13 @@ class Reactors {
     pairs_.reserve(members);
     for (const Group& group : drawing.groups())
       for (const Handle member : group.members) pairs_.emplace_back(member, group.handle);
-    if (!std::is_sorted(pairs_.begin(), pairs_.end())) std::sort(pairs_.begin(), pairs_.end());  // the import's are
+    if (!std::is_sorted(pairs_.begin(), pairs_.end()))
+      std::sort(pairs_.begin(), pairs_.end());  // an import's rise already
     next_ = pairs_.begin();
   }
+  Reactors(const Reactors&) = delete;
+  Reactors& operator=(const Reactors&) = delete;
+  ~Reactors() = default;
 
   void write(TagWriter& tags, Handle entity) {
     while (next_ != pairs_.end() && next_->first < entity) ++next_;

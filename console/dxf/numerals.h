@@ -2,7 +2,6 @@
 // of them, and returns where it stopped.
 #pragma once
 
-#include <array>
 #include <bit>
 #include <charconv>
 #include <cmath>
@@ -17,7 +16,7 @@ inline constexpr std::size_t kLongestNumeral = 350;
 
 inline char* put_whole(char* to, long long value) { return std::to_chars(to, to + 20, value).ptr; }
 
-/// A group code and the end of its line.
+/// A group code, 0 or above, and the end of its line.
 inline char* put_code(char* to, int code) {
   if (code >= 100) {
     to = put_whole(to, code);
@@ -50,6 +49,7 @@ inline char* put_real(char* to, double value) {
   constexpr double kThousandthsTold = 8796093022208.0;  // 2^43: up to it doubles are less than a thousandth apart
   const double magnitude = std::abs(value);
   if (!(magnitude < kThousandthsTold)) return put_shortest(to, value);
+  // NOLINTNEXTLINE(bugprone-incorrect-roundings): a wrong guess does not give the value when it is divided
   const auto all = static_cast<std::int64_t>(magnitude * kThousandths + 0.5);
   if (static_cast<double>(all) / kThousandths != magnitude) return put_shortest(to, value);
   if (std::signbit(value)) *to++ = '-';

@@ -8,6 +8,7 @@
 #include <optional>
 #include <sstream>
 #include <string>
+#include <type_traits>
 #include <string_view>
 #include <utility>
 #include <vector>

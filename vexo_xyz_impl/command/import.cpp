@@ -51,10 +51,12 @@ CommandOutcome import_file(const std::string& path) {
   Decomposition read;
   if (verdict.fmt) {
     announce_layout(*verdict.fmt, verdict.opis);
-    without_lock([&] { read = _rozbierz(verdict.dane, *verdict.fmt); });
-    // Points and skipped lines hold what is needed of them, and the drawing needs the memory.
-    verdict.dane = std::vector<Row>();
-    table->forget_rows();
+    without_lock([&] {
+      read = _rozbierz(verdict.dane, *verdict.fmt);
+      // Points and skipped lines hold what is needed of them, and the drawing needs the memory.
+      verdict.dane = std::vector<Row>();
+      table->forget_rows();
+    });
   }
   if (read.punkty.empty()) {
     print("xyz.zero_wierszy");

@@ -34,9 +34,10 @@ class Groups {
     *next_++ = thing;
   }
 
-  /// A copy of the things as a group of its own; for when the open group is empty.
+  /// A copy of the things as a group of its own, which has a place also when there are none; for when the open group is
+  /// empty.
   std::span<const T> keep(std::span<const T> things) {
-    if (static_cast<std::size_t>(end_ - next_) < things.size()) make_room(things.size());
+    if (open_ == nullptr || static_cast<std::size_t>(end_ - next_) < things.size()) make_room(things.size());
     next_ = std::copy(things.begin(), things.end(), next_);
     return close();
   }
@@ -66,12 +67,16 @@ class Groups {
     const std::size_t last = blocks_.empty() ? kFirstBlock / 2 : blocks_.back().get_deleter().size;
     const std::size_t size = std::max(2 * std::min(last, kUsualBlock / 2), 2 * open().size() + things);
     std::unique_ptr<T, Free> block(std::allocator<T>().allocate(size), Free{size});
-    T* const moved = std::copy(open_, next_, block.get());
-    if (!blocks_.empty() && open_ == blocks_.back().get()) blocks_.pop_back();  // it held nothing else
-    open_ = block.get();
+    T* const place = block.get();
+    T* const moved = std::copy(open_, next_, place);
+    if (!blocks_.empty() && open_ == blocks_.back().get()) {
+      blocks_.back() = std::move(block);  // it held nothing else
+    } else {
+      blocks_.push_back(std::move(block));
+    }
+    open_ = place;
     next_ = moved;
     end_ = open_ + size;
-    blocks_.push_back(std::move(block));
   }
 
   void swap(Groups& other) noexcept {

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <bit>
 #include <cstdint>
-#include <functional>
 #include <numeric>
 #include <string_view>
 #include <vector>
@@ -38,7 +37,7 @@ std::vector<std::uint64_t> sorted_in_heaps(const std::vector<std::uint64_t>& wor
 
 }  // namespace
 
-std::size_t repeated_numbers(std::span<const PointRecord> punkty) {
+std::size_t repeated_numbers(std::span<const PointRecord> punkty, std::size_t (*hash)(std::string_view)) {
   const auto not_rising = [](const PointRecord& a, const PointRecord& b) { return !rises(a.nr, b.nr); };
   if (std::adjacent_find(punkty.begin(), punkty.end(), not_rising) == punkty.end()) return 0;  // as in most files
 
@@ -46,8 +45,7 @@ std::size_t repeated_numbers(std::span<const PointRecord> punkty) {
   const auto place_bits = static_cast<unsigned>(std::bit_width(punkty.size()));
   std::vector<std::uint64_t> words;
   words.reserve(punkty.size());
-  for (const PointRecord& point : punkty)
-    words.push_back((std::uint64_t{std::hash<std::string_view>()(point.nr)} << place_bits) + words.size());
+  for (const PointRecord& point : punkty) words.push_back((std::uint64_t{hash(point.nr)} << place_bits) + words.size());
   const auto number_of = [&](std::uint64_t word) { return punkty[word & ((std::uint64_t{1} << place_bits) - 1)].nr; };
   const auto hash_of = [&](std::uint64_t word) { return word >> place_bits; };
   words = sorted_in_heaps(words, [&](std::uint64_t a, std::uint64_t b) {

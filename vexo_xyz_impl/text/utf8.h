@@ -45,8 +45,10 @@ void append(std::string& utf8, char32_t code_point);
 /// Bytes of the white-space character that starts at `at`, 0 when none does.
 [[nodiscard]] std::size_t white_space_at(std::string_view utf8, std::size_t at);
 
-/// The text without leading and trailing white space; bytes that are no UTF-8, as a path may have, stay.
+/// What `trim` does where an end is not visible ASCII.
 [[nodiscard]] std::string_view trim_white_space(std::string_view utf8);
+
+/// The text without leading and trailing white space; bytes that are no UTF-8, as a path may have, stay.
 [[nodiscard]] inline std::string_view trim(std::string_view utf8) {
   const auto is_visible_ascii = [](char c) { return c > ' ' && c <= '~'; };  // be char signed or not
   if (!utf8.empty() && is_visible_ascii(utf8.front()) && is_visible_ascii(utf8.back())) return utf8;  // as most are
