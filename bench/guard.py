@@ -74,10 +74,10 @@ def main(tree, option=""):
     if shutil.which("valgrind") is None:
         print("guard: skipped, valgrind is not installed")
         return
+    with open(KEPT, "r+" if option else "r", encoding="utf-8") as file:
+        kept = {"machine": "", "figures": {}, **json.load(file)}
     with tempfile.TemporaryDirectory() as folder:
         figures = measured(tree, folder)
-    with open(KEPT, encoding="utf-8") as file:
-        kept = json.load(file)
     risen = [name for name, now in figures.items() if now > ALLOWED * kept["figures"].get(name, 0)]
     print("| | kept | now | change |\n|---|---:|---:|---:|")
     for name, now in figures.items():
@@ -93,6 +93,9 @@ def main(tree, option=""):
 
 
 if __name__ == "__main__":
-    if len(sys.argv) < 2:
+    if len(sys.argv) not in (2, 3):
         sys.exit(__doc__)
-    main(*sys.argv[1:])
+    try:
+        main(*sys.argv[1:])
+    except (OSError, ValueError) as failure:
+        sys.exit(f"guard: {failure}")

@@ -93,13 +93,14 @@ void AtomicFile::write(std::string_view bytes) {
 // hints: where they fail, writing or flushing does, or it just takes longer.
 void AtomicFile::begin_step() {
   const auto end = static_cast<off_t>(size_);
-  fallocate(descriptor_, FALLOC_FL_KEEP_SIZE, end, static_cast<off_t>(kStep));
+  has_room_ahead_ |= fallocate(descriptor_, FALLOC_FL_KEEP_SIZE, end, static_cast<off_t>(kStep)) == 0;
   sync_file_range(descriptor_, 0, 0, SYNC_FILE_RANGE_WRITE);
   next_step_ = size_ + kStep;
 }
 
 void AtomicFile::flush() {
-  if (next_step_ > kStep && ftruncate(descriptor_, static_cast<off_t>(size_)) != 0) fail("writing");  // unused room
+  // What is left of the room; where it cannot be given back, the drawing is whole all the same.
+  if (has_room_ahead_) has_room_ahead_ = ftruncate(descriptor_, static_cast<off_t>(size_)) != 0;
   if (fsync(descriptor_) != 0) fail("flushing to the disk");
   const int closing = descriptor_;
   descriptor_ = -1;

@@ -40,6 +40,7 @@ class AtomicFile final : public ByteSink {
   int descriptor_;
   std::size_t size_ = 0;
   std::size_t next_step_ = kStep;
+  bool has_room_ahead_ = false;
 };
 
 /// `stem`.dxf beside the file at `path`, `stem`_2.dxf and so on for `number` 2 and up.
