@@ -3,7 +3,6 @@
 // A label without its style is no reason to lose an import: whatever the host lacks or refuses leaves the text as it
 // is, in silence. Only what is no ordinary error in scripts (KeyboardInterrupt, SystemExit) passes.
 #include <exception>
-#include <ranges>
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -30,12 +29,12 @@ void ignoring_failures(Action action) {
 }
 
 py::object host(const char* name) {
-  for (const char* binding : scripting::kBindingModules | std::views::reverse) {
-    py::object module;
-    ignoring_failures([&] { module = py::module_::import(binding); });
-    if (module && py::hasattr(module, name)) return module.attr(name);
+  py::object found;
+  for (const char* binding : scripting::kBindingModules) {
+    ignoring_failures([&] { found = py::module_::import(binding).attr(name); });
   }
-  throw std::runtime_error(std::string("the host has no ") + name);
+  if (!found) throw std::runtime_error(std::string("the host has no ") + name);
+  return found;
 }
 
 // What `work` makes of an opened object, which is closed on every path.
@@ -124,8 +123,8 @@ void nadaj_styl_pl(const py::object& text) {
 py::cpp_function styling_of_one_run() {
   py::object style;
   ignoring_failures([&] { style = found_or_made(); });
-  return py::cpp_function([style](const py::object& text) { ignoring_failures([&] { set_style(text, style); }); },
-                          py::name("nadaj_styl_pl"), py::arg("text"));
+  return {[style](const py::object& text) { ignoring_failures([&] { set_style(text, style); }); },
+          py::name("nadaj_styl_pl"), py::arg("text")};
 }
 
 void set_up(py::module_& m) {

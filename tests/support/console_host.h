@@ -8,8 +8,8 @@
 #include <optional>
 #include <sstream>
 #include <string>
-#include <type_traits>
 #include <string_view>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
