@@ -57,13 +57,29 @@ def outcome():
     return m._D.__name__, list(session.commands)
 """
 IMPORT = """
-import json, sys
+import importlib, json, sys, types
 from pygcad.stand_in import session
 import vexo_xyz_impl as m
 session.file, session.typed = sys.argv[1], [m._slowo(sys.argv[2])]
 m.importxyz()
 entities, groups = ([vars(one) for one in kept.values()] for kept in (session.entities, session.groups))
-print(json.dumps([session.shown, m._slowo(sys.argv[2]), entities, groups, session.variables, session.open]))
+outcome = [session.shown, m._slowo(sys.argv[2]), entities, groups, session.variables, session.open]
+
+sys.modules["vexo_teksty"] = types.SimpleNamespace(T=str)  # keys instead of texts
+importlib.reload(m)
+rows, _ = m._wczytaj(sys.argv[1])
+found = {"table_rows": len(rows)}
+try:
+    layout, opis, dane = m._wykryj_format(rows)
+    points, skipped = m._rozbierz(dane, layout)
+    found |= {"column_count": m._liczba_kolumn(rows), "layout": layout, "opis_key": opis, "data_rows": len(dane),
+              "points": len(points), "skipped": skipped, "duplicates": len(points) - len({nr for nr, *_ in points}),
+              "candidates": [dict(srid=srid, swap=swap, frac=frac) for srid, swap, frac in m._wykryj_uklad(
+                  m._pary(dane, *((1, 2) if layout.startswith("Nr") else (0, 1))))],
+              "first_points": points[:3], "last_point": points[-1]}
+except IndexError:
+    found["layout_failure"] = "IndexError"
+print(json.dumps([found, *outcome]))
 """
 
 
@@ -257,10 +273,11 @@ class Imports(HostTest):
         for sample in manifest:
             for symbol in ["Tak", "Zamien"] if "readings" in sample["expected"] else ["Tak"]:
                 with self.subTest(sample["file"], answer=symbol):
-                    self.check_sample(str(samples / sample["file"]), sample["market"], symbol)
+                    self.check_sample(str(samples / sample["file"]), sample["market"], symbol, sample["expected"])
 
-    def check_sample(self, source, market, symbol):
-        shown, word, entities, groups, variables, still_open = fresh_process(IMPORT, source, symbol, market=market)
+    def check_sample(self, source, market, symbol, expected):
+        found, shown, word, entities, groups, variables, still_open = fresh_process(IMPORT, source, symbol, market=market)
+        self.assertEqual(found, {key: expected.get(key) for key in found})
         target = os.path.join(self.folder, f"{os.path.basename(source)} {symbol}.dxf")
         run = subprocess.run([program, "--market", market, "-o", target, source], input=f"{word}\n", text=True,
                              env=os.environ | {"XDG_STATE_HOME": self.folder}, capture_output=True, timeout=PATIENCE)
