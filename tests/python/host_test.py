@@ -4,6 +4,7 @@
 
 DIST_DIR holds the extension and the family's modules, PROGRAM is the console program.
 """
+import importlib
 import itertools
 import json
 import math
@@ -145,6 +146,13 @@ class Loading(unittest.TestCase):
         self.assertEqual(m._wspolczynniki(), (m._A_K, list(m._BETA), list(m._DELTA)))
         self.assertIs(m.importxyz, session.commands["VEXO_XYZ"])
         self.assertEqual(m.importxyz.names, ("VEXO_XYZ", "VEXO_XYZ", "VEXO"))
+
+    def test_markets(self):
+        agreed = json.loads((HERE.parent / "data" / "geodesy" / "markets.json").read_text("utf-8"))
+        for code, tables in agreed.items():
+            market = vars(importlib.import_module("vexo_xyz_dane_" + code))
+            stated = {name: market[name] for name in tables}
+            self.assertEqual(json.loads(json.dumps(stated, default=sorted)), tables)
 
 
 class HostTest(unittest.TestCase):

@@ -294,6 +294,7 @@ print(json.dumps([*done, inserted > 0, inserted + refused == 100, len(texts) == 
 
 # Loads the module for a market of the given tables and evaluates calls: their answers, or the kinds of their failures.
 MARKETS = START + """
+from math import inf, nan
 TM = ("TM", 21.0, 0.999923, 7500000.0, 0.0)
 class Items:
     def __init__(self, items): self.items = items
@@ -332,6 +333,11 @@ ODD_MARKETS = [  # tables beside sound ones, a call, its answer or the kind of i
     ("UKLADY={1: ()}", f"m._sensowny(*{HERE_}, 1)", "IndexError"),
     ("UKLADY={1: ('TM', 21, 0, 0, 0)}", f"m._wykryj_uklad([{HERE_}])", "[]"),  # divided by zero: not plausible
     ("UKLADY={1: ('TM', 21, 0, 0, 0)}", f"m._do_geo(*{HERE_}, 1)", "ZeroDivisionError"),
+    ("", "m._do_geo(7500000, -inf, 1)", "ValueError"),
+    ("", "m._do_geo(-1e10, 5.8e6, 1)", "OverflowError"),  # beyond the hyperbolic functions
+    ("", "[len(m._do_geo(*pair, 1)) for pair in ((inf, 5.8e6), (nan, nan))]", "[2, 2]"),
+    ("KRAJ_LAT=(-360, 360), KRAJ_LON=(-360, 360)", "[m._sensowny(*pair, 1) for pair in ((7500000, -inf), (-1e10, 5.8e6), "
+     "(inf, 5.8e6), (nan, nan), (7500000, 5.8e6))]", "[False, False, False, False, True]"),
     ("KOLEJNOSC=[1, 9]", f"m._wykryj_uklad([{HERE_}])", "KeyError"),
     ("KOLEJNOSC=None", f"m._wykryj_uklad([{HERE_}])", "TypeError"),
     ("KRAJ_LON=None", f"m._wykryj_uklad([(0, 0)])", "[]"),  # outside by latitude, so never asked
