@@ -277,6 +277,28 @@ class Scripts(HostTest):
         del db, ids
         self.check_nothing_is_held()
 
+    def test_group_names(self):
+        db = runtime.GcDbDatabase()
+        for path, stem in [
+            ("C:\\pomiary\\Działka 12.csv", "Dzia_ka_12"), ("/home/jan/pomiary/punkty.v2.txt", "punkty_v2"),
+            ("punkty", "punkty"), ("___.txt", "IMPORT"), ("żółć.csv", "IMPORT"), (".csv", "IMPORT"), ("_-a-_.csv", "-a-"),
+            ("x" * 60 + ".csv", "x" * 40), ('100% "nowe".csv', "100_nowe"),
+            ("__" + "x" * 39 + "  y.csv", "x" * 39 + "_"),  # the cut comes after the strip
+        ]:
+            with self.subTest(path):
+                before = time.strftime("%Y-%m-%d")  # midnight may pass
+                name = m._nazwa_grupy(db, path)
+                self.assertIn(name, {f"PIKIETY_{day}_{stem}" for day in (before, time.strftime("%Y-%m-%d"))})
+        name = m._nazwa_grupy(db, "A.csv")
+        for taken, due in [([name[:-1] + "a"], "_2"),  # names are unique without regard to case
+                           ([f"{name}_{i}" for i in range(2, 99)], "_99"), ([name + "_99"], r"_\d{6}")]:
+            session.groups |= {one: types.SimpleNamespace(name=one) for one in taken}
+            self.assertRegex(m._nazwa_grupy(db, "A.csv"), f"^{name}{due}$")
+        _, writer = db.getGroupDictionary(GcDb.kForWrite)
+        self.assertEqual(m._nazwa_grupy(db, "A.csv"), name)  # cannot be checked
+        writer.close()
+
+
 class Imports(HostTest):
     def test_samples_as_the_console_imports_them(self):
         with open(samples / "manifest.json", encoding="utf-8") as file:
