@@ -336,6 +336,45 @@ class Imports(HostTest):
         header = {name: value for (_, name), (_, value) in zip(tags, tags[1:])}
         self.assertEqual(variables, {name: float(header["$" + name]) for name in ("PDMODE", "PDSIZE")})
 
+    def drawn_of(self, content):
+        session.clear()
+        session.file = self.put("p.csv", content)
+        m.importxyz()
+        return list(session.entities.values())
+
+    def test_labels_by_the_extent_of_the_points(self):
+        for content, height in [
+            ("A;100;200\nB;100;200\n", 2.5),  # one spot
+            ("A;0;0\nB;1e-6;1e-6\n", 2.5), ("A;0;0\nB;1.1e-6;0\n", 0.1),  # the least of all heights
+            ("A;0;0\nB;112;60\n", 2.0),  # 2 % of the larger extent
+            ("A;0;0\nB;10;5000\n", 100.0), ("A;0;0\nB;10;7750\n", 160.0),  # whole tens above 100
+        ]:
+            with self.subTest(content):
+                point, label, *_ = self.drawn_of(content)
+                x, y, z = point.position
+                self.assertEqual((label.text, label.height, label.position),
+                                 ("A", height, [x + height * 0.6, y + height * 0.6, z]))
+
+    def test_two_hundred_rows_settle_columns_and_axes(self):
+        rows = ["7;1;2\n" if i < 20 or i >= 200 else "7;5788457;7500833\n" for i in range(300)]
+        drawn = self.drawn_of("".join(rows))
+        self.assertEqual((len(drawn), drawn[40].position[1]), (600, 5788457.0))
+
+    def test_why_points_are_not_controlled(self):
+        core = importlib.import_module("vexo_reaktywne_core")
+        self.addCleanup(sys.modules.update, {"vexo_reaktywne_core": core})
+        for count, core, said in [
+            (2000, core, m.T("xyz.kontrola_ok") % 2000), (2001, core, m.T("xyz.kontrola_za_duzo") % (2001, 2000)),
+            (3, None, m.T("xyz.kontrola_niedostepna").partition("%s")[0] + "ModuleNotFoundError: "),
+        ]:
+            with self.subTest(count):
+                sys.modules["vexo_reaktywne_core"] = core
+                drawn = self.drawn_of("".join(f"L;{i};200,25;11\n" for i in range(count)))
+                self.assertEqual(len(drawn), 2 * count)
+                self.assertIn(said, session.shown)
+                points = [f"{key:X}" for key, one in session.entities.items() if one.kind == "POINT"]
+                self.assertEqual([handle for handle, *_ in session.records], points if count == 2000 else [])
+
     def test_ways_through_the_dialogue(self):
         axes, columns = self.put("50%s %d.txt", AXES), self.put("u.txt", COLUMNS)
         odd, refused = self.put(os.fsdecode(b"\xb9.csv"), AXES), self.put("r.csv", "%s\x1b𝄞;1;2;3\nB;1;2;nan\n")
