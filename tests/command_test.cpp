@@ -1,6 +1,9 @@
 // The command and its dialogue in the console's host. Whole imports stand in interop/terminal.py.
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <map>
+#include <memory>
 #include <new>
 #include <stdexcept>
 #include <string>
@@ -21,10 +24,8 @@
 namespace vexo_xyz_impl {
 namespace {
 
-using host::CommandOutcome;
 using testing_support::ConsoleHost;
 using testing_support::OwnTexts;
-using testing_support::TemporaryFile;
 
 TEST(Keywords, FallBackWhereTheCatalogueFails) {
   const struct {
@@ -41,7 +42,7 @@ TEST(Keywords, FallBackWhereTheCatalogueFails) {
       {{{"xyz.pytanie", "jeden %s "}}, "\n[Tak/Zamien] <Tak>: ", "Zamien"},  // a template of one value
   };
   for (const auto& [texts, prompt, word] : kCases) {
-    ConsoleHost host("PL", word + "\n\n");
+    ConsoleHost host(word + "\n\n");
     host.siblings.add("vexo_teksty", std::make_unique<OwnTexts>(texts));
     host.load();
     const std::vector<std::string_view> symbols = {kTak, kZamien};
@@ -54,7 +55,7 @@ TEST(Keywords, FallBackWhereTheCatalogueFails) {
 
 // No catalogue has words like these; a catalogue is translated by people.
 TEST(Dialogue, TakesWholeWordsAndBeginningsOfOne) {
-  ConsoleHost host("PL", "ta\r\ntak\n");
+  ConsoleHost host("ta\r\ntak\n");
   host.load();
   host.dialogue.gcedInitGet(0, "Tak Takt Nie");
   EXPECT_EQ(host.dialogue.gcedGetKword("? "), std::pair(host::RTNORM, std::string("Tak")));
@@ -72,9 +73,10 @@ TEST(Dialogue, ShowsBothEndsOfWhatIsTooLong) {
 }
 
 TEST(Dialogue, CompletesPaths) {
-  const TemporaryFile file(".ukryty", "");
-  const std::string folder = std::filesystem::path(file.path()).parent_path().string() + "/";
-  for (const char* name : {"łąka.csv", "łęg.csv", "pole.csv"}) std::ofstream(folder + name) << "";
+  std::string folder = testing::TempDir() + "vexo-test-XXXXXX";
+  ASSERT_NE(mkdtemp(folder.data()), nullptr);
+  folder += '/';
+  for (const char* name : {".ukryty", "łąka.csv", "łęg.csv", "pole.csv"}) std::ofstream(folder + name) << "";
   std::filesystem::create_directory(folder + "dom nad rzeką");
   const struct {
     std::string typed, addition;
@@ -93,6 +95,7 @@ TEST(Dialogue, CompletesPaths) {
     EXPECT_EQ(completion.addition, addition) << typed;
     EXPECT_EQ(completion.names.size(), names) << typed;
   }
+  std::filesystem::remove_all(folder);
 }
 
 TEST(Failures, AreDescribedByKindAndText) {

@@ -1,15 +1,17 @@
 #include <array>
 #include <cmath>
 #include <cstdlib>
-#include <functional>
+#include <fstream>
 #include <limits>
+#include <memory>
 #include <numbers>
+#include <optional>
 #include <random>
+#include <sstream>
 #include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
-#include <nlohmann/json.hpp>
 
 #include "siblings/vexo_xyz_dane_DE/dane.h"
 #include "siblings/vexo_xyz_dane_PL/dane.h"

@@ -1,4 +1,4 @@
-// The drawing side: group names, the embedded database's refusals, labels and numbers as DXF spells them.
+// The drawing side: the embedded database's refusals, labels and numbers as DXF spells them.
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -7,24 +7,22 @@
 #include <fstream>
 #include <iterator>
 #include <limits>
+#include <memory>
 #include <random>
 #include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
 
+#include "console/drawing/database.h"
 #include "console/dxf/dxf_writer.h"
 #include "console/dxf/tag_writer.h"
 #include "console/files.h"
-#include "tests/support/console_host.h"
-#include "vexo_xyz_impl/drawing/group.h"
-#include "vexo_xyz_impl/text/local_time.h"
 
 namespace console {
 namespace {
 
 using namespace vexo_xyz_impl::host;  // NOLINT(google-build-using-namespace): the interface under test
-using testing_support::ConsoleHost;
 
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 

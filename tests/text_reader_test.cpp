@@ -1,6 +1,7 @@
 #include "vexo_xyz_impl/input/text_reader.h"
 
 #include <cstdlib>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
