@@ -19,10 +19,6 @@ void SiblingRegistry::add(std::string name, std::shared_ptr<vexo_xyz_impl::host:
   modules_.insert_or_assign(std::move(name), std::move(module));
 }
 
-void SiblingRegistry::remove(std::string_view name) {
-  if (const auto found = modules_.find(name); found != modules_.end()) modules_.erase(found);
-}
-
 std::shared_ptr<vexo_xyz_impl::host::SiblingModule> SiblingRegistry::load(std::string_view name) {
   const auto found = modules_.find(name);
   if (found != modules_.end()) return found->second;

@@ -17,9 +17,6 @@ class SiblingRegistry final : public vexo_xyz_impl::host::SiblingLoader {
   /// Adds a sibling, in the place of an earlier one of that name.
   void add(std::string name, std::shared_ptr<vexo_xyz_impl::host::SiblingModule> module);
 
-  /// Takes a sibling out, as if it were not installed.
-  void remove(std::string_view name);
-
   void own_folder_first() override {}  // nothing is looked up on a disk
   std::shared_ptr<vexo_xyz_impl::host::SiblingModule> load(std::string_view name) override;
 

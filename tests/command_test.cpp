@@ -1,6 +1,9 @@
 // The command and its dialogue in the console's host. Whole imports stand in interop/terminal.py.
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <map>
+#include <memory>
 #include <new>
 #include <stdexcept>
 #include <string>
@@ -21,73 +24,8 @@
 namespace vexo_xyz_impl {
 namespace {
 
-using host::CommandOutcome;
 using testing_support::ConsoleHost;
 using testing_support::OwnTexts;
-using testing_support::TemporaryFile;
-
-TEST(Import, SizesLabelsByTheExtentOfThePoints) {
-  const struct {
-    std::string content;
-    double height;
-  } kCases[] = {
-      {"A;100;200\nB;100;200\n", 2.5},                                 // one spot
-      {"A;0;0\nB;1e-6;1e-6\n", 2.5},   {"A;0;0\nB;1.1e-6;0\n", 0.1},   // the least of all heights
-      {"A;0;0\nB;112;60\n", 2.0},                                      // 2 % of the larger extent
-      {"A;0;0\nB;10;5000\n", 100.0},   {"A;0;0\nB;10;7750\n", 160.0},  // whole tens above 100
-  };
-  for (const auto& [content, height] : kCases) {
-    const TemporaryFile file("p.csv", content);
-    ConsoleHost host("PL", "", file.path());
-    host.load();
-    host.import();
-    ASSERT_EQ(host.labels().size(), 2U) << content;
-    EXPECT_EQ(host.labels()[0].height, height);
-    EXPECT_EQ(host.labels()[0].position.x, host.points()[0].position.x + height * 0.6);
-    EXPECT_EQ(host.labels()[0].position.y, host.points()[0].position.y + height * 0.6);
-    EXPECT_EQ(host.labels()[0].text, "A");
-  }
-}
-
-// Nine tenths of the first two hundred rows settle the columns and the axes.
-TEST(Import, JudgesByTwoHundredRows) {
-  std::string content;
-  for (int i = 0; i < 300; ++i) content += i < 20 || i >= 200 ? "7;1;2\n" : "7;5788457;7500833\n";
-  const TemporaryFile file("p.csv", content);
-  ConsoleHost host("PL", "", file.path());
-  host.load();
-  EXPECT_EQ(host.import(), CommandOutcome::done) << host.out.str();
-  ASSERT_EQ(host.points().size(), 300U);
-  EXPECT_EQ(host.points()[20].position.y, 5788457.0);
-}
-
-TEST(Import, SaysWhyPointsAreNotControlled) {
-  const struct {
-    int points;
-    bool core;
-    std::string said;
-    bool marked;
-  } kCases[] = {
-      {2000, true, "kontrolą przesunięć: 2000", true},
-      {2001, true, "punktów jest 2001, a kontrola obejmuje najwyżej 2000", false},
-      {3, false, "niedostępna (ModuleNotFoundError: no module named 'vexo_reaktywne_core')", false},
-  };
-  for (const auto& [points, core, said, marked] : kCases) {
-    std::string content;
-    for (int i = 0; i < points; ++i) content += "L;" + std::to_string(i) + ";200,25;11\n";
-    const TemporaryFile file("p.csv", content);
-    ConsoleHost host("PL", "", file.path());
-    if (!core) host.siblings.remove("vexo_reaktywne_core");
-    host.load();
-    EXPECT_EQ(host.import(), CommandOutcome::done);
-    EXPECT_NE(host.out.str().find(said), std::string::npos) << host.out.str();
-    const auto& drawing = host.database.drawing();
-    drawing.for_each_entity([&](console::Handle handle, const auto&) {
-      EXPECT_EQ(drawing.control_record(handle) != nullptr, marked && drawing.point(handle) != nullptr);
-    });
-    EXPECT_EQ(host.database.open_count(), 0U);
-  }
-}
 
 TEST(Keywords, FallBackWhereTheCatalogueFails) {
   const struct {
@@ -104,7 +42,7 @@ TEST(Keywords, FallBackWhereTheCatalogueFails) {
       {{{"xyz.pytanie", "jeden %s "}}, "\n[Tak/Zamien] <Tak>: ", "Zamien"},  // a template of one value
   };
   for (const auto& [texts, prompt, word] : kCases) {
-    ConsoleHost host("PL", word + "\n\n");
+    ConsoleHost host(word + "\n\n");
     host.siblings.add("vexo_teksty", std::make_unique<OwnTexts>(texts));
     host.load();
     const std::vector<std::string_view> symbols = {kTak, kZamien};
@@ -117,7 +55,7 @@ TEST(Keywords, FallBackWhereTheCatalogueFails) {
 
 // No catalogue has words like these; a catalogue is translated by people.
 TEST(Dialogue, TakesWholeWordsAndBeginningsOfOne) {
-  ConsoleHost host("PL", "ta\r\ntak\n");
+  ConsoleHost host("ta\r\ntak\n");
   host.load();
   host.dialogue.gcedInitGet(0, "Tak Takt Nie");
   EXPECT_EQ(host.dialogue.gcedGetKword("? "), std::pair(host::RTNORM, std::string("Tak")));
@@ -135,9 +73,10 @@ TEST(Dialogue, ShowsBothEndsOfWhatIsTooLong) {
 }
 
 TEST(Dialogue, CompletesPaths) {
-  const TemporaryFile file(".ukryty", "");
-  const std::string folder = std::filesystem::path(file.path()).parent_path().string() + "/";
-  for (const char* name : {"łąka.csv", "łęg.csv", "pole.csv"}) std::ofstream(folder + name) << "";
+  std::string folder = testing::TempDir() + "vexo-test-XXXXXX";
+  ASSERT_NE(mkdtemp(folder.data()), nullptr);
+  folder += '/';
+  for (const char* name : {".ukryty", "łąka.csv", "łęg.csv", "pole.csv"}) std::ofstream(folder + name) << "";
   std::filesystem::create_directory(folder + "dom nad rzeką");
   const struct {
     std::string typed, addition;
@@ -156,6 +95,7 @@ TEST(Dialogue, CompletesPaths) {
     EXPECT_EQ(completion.addition, addition) << typed;
     EXPECT_EQ(completion.names.size(), names) << typed;
   }
+  std::filesystem::remove_all(folder);
 }
 
 TEST(Failures, AreDescribedByKindAndText) {
@@ -175,15 +115,6 @@ TEST(Failures, AreDescribedByKindAndText) {
   std::string log;
   vexo_boot::Notices([&log](std::string_view line) { log += line; }).blad("VEXO_XYZ", OSError("a\r\nb"));
   EXPECT_TRUE(log.ends_with(" VEXO_XYZ OSError: a  b")) << log;
-}
-
-TEST(Messages, AreShownAsTheyStandWhereTheyCannotBeFilled) {
-  ConsoleHost host;
-  host.siblings.add("vexo_teksty", std::make_unique<OwnTexts>(
-                                       std::map<std::string, std::string, std::less<>>{{"xyz.zly", "tylko %d"}}));
-  host.load();
-  EXPECT_EQ(filled("xyz.zly", {std::string_view("tekst")}), "tylko %d");
-  EXPECT_EQ(filled("xyz.nie_ma", {std::string_view("tekst")}), "xyz.nie_ma");
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// The drawing side: group names, the embedded database's refusals, labels and numbers as DXF spells them.
+// The drawing side: the embedded database's refusals, labels and numbers as DXF spells them.
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -7,72 +7,24 @@
 #include <fstream>
 #include <iterator>
 #include <limits>
+#include <memory>
 #include <random>
 #include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
 
+#include "console/drawing/database.h"
 #include "console/dxf/dxf_writer.h"
 #include "console/dxf/tag_writer.h"
 #include "console/files.h"
-#include "tests/support/console_host.h"
-#include "vexo_xyz_impl/drawing/group.h"
-#include "vexo_xyz_impl/text/local_time.h"
 
 namespace console {
 namespace {
 
 using namespace vexo_xyz_impl::host;  // NOLINT(google-build-using-namespace): the interface under test
-using testing_support::ConsoleHost;
 
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
-
-TEST(GroupName, SurvivesTheGroupDialog) {
-  const struct {
-    std::string path;
-    std::string stem;
-  } kCases[] = {
-      {"C:\\pomiary\\Działka 12.csv", "Dzia_ka_12"},
-      {"/home/jan/pomiary/punkty.v2.txt", "punkty_v2"},
-      {"punkty", "punkty"},
-      {"___.txt", "IMPORT"},
-      {"żółć.csv", "IMPORT"},
-      {".csv", "IMPORT"},
-      {"_-a-_.csv", "-a-"},
-      {std::string(60, 'x') + ".csv", std::string(40, 'x')},
-      {"__" + std::string(39, 'x') + "  y.csv", std::string(39, 'x') + "_"},  // the cut comes after the strip
-      {"100% \"nowe\".csv", "100_nowe"},
-  };
-  Database database;
-  for (const auto& [path, stem] : kCases) {
-    // Midnight may pass between the two.
-    const std::string before = vexo_xyz_impl::text::local_time("%Y-%m-%d");
-    const std::string name = vexo_xyz_impl::_nazwa_grupy(database, path);
-    const std::string after = vexo_xyz_impl::text::local_time("%Y-%m-%d");
-    EXPECT_TRUE(name == "PIKIETY_" + before + "_" + stem || name == "PIKIETY_" + after + "_" + stem) << path << name;
-  }
-}
-
-TEST(GroupName, IsFreeOrCarriesTheTime) {
-  Database database;
-  const std::string name = vexo_xyz_impl::_nazwa_grupy(database, "A.csv");
-  std::string lower = name;
-  lower.back() = 'a';  // names are unique without regard to case
-  database.drawing().add(Group{0, lower, "", true, {}});
-  EXPECT_EQ(vexo_xyz_impl::_nazwa_grupy(database, "A.csv"), name + "_2");
-  for (int i = 2; i <= 98; ++i) database.drawing().add(Group{0, name + "_" + std::to_string(i), "", true, {}});
-  EXPECT_EQ(vexo_xyz_impl::_nazwa_grupy(database, "A.csv"), name + "_99");
-  database.drawing().add(Group{0, name + "_99", "", true, {}});
-  const std::string timed = vexo_xyz_impl::_nazwa_grupy(database, "A.csv");
-  EXPECT_EQ(timed.size(), name.size() + 7);
-  EXPECT_EQ(timed.find_last_not_of("0123456789"), name.size());
-
-  auto writer = database.getGroupDictionary(GcDb::kForWrite).second;
-  EXPECT_EQ(vexo_xyz_impl::_nazwa_grupy(database, "A.csv"), name);  // cannot be checked
-  writer->close();
-  EXPECT_EQ(database.open_count(), 0U);
-}
 
 TEST(Database, RefusesWhatWouldSpoilTheDrawing) {
   Database database;
@@ -115,6 +67,12 @@ TEST(Database, RefusesWhatWouldSpoilTheDrawing) {
   reader->close();
   EXPECT_EQ(reader->close(), Gcad::eInvalidInput);  // not the opening of anybody else
   table->close();
+
+  database.drawing().add(Group{0, "Abc", "", true, {}});
+  auto groups = database.getGroupDictionary(GcDb::kForWrite).second;
+  EXPECT_TRUE(groups->has("aBC") && !groups->has("Ab"));
+  EXPECT_EQ(database.getGroupDictionary(GcDb::kForRead).first, Gcad::eWasOpenForWrite);
+  groups->close();
   EXPECT_EQ(database.open_count(), 0U);
   EXPECT_EQ(database.drawing().entity_count(), 1U);
 }

@@ -1,17 +1,13 @@
 #include "vexo_xyz_impl/input/text_reader.h"
 
 #include <cstdlib>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include <fcntl.h>
 #include <gtest/gtest.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
-#include "tests/support/console_host.h"
-#include "vexo_xyz_impl/input/loading.h"
 #include "vexo_xyz_impl/text/local_time.h"
 #include "vexo_xyz_impl/text/utf8.h"
 
@@ -20,7 +16,6 @@ namespace {
 
 using namespace std::string_literals;
 using namespace std::string_view_literals;
-using testing_support::TemporaryFile;
 using Rows = std::vector<std::vector<std::string>>;
 
 Rows rows_of(const Table& table) {
@@ -115,56 +110,6 @@ TEST(LocalTime, FollowsAZoneThatChanges) {
   }
   unsetenv("TZ");
   EXPECT_EQ(zones, "AAABBB");
-}
-
-TEST(Loading, FileKindByTheFirstBytes) {
-  const struct {
-    const char* file;
-    std::string_view bytes;
-    FileType typ;
-  } cases[] = {
-      {"zip.csv", "PK\x03\x04", FileType::xlsx},
-      {"zip_cut_short.xlsx", "PK\x03", FileType::tekst},
-      {"zip_without_members.xlsx", "PK\x05\x06 22", FileType::tekst},
-      {"text.xlsx", "1 2", FileType::tekst},
-      {"empty.xlsx", "", FileType::tekst},
-      {"compound.csv", "\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1", FileType::xls_stary},
-      {"compound_other_half.xls", "\xD0\xCF\x11\xE0 1;22\n3", FileType::tekst},
-      {"compound_cut_short.xls", "\xD0\xCF\x11\xE0\xA1\xB1\x1A", FileType::tekst},
-  };
-  for (const auto& [name, bytes, typ] : cases) {
-    SCOPED_TRACE(name);
-    const TemporaryFile file(name, bytes);
-    EXPECT_EQ(_typ_pliku(file.path()), typ);
-    if (typ == FileType::xlsx) continue;
-    const LoadResult loaded = _wczytaj(file.path());
-    EXPECT_EQ(loaded.typ, typ);
-    ASSERT_EQ(loaded.rows.has_value(), typ == FileType::tekst);
-    if (typ == FileType::tekst) {
-      EXPECT_EQ(rows_of(*loaded.rows), rows_of(read(bytes)));
-    }
-  }
-}
-
-TEST(Loading, WhatCannotBeReadIsNoFailure) {
-  const TemporaryFile file("points.csv", "1 2\n");
-  const std::string folder = std::filesystem::path(file.path()).parent_path();
-  const std::string pipe = folder + "/pipe.csv";
-  ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
-  // Both ends are open and lines wait, so that a reader that takes pipes is caught rather than left hanging.
-  const int both_ends = open(pipe.c_str(), O_RDWR | O_NONBLOCK);
-  ASSERT_EQ(write(both_ends, "1 2\n3 4\n", 8), 8);
-  for (const std::string& path :
-       {folder + "/missing.csv", folder, file.path() + "/", file.path() + "\0.txt"s, ""s, pipe, "/proc/self/mem"s}) {
-    SCOPED_TRACE(testing::PrintToString(path));
-    EXPECT_EQ(_typ_pliku(path), std::nullopt);
-    EXPECT_FALSE(_czytaj_tekst(path));
-    const LoadResult loaded = _wczytaj(path);
-    EXPECT_FALSE(loaded.rows || loaded.typ);
-  }
-  close(both_ends);
-  // Said to be empty, as a file that grows while it is read is said to be smaller than it is.
-  EXPECT_GT(_czytaj_tekst("/proc/self/status").value().size(), 20U);
 }
 
 }  // namespace

@@ -1,8 +1,6 @@
 #include <algorithm>
 #include <chrono>
-#include <cstdint>
 #include <fstream>
-#include <optional>
 #include <random>
 #include <string>
 #include <string_view>
@@ -91,34 +89,6 @@ TEST(Table, KeepsCellsByTheirColumns) {
     for (std::size_t column = 0; column < expected.size(); ++column) ASSERT_EQ(row[column], expected[column]);
   }
   EXPECT_LT(table.stored_cells(), 5000U);  // of half a million
-}
-
-TEST(ColumnNumber, OfReferences) {
-  const struct {
-    std::string_view reference;
-    std::optional<std::uint64_t> column;
-  } cases[] = {
-      {"A", 0},
-      {"Z", 25},
-      {"AA", 26},
-      {"AZ", 51},
-      {"BA", 52},
-      {"C7", 2},
-      {"ZZ1", 701},
-      {"XFD1048576", 16383},
-      {"Ab1", 0},
-      {"BĄ", 1},
-      {"", std::nullopt},
-      {"a1", std::nullopt},
-      {"7", std::nullopt},
-      {" A1", std::nullopt},
-      {"$A$1", std::nullopt},
-      {"Ą1", std::nullopt},
-      {"AAAAAAAAAAAAA", 99246114928149462},
-  };
-  for (const auto& [reference, column] : cases) EXPECT_EQ(_kol_nr(reference), column) << reference;
-  for (const char* reference : {"AAAAAAAAAAAAAAAAAAAA1", "ZZZZZZZZZZZZZZZZZZZZ"})
-    EXPECT_THROW(static_cast<void>(_kol_nr(reference)), OverflowError) << reference;
 }
 
 }  // namespace

@@ -254,27 +254,22 @@ class Program(unittest.TestCase):
 
     def test_piped_answers(self):
         for content, arguments, answers, point, texts in [
-            (AXES, [], "z\n", EXCHANGED, []), (AXES, [], "ZAMIEN\n", EXCHANGED, []),
-            (AXES, [], "\t zAm \r\n", EXCHANGED, ["\t zAm \n"]), (AXES, [], "tak", KEPT, []), (AXES, [], "\n", KEPT, []),
-            (AXES, [], "zamień\nz\n", EXCHANGED, ["„zamień”", "Tak, Zamien"]),
+            (AXES, [], "z\n", EXCHANGED, []), (AXES, [], "ZAMIEN\n", EXCHANGED, []), (AXES, [], "tak", KEPT, []),
+            (AXES, [], "\t zAm \r\n", EXCHANGED, ["\t zAm \n"]), (AXES, [], "\n", KEPT, []),
             (AXES, [], "%s%n\nZamiena\nz\n", EXCHANGED, ["„%s%n”", "„Zamiena”"]),
             (AXES, [], "x\n", KEPT, ["„x”"]),  # cancelling this question leaves the axes as they are
-            (AXES, [], "z\x1b\n", KEPT, []), (AXES, ["--axes", "swap"], "", EXCHANGED, ["<Tak>: Zamien\n"]),
-            (AXES, ["--axes=keep"], "z\n", KEPT, ["<Tak>: Tak\n"]), (COLUMNS, [], "n\n", NUMBERED, ["7  100  200"]),
+            (AXES, [], "z\x1b\n", KEPT, []), (AXES, ["--axes=keep"], "z\n", KEPT, ["<Tak>: Tak\n"]),
             (COLUMNS, [], "\n", NUMBERED, []), (COLUMNS, [], "WSPOL\n", UNNUMBERED, []),
-            (COLUMNS, [], "współrzędna\nw\n", UNNUMBERED, ["„współrzędna”", "Numer, Wspolrzedna"]),
             (COLUMNS, [], "z\n", None, ["„z”"] + CANCELLED), (COLUMNS, [], "w\x1b\n", None, CANCELLED),
             (COLUMNS, ["--first-column", "number"], "", NUMBERED, []),
             (COLUMNS, ["--first-column", "coordinate"], "", UNNUMBERED, []),
             (COLUMNS, ["--axes", "swap"], "w\n", UNNUMBERED, ["--axes nie była"]),
-            (POINTS, ["--axes", "swap", "--first-column", "number"], "", FIRST, ["--axes nie", "--first-column nie"]),
         ]:
             with self.subTest(content=content[:9], arguments=arguments, answers=answers):
                 self.start("dane.csv", content)
                 code, out, _ = self.call("dane.csv", *arguments, answers=answers)
                 self.check_drawing(code, out, point)
                 self.check_texts(texts, out)
-                self.assertEqual(out.count(" nie była potrzebna"), sum(text.startswith("--") for text in texts), out)
 
     def test_piped_path(self):
         for answers, content, code, texts in [

@@ -1,16 +1,15 @@
 """Loads the extension module into the stand-in of the CAD host and uses it as the host and its scripts do.
 
-    host_test.py DIST_DIR PROGRAM SAMPLES_DIR [unittest options]
+    host_test.py DIST_DIR [unittest options]
 
-DIST_DIR holds the extension and the family's modules, PROGRAM is the console program.
+DIST_DIR holds the extension and the family's modules.
 """
+import importlib
 import itertools
 import json
 import math
 import os
 import pathlib
-import re
-import subprocess
 import sys
 import tempfile
 import threading
@@ -21,50 +20,14 @@ import zipfile
 
 sys.dont_write_bytecode = True
 HERE = pathlib.Path(__file__).resolve().parent
-sys.path.insert(0, str(HERE.parents[1] / "tools"))
 
-import dxf_graph
 from pygcad.core import runtime
 from pygcad.stand_in import STATUS, GcDb, GcDbObjectId, session
 
-PATIENCE = 120  # seconds
-VALUES = "T _D _rynek _il _r _A_GRS80 _F_GRS80 _A_K _BETA _DELTA _ROWNE_WYSOKOSCI _MAX_KONTROLA".split()
-OPERATIONS = """importxyz _slowo _kword _wspolczynniki _do_geo _sensowny _uklad_nazwa _wykryj_uklad _kol_nr _czytaj_xlsx
-_czytaj_tekst _typ_pliku _wczytaj _num _czy_liczba _liczba_kolumn _pary _pierwsza_to_numer _wykryj_format _rozbierz
-_rowna_wysokosc _openModelSpace _nazwa_grupy _grupuj _oznacz_do_kontroli _setPointDisplayVars _nadaj_styl_pl""".split()
+UNUSED = "_il _r _A_GRS80 _ROWNE_WYSOKOSCI _MAX_KONTROLA _kword".split()  # names that no other test uses
 AXES = "K1 5590435.97 5588346.40 392.34\nK2 5590429.97 5588342.20 393.60\nK3 5590428 5588334 394\n"  # one question
 COLUMNS = "7 100 200\n9 110 220\n"  # another one
 BOTH = "5590435.97 5588346.40 5590400.5\n5590429.97 5588342.20 5590401.5\n5590428 5588334 5590402.5\n"
-
-# Scripts for processes that have loaded nothing yet; each prints what it found out as JSON.
-LOAD = """
-import json, sys, types
-from pygcad.stand_in import session
-class Broken(types.ModuleType):
-    def __getattr__(self, name):
-        raise AttributeError(name) if name.startswith("__") else ValueError("brak licencji")
-def market(answer):
-    sys.modules["vexo_rynek"] = types.SimpleNamespace(rynek=answer)
-def absent(name):
-    sys.modules[name] = None
-def broken(name):
-    sys.modules[name] = Broken(name)
-def outcome():
-    try:
-        import vexo_xyz_impl as m
-    except BaseException as failure:
-        return f"{type(failure).__name__}: {failure}", list(session.commands)
-    return m._D.__name__, list(session.commands)
-"""
-IMPORT = """
-import json, sys
-from pygcad.stand_in import session
-import vexo_xyz_impl as m
-session.file, session.typed = sys.argv[1], [m._slowo(sys.argv[2])]
-m.importxyz()
-entities, groups = ([vars(one) for one in kept.values()] for kept in (session.entities, session.groups))
-print(json.dumps([session.shown, m._slowo(sys.argv[2]), entities, groups, session.variables, session.open]))
-"""
 
 
 class Boot(types.ModuleType):
@@ -82,53 +45,6 @@ class Boot(types.ModuleType):
 
 class Injected(Exception):
     pass
-
-
-def fresh_process(script, *arguments, market="PL"):
-    with tempfile.TemporaryDirectory() as home:
-        environment = os.environ | {"PYTHONPATH": f"{HERE}:{dist}", "VEXO_RYNEK": market, "XDG_STATE_HOME": home}
-        run = subprocess.run([sys.executable, "-B", "-c", script, *arguments], env=environment, capture_output=True,
-                             text=True, timeout=PATIENCE)
-    if run.returncode:
-        raise AssertionError(f"exit status {run.returncode}\n{run.stdout}{run.stderr}")
-    return json.loads(run.stdout)
-
-
-def without_date(text):
-    return re.sub(r"\d{4}-\d\d-\d\d", "DATE", text)
-
-
-class Loading(unittest.TestCase):
-    def test_market_and_failing_steps(self):
-        needed = ["vexo_teksty", "vexo_xyz_dane_PL", "vexo_cad_core"]
-        interface = ["pygcad.core", "pygcad.core.runtime", "pygcad.pygrx"]
-        for steps, market, expected in [
-            ("", "", "vexo_xyz_dane_PL"), ("", "XX", "vexo_xyz_dane_PL"), ("", "RO", "vexo_xyz_dane_RO"),
-            ("", "DE", "vexo_xyz_dane_DE"), ("market(lambda: 'DE')", "PL", "vexo_xyz_dane_DE"),
-            *((steps, "DE", "vexo_xyz_dane_PL") for steps in (
-                "absent('vexo_rynek')", "absent('vexo_xyz_dane_DE')", "broken('vexo_rynek')", "market(lambda: 1 / 0)", "market(lambda: None)", "market(lambda: '')")),
-            *((f"absent('{name}')", "PL", "ModuleNotFoundError: ") for name in needed + interface),
-            *((f"broken('{name}')", "PL", "ValueError: brak licencji") for name in needed if "dane" not in name),
-            ("market(lambda: sys.exit('koniec'))", "DE", "SystemExit: koniec"),
-            ("import pygcad.core; pygcad.core.command = lambda **names: open('/brak')", "PL",
-             "FileNotFoundError: [Errno 2] No such file or directory: '/brak'"),
-        ]:
-            with self.subTest(steps, market=market):
-                found, commands = fresh_process(LOAD + steps + "\nprint(json.dumps(outcome()))", market=market)
-                self.assertEqual(found[:len(expected)], expected)
-                self.assertEqual(commands, ["VEXO_XYZ"] if expected.startswith("vexo") else [])
-
-    def test_names(self):
-        self.assertEqual([name for name in VALUES + OPERATIONS if not hasattr(m, name)], [])
-        self.assertEqual([name for name in OPERATIONS if not callable(getattr(m, name))], [])
-        family = [sys.modules["vexo_" + name] for name in ("teksty", "cad_core", "rynek", "xyz_dane_PL")]
-        self.assertEqual([m.T, m._nadaj_styl_pl, m._rynek, m._D],
-                         [family[0].T, family[1].nadaj_styl_pl, family[2], family[3]])
-        self.assertEqual((m._F_GRS80, m._A_K), (1 / 298.257222101, 6367449.145771048))
-        self.assertEqual((m._BETA[4], m._DELTA[4]), (3.7940918788755123e-16, 1.7692141010784007e-13))
-        self.assertEqual(m._wspolczynniki(), (m._A_K, list(m._BETA), list(m._DELTA)))
-        self.assertIs(m.importxyz, session.commands["VEXO_XYZ"])
-        self.assertEqual(m.importxyz.names, ("VEXO_XYZ", "VEXO_XYZ", "VEXO"))
 
 
 class HostTest(unittest.TestCase):
@@ -162,6 +78,24 @@ class Odd:
 
 
 class Scripts(HostTest):
+    def test_names(self):
+        self.assertEqual([name for name in UNUSED if not hasattr(m, name)], [])
+        family = [sys.modules["vexo_" + name] for name in ("teksty", "cad_core", "rynek", "xyz_dane_PL")]
+        self.assertEqual([m.T, m._nadaj_styl_pl, m._rynek, m._D],
+                         [family[0].T, family[1].nadaj_styl_pl, family[2], family[3]])
+        self.assertEqual((m._F_GRS80, m._A_K), (1 / 298.257222101, 6367449.145771048))
+        self.assertEqual((m._BETA[4], m._DELTA[4]), (3.7940918788755123e-16, 1.7692141010784007e-13))
+        self.assertEqual(m._wspolczynniki(), (m._A_K, list(m._BETA), list(m._DELTA)))
+        self.assertIs(m.importxyz, session.commands["VEXO_XYZ"])
+        self.assertEqual(m.importxyz.names, ("VEXO_XYZ", "VEXO_XYZ", "VEXO"))
+
+    def test_markets(self):
+        agreed = json.loads((HERE.parent / "data" / "geodesy" / "markets.json").read_text("utf-8"))
+        for code, tables in agreed.items():
+            market = vars(importlib.import_module("vexo_xyz_dane_" + code))
+            stated = {name: market[name] for name in tables}
+            self.assertEqual(json.loads(json.dumps(stated, default=sorted)), tables)
+
     def test_results(self):
         book = os.path.join(self.folder, "pomiar.csv")
         with zipfile.ZipFile(book, "w") as archive:
@@ -170,6 +104,8 @@ class Scripts(HostTest):
         known = vars(m) | {
             "Odd": Odd, "folder": self.folder, "book": book, "text": self.put("a.csv", "1;2,5\n#\nł;3\n"),
             "old": self.put("b", bytes.fromhex("D0CF11E0A1B11AE1")), "damaged": self.put("c", b"PK\3\4" + b"x" * 99),
+            "texts": [self.put(str(i), content) for i, content in enumerate((
+                b"", b"PK\3", b"PK\5\6 22", bytes.fromhex("D0CF11E0A1B11A"), b"\xd0\xcf\x11\xe0 1;22\n3"))],
             "odd_name": self.put(os.fsdecode(b"\xb9.csv"), "1 2"), "surrogate": "\udc80",
             "labelled": [["P1", 1.5, "2"], (7, 8, 9), ["x"]],
             "bare": [[6542052.26, 6024823.93, 2.85], ["6542057,52", "6024830.58", 3]]}
@@ -180,7 +116,11 @@ class Scripts(HostTest):
             ("_num(Odd())", TypeError), ("_num()", TypeError), ("_num(1, 2)", TypeError),
             ("_czy_liczba('-1e3')", True), ("_czy_liczba('')", False), ("_czy_liczba(None)", False),
             ("_czy_liczba(Odd())", False), ("_czy_liczba(surrogate)", False), ("_czy_liczba('\\ud800')", False),
-            ("_kol_nr('C7')", 2), ("_kol_nr('BA')", 52), ("_kol_nr(None)", None), ("_kol_nr('7')", None),
+            ("_kol_nr('A')", 0), ("_kol_nr('Z')", 25), ("_kol_nr('AA')", 26), ("_kol_nr('AZ')", 51),
+            ("_kol_nr('BA')", 52), ("_kol_nr('C7')", 2), ("_kol_nr('XFD1048576')", 16383), ("_kol_nr('Ab1')", 0),
+            ("_kol_nr('BĄ')", 1), ("[_kol_nr(ref) for ref in ('', 'a1', '7', ' A1', '$A$1', 'Ą1', None)]", [None] * 7),
+            ("_kol_nr('A' * 13)", 99246114928149462), ("_kol_nr('A' * 20 + '1')", OverflowError),
+            ("_kol_nr('Z' * 20)", OverflowError),
             ("_liczba_kolumn([])", 0), ("_liczba_kolumn([[1], (1, 2), [], [3, 4], ['x']])", 2),
             ("_pary(labelled, 1, 2)", [(1.5, 2.0), (8.0, 9.0)]), ("_pary(bare, 0, 3)", []),
             ("_pierwsza_to_numer(labelled)", True), ("_pierwsza_to_numer(bare)", False),
@@ -203,6 +143,7 @@ class Scripts(HostTest):
             ("_uklad_nazwa(2180)", "PL-1992 (EPSG:2180)"), ("_uklad_nazwa(7)", "EPSG:7"),
             ("_uklad_nazwa('7a')", "EPSG:7a"),
             ("_typ_pliku(book)", "xlsx"), ("_typ_pliku(odd_name)", "tekst"), ("_typ_pliku(old)", "xls_stary"),
+            ("[_typ_pliku(one) for one in texts]", ["tekst"] * 5),
             ("_typ_pliku(folder)", None), ("_typ_pliku(text + '\\0')", ValueError),
             ("_wczytaj(book)", ([["1", "", "ą"]], "xlsx")), ("_wczytaj(text)", ([["1", "2,5"], ["ł", "3"]], "tekst")),
             ("_wczytaj(odd_name)", ([["1", "2"]], "tekst")), ("_wczytaj(old)", (None, "xls_stary")),
@@ -250,41 +191,67 @@ class Scripts(HostTest):
         del db, ids
         self.check_nothing_is_held()
 
+    def test_group_names(self):
+        db = runtime.GcDbDatabase()
+        for path, stem in [
+            ("C:\\pomiary\\Działka 12.csv", "Dzia_ka_12"), ("/home/jan/pomiary/punkty.v2.txt", "punkty_v2"),
+            ("punkty", "punkty"), ("___.txt", "IMPORT"), ("żółć.csv", "IMPORT"), (".csv", "IMPORT"),
+            ("_-a-_.csv", "-a-"), ("x" * 60 + ".csv", "x" * 40), ('100% "nowe".csv', "100_nowe"),
+            ("__" + "x" * 39 + "  y.csv", "x" * 39 + "_"),  # the cut comes after the strip
+        ]:
+            with self.subTest(path):
+                before = time.strftime("%Y-%m-%d")  # midnight may pass
+                name = m._nazwa_grupy(db, path)
+                self.assertIn(name, {f"PIKIETY_{day}_{stem}" for day in (before, time.strftime("%Y-%m-%d"))})
+        name = m._nazwa_grupy(db, "A.csv")
+        for taken, due in [([name[:-1] + "a"], "_2"),  # names are unique without regard to case
+                           ([f"{name}_{i}" for i in range(2, 99)], "_99"), ([name + "_99"], r"_\d{6}")]:
+            session.groups |= {one: types.SimpleNamespace(name=one) for one in taken}
+            self.assertRegex(m._nazwa_grupy(db, "A.csv"), f"^{name}{due}$")
+        _, writer = db.getGroupDictionary(GcDb.kForWrite)
+        self.assertEqual(m._nazwa_grupy(db, "A.csv"), name)  # cannot be checked
+        writer.close()
+
+
 class Imports(HostTest):
-    def test_samples_as_the_console_imports_them(self):
-        with open(samples / "manifest.json", encoding="utf-8") as file:
-            manifest = json.load(file)["files"]
-        for sample in manifest:
-            for symbol in ["Tak", "Zamien"] if "readings" in sample["expected"] else ["Tak"]:
-                with self.subTest(sample["file"], answer=symbol):
-                    self.check_sample(str(samples / sample["file"]), sample["market"], symbol)
+    def drawn_of(self, content):
+        session.clear()
+        session.file = self.put("p.csv", content)
+        m.importxyz()
+        return list(session.entities.values())
 
-    def check_sample(self, source, market, symbol):
-        shown, word, entities, groups, variables, still_open = fresh_process(IMPORT, source, symbol, market=market)
-        target = os.path.join(self.folder, f"{os.path.basename(source)} {symbol}.dxf")
-        run = subprocess.run([program, "--market", market, "-o", target, source], input=f"{word}\n", text=True,
-                             env=os.environ | {"XDG_STATE_HOME": self.folder}, capture_output=True, timeout=PATIENCE)
-        said, imported = without_date(run.stdout), without_date(shown)
-        self.assertEqual(said[:len(imported)], imported)
-        self.assertRegex(said[len(imported):], rf"^[^\n]*{re.escape(target)}\n$" if entities else "^$")
-        self.assertEqual((still_open, os.path.exists(target)), ([], bool(entities)))
-        if entities:
-            self.check_same_drawing(target, entities, groups, variables)
+    def test_labels_by_the_extent_of_the_points(self):
+        for content, height in [
+            ("A;100;200\nB;100;200\n", 2.5),  # one spot
+            ("A;0;0\nB;1e-6;1e-6\n", 2.5), ("A;0;0\nB;1.1e-6;0\n", 0.1),  # the least of all heights
+            ("A;0;0\nB;112;60\n", 2.0),  # 2 % of the larger extent
+            ("A;0;0\nB;10;5000\n", 100.0), ("A;0;0\nB;10;7750\n", 160.0),  # whole tens above 100
+        ]:
+            with self.subTest(content):
+                point, label, *_ = self.drawn_of(content)
+                x, y, z = point.position
+                self.assertEqual((label.text, label.height, label.position),
+                                 ("A", height, [x + height * 0.6, y + height * 0.6, z]))
 
-    def check_same_drawing(self, target, entities, groups, variables):
-        tags = dxf_graph.read_tags(target)
-        records = dxf_graph.split(tags, [])
-        drawn = []
-        for one in (record for record in records if record.section == "ENTITIES" and record.has_handle):
-            drawn.append({"kind": one.kind, "position": [float(one.first(code)) for code in (10, 20, 30)]})
-            if one.kind == "TEXT":
-                drawn[-1] |= {"text": one.first(1), "height": float(one.first(40)), "style": one.first(7)}
-        self.assertEqual(drawn, entities)
-        group, = [one for one in records if one.kind == "GROUP"]
-        self.assertEqual([(one["description"], one["selectable"], len(one["members"])) for one in groups],
-                         [(group.first(300), group.first(71).strip() == "1", len(group.all(340)))])
-        header = {name: value for (_, name), (_, value) in zip(tags, tags[1:])}
-        self.assertEqual(variables, {name: float(header["$" + name]) for name in ("PDMODE", "PDSIZE")})
+    def test_two_hundred_rows_settle_columns_and_axes(self):
+        rows = ["7;1;2\n" if i < 20 or i >= 200 else "7;5788457;7500833\n" for i in range(300)]
+        drawn = self.drawn_of("".join(rows))
+        self.assertEqual((len(drawn), drawn[40].position[1]), (600, 5788457.0))
+
+    def test_why_points_are_not_controlled(self):
+        core = importlib.import_module("vexo_reaktywne_core")
+        self.addCleanup(sys.modules.update, {"vexo_reaktywne_core": core})
+        for count, core, said in [
+            (2000, core, m.T("xyz.kontrola_ok") % 2000), (2001, core, m.T("xyz.kontrola_za_duzo") % (2001, 2000)),
+            (3, None, m.T("xyz.kontrola_niedostepna").partition("%s")[0] + "ModuleNotFoundError: "),
+        ]:
+            with self.subTest(count):
+                sys.modules["vexo_reaktywne_core"] = core
+                drawn = self.drawn_of("".join(f"L;{i};200,25;11\n" for i in range(count)))
+                self.assertEqual(len(drawn), 2 * count)
+                self.assertIn(said, session.shown)
+                points = [f"{key:X}" for key, one in session.entities.items() if one.kind == "POINT"]
+                self.assertEqual([handle for handle, *_ in session.records], points if count == 2000 else [])
 
     def test_ways_through_the_dialogue(self):
         axes, columns = self.put("50%s %d.txt", AXES), self.put("u.txt", COLUMNS)
@@ -402,13 +369,12 @@ class Imports(HostTest):
 
 
 if __name__ == "__main__":
-    if len(sys.argv) < 4:
+    if len(sys.argv) < 2:
         sys.exit(__doc__)
-    dist, program, samples = (pathlib.Path(argument).resolve() for argument in sys.argv[1:4])
     os.environ.pop("VEXO_RYNEK", None)
     os.environ.pop("VEXO_JEZYK", None)
-    sys.path.insert(1, str(dist))
+    sys.path.insert(1, os.path.abspath(sys.argv[1]))
     sys.modules["vexo_boot"] = Boot("vexo_boot")
     import vexo_xyz_impl as m
     idle = session.live_objects()
-    unittest.main(argv=sys.argv[:1] + sys.argv[4:])
+    unittest.main(argv=sys.argv[:1] + sys.argv[2:])

@@ -5,15 +5,13 @@
 Each script runs in a process of its own, so that one that ends it fails alone.
 """
 import json
-import os
 import pathlib
-import subprocess
 import sys
-import tempfile
 import unittest
 
-HERE = pathlib.Path(__file__).resolve().parent
-PATIENCE = 300  # seconds; a build with sanitizers on a busy machine is slow
+sys.dont_write_bytecode = True
+
+from fresh_process import run
 
 START = """
 import gc, importlib, itertools, json, os, sys, threading, types, zipfile
@@ -292,14 +290,10 @@ print(json.dumps([*done, inserted > 0, inserted + refused == 100, len(texts) == 
 """,
 }
 
-# Loads the module for a market of the given tables and evaluates calls: their answers, or the kinds of their failures.
-MARKETS = START + """
+# Loads the module for a market of the given tables, beside sound ones.
+MARKET = START + """
+from math import inf, nan
 TM = ("TM", 21.0, 0.999923, 7500000.0, 0.0)
-class Items:
-    def __init__(self, items): self.items = items
-    def __getitem__(self, key): return self.items[key]
-class Members:
-    def __contains__(self, code): return code == "x"
 def loaded(**tables):
     sound = dict(UKLADY={1: TM}, KOLEJNOSC=[1], NAZWY={}, KRAJ_LAT=(49, 55), KRAJ_LON=(14, 24), ZONE_EXEMPT=(),
                  EASTING_HALF=None, LON_HALF=None)
@@ -307,6 +301,15 @@ def loaded(**tables):
     sys.modules["vexo_rynek"] = types.SimpleNamespace(rynek=lambda: "XX")
     importlib.reload(m)
     return m._D.__name__ == "XX"
+"""
+
+# Evaluates calls: their answers, or the kinds of their failures.
+MARKETS = MARKET + """
+class Items:
+    def __init__(self, items): self.items = items
+    def __getitem__(self, key): return self.items[key]
+class Members:
+    def __contains__(self, code): return code == "x"
 def outcome(call):
     try:
         return repr(eval(call))
@@ -332,6 +335,11 @@ ODD_MARKETS = [  # tables beside sound ones, a call, its answer or the kind of i
     ("UKLADY={1: ()}", f"m._sensowny(*{HERE_}, 1)", "IndexError"),
     ("UKLADY={1: ('TM', 21, 0, 0, 0)}", f"m._wykryj_uklad([{HERE_}])", "[]"),  # divided by zero: not plausible
     ("UKLADY={1: ('TM', 21, 0, 0, 0)}", f"m._do_geo(*{HERE_}, 1)", "ZeroDivisionError"),
+    ("", "m._do_geo(7500000, -inf, 1)", "ValueError"),
+    ("", "m._do_geo(-1e10, 5.8e6, 1)", "OverflowError"),  # beyond the hyperbolic functions
+    ("", "[len(m._do_geo(*pair, 1)) for pair in ((inf, 5.8e6), (nan, nan))]", "[2, 2]"),
+    ("KRAJ_LAT=(-360, 360), KRAJ_LON=(-360, 360)", "[m._sensowny(*pair, 1) for pair in ((7500000, -inf), "
+     "(-1e10, 5.8e6), (inf, 5.8e6), (nan, nan), (7500000, 5.8e6))]", "[False, False, False, False, True]"),
     ("KOLEJNOSC=[1, 9]", f"m._wykryj_uklad([{HERE_}])", "KeyError"),
     ("KOLEJNOSC=None", f"m._wykryj_uklad([{HERE_}])", "TypeError"),
     ("KRAJ_LON=None", f"m._wykryj_uklad([(0, 0)])", "[]"),  # outside by latitude, so never asked
@@ -346,15 +354,11 @@ ODD_MARKETS = [  # tables beside sound ones, a call, its answer or the kind of i
 ]
 
 # A projection of scripts that answers or raises; whether the points went in, and what was said of the system.
-PROJECTION = START + """
+PROJECTION = MARKET + """
 answer = None
 def stereo70_do_geo(E, N): return eval(answer)
 sys.modules["vexo_stereo70"] = types.SimpleNamespace(stereo70_do_geo=stereo70_do_geo)
-sys.modules["vexo_xyz_dane_XX"] = types.SimpleNamespace(
-    UKLADY={1: ("stereo70",)}, KOLEJNOSC=[1], NAZWY={}, KRAJ_LAT=(43, 49), KRAJ_LON=(20, 30), ZONE_EXEMPT=(),
-    EASTING_HALF=None, LON_HALF=None)
-sys.modules["vexo_rynek"] = types.SimpleNamespace(rynek=lambda: "XX")
-importlib.reload(m)
+loaded(UKLADY={1: ("stereo70",)}, KRAJ_LAT=(43, 49), KRAJ_LON=(20, 30))
 said = []
 for answer in json.loads(sys.argv[1]):
     session.clear()
@@ -373,33 +377,23 @@ PROJECTIONS = [
 ]
 
 
-def run(script, *arguments):
-    with tempfile.TemporaryDirectory() as folder:
-        environment = os.environ | {"PYTHONPATH": f"{HERE}:{dist}", "VEXO_RYNEK": "PL", "XDG_STATE_HOME": folder}
-        done = subprocess.run([sys.executable, "-B", "-c", script, *arguments], env=environment, cwd=folder,
-                              capture_output=True, text=True, timeout=PATIENCE)
-    if done.returncode or done.stderr:
-        raise AssertionError(f"exit status {done.returncode}\n{done.stdout}{done.stderr[-3000:]}")
-    return json.loads(done.stdout)
-
-
 class Lifetime(unittest.TestCase):
     def test_whatever_the_host_does_at_any_of_its_calls(self):
         names = ["nested", "operations", "again", "reload", "taken_apart"]
-        self.assertEqual(run(REENTRY), {name: [True] for name in names})
+        self.assertEqual(run(dist, REENTRY), {name: [True] for name in names})
 
     def test_scripts(self):
         for name, script in SCRIPTS.items():
             with self.subTest(name):
-                answers = run(script)
+                answers = run(dist, script)
                 self.assertEqual(answers, [True] * len(answers))
 
     def test_odd_markets(self):
-        answers = run(MARKETS, json.dumps([case[:2] for case in ODD_MARKETS]))
+        answers = run(dist, MARKETS, json.dumps([case[:2] for case in ODD_MARKETS]))
         self.assertEqual(list(zip(ODD_MARKETS, answers)), [(case, case[2]) for case in ODD_MARKETS])
 
     def test_a_script_s_projection(self):
-        answers = run(PROJECTION, json.dumps([answer for answer, _ in PROJECTIONS]))
+        answers = run(dist, PROJECTION, json.dumps([answer for answer, _ in PROJECTIONS]))
         self.assertEqual(list(zip(PROJECTIONS, answers)), [(case, case[1]) for case in PROJECTIONS])
 
 
