@@ -25,12 +25,14 @@ inline void keep_freed_memory() {
   constexpr int kUsualMostMapped = 65536;
   mallopt(M_TRIM_THRESHOLD, INT_MAX);
   mallopt(M_MMAP_MAX, 0);  // a block so large would get a mapping of its own
+  // NOLINTBEGIN(cppcoreguidelines-no-malloc): the C library's heap is what this is about
   if (void* const room = std::malloc(kRoom)) {
     void* begin = room;
     std::size_t bytes = kRoom;
     if (std::align(kPage, kPage, begin, bytes) != nullptr) madvise(begin, bytes, MADV_HUGEPAGE);
     std::free(room);
   }
+  // NOLINTEND(cppcoreguidelines-no-malloc)
   mallopt(M_MMAP_MAX, kUsualMostMapped);
   mallopt(M_MMAP_THRESHOLD, 32 << 20);
 #endif
