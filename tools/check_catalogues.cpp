@@ -84,7 +84,7 @@ int main() {
   int faults = 0;
   for (const vexo_teksty::Language& language : vexo_teksty::languages()) {
     faults += check_entries(language.code, language.entries, vexo_teksty::kKeys);
-    faults += check_entries(language.code, console::own_entries(language.code), console::kKeys);
+    faults += check_entries(language.code, console::own_entries(language.code), console::own_keys());
     faults += check_questions(language);
   }
   return faults == 0 ? 0 : 1;

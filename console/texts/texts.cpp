@@ -1,29 +1,52 @@
 #include "console/texts/texts.h"
 
+#include <algorithm>
 #include <string>
+
+#include "console/texts/topics.h"
 
 namespace console {
 namespace {
 
+template <class Visit>
+void for_each_text(Visit visit) {
+  for (const auto topic : {program_texts, account_texts, doubt_texts, reason_texts, prepare_texts})
+    for (const Text& text : topic()) visit(text);
+}
+
+std::string_view in_language(const Text& text, std::string_view language) {
+  if (language == "DE") return text.german;
+  if (language == "RO") return text.romanian;
+  return language == "EN" ? text.english : text.polish;
+}
+
 class BothTexts final : public vexo_xyz_impl::host::Texts {
  public:
   explicit BothTexts(std::string_view language)
-      : family_(vexo_teksty::language_of(language).entries), own_(own_entries(language)) {}
+      : family_(vexo_teksty::language_of(language).entries), entries_(own_entries(language)), own_(entries_) {}
   [[nodiscard]] std::string T(std::string_view key) const override {
     return (key.starts_with("konsola.") ? own_ : family_).T(key);
   }
 
  private:
   vexo_teksty::Catalogue family_;
+  std::vector<vexo_teksty::Entry> entries_;
   vexo_teksty::Catalogue own_;
 };
 
 }  // namespace
 
-std::span<const vexo_teksty::Entry> own_entries(std::string_view language) {
-  if (language == "DE") return german();
-  if (language == "RO") return romanian();
-  return language == "EN" ? english() : polish();
+std::vector<vexo_teksty::Key> own_keys() {
+  std::vector<vexo_teksty::Key> keys;
+  for_each_text([&](const Text& text) { keys.push_back({text.key, text.values}); });
+  return keys;
+}
+
+std::vector<vexo_teksty::Entry> own_entries(std::string_view language) {
+  std::vector<vexo_teksty::Entry> entries;
+  for_each_text([&](const Text& text) { entries.emplace_back(text.key, in_language(text, language)); });
+  std::sort(entries.begin(), entries.end());
+  return entries;
 }
 
 std::shared_ptr<vexo_xyz_impl::host::Texts> texts_in(std::string_view language) {

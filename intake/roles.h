@@ -1,0 +1,27 @@
+// What a column of a foreign table holds.
+#pragma once
+
+#include <optional>
+#include <string_view>
+#include <vector>
+
+namespace intake {
+
+/// A column's part in a points' file; as `--columns` spells it beside each.
+enum class Role {
+  number,    ///< nr
+  easting,   ///< e
+  northing,  ///< n
+  x,         ///< x: first coordinate, its axis not known
+  y,         ///< y: second coordinate, its axis not known
+  height,    ///< z
+  other,     ///< -: not taken
+};
+
+/// A role for each column, in the file's order.
+using Roles = std::vector<Role>;
+
+/// Roles as `--columns` spells them, separated by commas; empty when one is none or a role but `-` stands twice.
+[[nodiscard]] std::optional<Roles> roles_of(std::string_view spelled);
+
+}  // namespace intake
