@@ -34,6 +34,9 @@ class Table {
   /// Whether the cell is a shared string of a workbook: all cells that share it are views of the same bytes.
   [[nodiscard]] bool shares(Cell cell) const;
 
+  /// The buffer adopted last: the text of a text file, the XML of a worksheet; empty when there is none.
+  [[nodiscard]] std::string_view text() const;
+
   /// Keeps a copy of a text that stands in no buffer.
   std::string_view keep(std::string_view text);
 
