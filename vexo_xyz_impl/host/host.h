@@ -12,7 +12,8 @@ struct Host {
   CommandLine& command_line;
   DatabaseServices& database;
   SiblingLoader& siblings;
-  HostLock* lock = nullptr;  ///< none: nothing guards the host
+  HostLock* lock = nullptr;                ///< none: nothing guards the host
+  Foreknowledge* foreknowledge = nullptr;  ///< none: nobody was asked beforehand
 };
 
 }  // namespace vexo_xyz_impl::host
