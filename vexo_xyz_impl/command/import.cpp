@@ -6,6 +6,7 @@
 #include <string_view>
 #include <utility>
 
+#include "vexo_xyz_impl/command/axes.h"
 #include "vexo_xyz_impl/command/insertion.h"
 #include "vexo_xyz_impl/command/questions.h"
 #include "vexo_xyz_impl/command/report.h"
@@ -46,7 +47,8 @@ CommandOutcome import_file(const std::string& path) {
   if (!table) return CommandOutcome::failed;
 
   LayoutVerdict verdict;
-  without_lock([&] { verdict = _wykryj_format(table->rows()); });
+  const auto declared = columns_by_first_line(path, table->rows());
+  without_lock([&] { verdict = declared ? declared_layout(*declared, table->rows()) : _wykryj_format(table->rows()); });
   if (!verdict.fmt && !ask_layout(verdict)) return CommandOutcome::nothing_done;
   Decomposition read;
   if (verdict.fmt) {
@@ -65,7 +67,8 @@ CommandOutcome import_file(const std::string& path) {
     return CommandOutcome::nothing_done;
   }
 
-  if (settle_axes(read.punkty))
+  const auto order = declared && declared->east_north ? std::optional(host::AxisOrder::east_first) : std::nullopt;
+  if (settle_axes(read.punkty, order).swap)
     for (PointRecord& point : read.punkty) std::swap(point.x, point.y);
 
   const double txtH = label_height(read.punkty);
