@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "console/dxf/dxf_writer.h"
+#include "console/failure_text.h"
 #include "console/files.h"
 #include "vexo_xyz_impl/command/module.h"
 #include "vexo_xyz_impl/command/questions.h"
@@ -27,7 +28,7 @@ Session::Session(SessionOptions options, LineSource& lines, std::ostream& out)
     : options_(std::move(options)),
       dialogue_(lines, out, database_.drawing().variables, options_.file, options_.answers),
       siblings_(family(database_, options_.choice)),
-      entered_({{dialogue_, database_, siblings_}, vexo_xyz_impl::bind_siblings(siblings_)}) {
+      entered_({{dialogue_, database_, siblings_, nullptr, this}, vexo_xyz_impl::bind_siblings(siblings_)}) {
   vexo_xyz_impl::register_command(*this);
 }
 
@@ -48,7 +49,7 @@ bool Session::output_is_refused() {
   }
   const auto status = std::filesystem::status(*options_.output, ignored);
   if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status)) {
-    say("konsola.blad_zapisu", {options_.output->string(), "not a regular file"});
+    say("konsola.blad_zapisu", {options_.output->string(), vexo_xyz_impl::T("konsola.powod_nie_plik")});
     return true;
   }
   if (!options_.force && std::filesystem::exists(status)) {
@@ -58,7 +59,19 @@ bool Session::output_is_refused() {
   return false;
 }
 
+// The module takes such a market for the Polish one without a word.
+void Session::warn_of_unknown_market() {
+  using vexo_xyz_impl::host::load_sibling;
+  const std::string market = load_sibling<vexo_xyz_impl::host::Market>(siblings_, "vexo_rynek")->rynek();
+  try {
+    siblings_.load("vexo_xyz_dane_" + market);
+  } catch (const vexo_xyz_impl::ModuleNotFoundError&) {
+    say("konsola.nieznany_rynek", {market});
+  }
+}
+
 ExitCode Session::run() {
+  warn_of_unknown_market();
   if (output_is_refused()) return kFailure;  // before any question
   const CommandOutcome outcome = import_();
   for (const std::string_view option : dialogue_.unused_options()) say("konsola.opcja_zbedna", {std::string(option)});
@@ -81,7 +94,7 @@ ExitCode Session::save() {
     say("konsola.zapisano", {write_drawing().string()});
     return kImported;
   } catch (const std::system_error& failure) {
-    say("konsola.blad_zapisu", {wanted, failure.what()});
+    say("konsola.blad_zapisu", {wanted, failure_text(failure)});
     return kFailure;
   }
 }
@@ -95,13 +108,13 @@ std::filesystem::path Session::write_drawing() {
   file.flush();
   if (options_.output) {
     if (file.commit(*options_.output, options_.force)) return *options_.output;
-    throw std::system_error(EEXIST, std::generic_category(), "renaming");
+    throw FileFailure(FileStep::rename, EEXIST);
   }
   for (int number = 1; number <= kMostNames; ++number) {
     std::filesystem::path name = drawing_name(source, number);
     if (file.commit(name, false)) return name;
   }
-  throw std::system_error(EEXIST, std::generic_category(), "finding a free name");
+  throw FileFailure(FileStep::rename, EEXIST);
 }
 
 void Session::say(std::string_view key, const std::vector<std::string>& values) {

@@ -22,12 +22,13 @@ struct SessionOptions {
   bool force = false;                           ///< an existing output may be replaced
   Choice choice;                                ///< market and language
   std::vector<PreparedAnswer> answers;
+  std::optional<vexo_xyz_impl::host::AxisOrder> axes;  ///< which coordinate stands first, told beforehand
 };
 
 /// Exit codes of the program.
 enum ExitCode { kImported = 0, kNothingImported = 1, kUsage = 2, kFailure = 3 };
 
-class Session final : private vexo_xyz_impl::host::CommandTable {
+class Session final : private vexo_xyz_impl::host::CommandTable, private vexo_xyz_impl::host::Foreknowledge {
  public:
   Session(SessionOptions options, LineSource& lines, std::ostream& out);
 
@@ -37,7 +38,9 @@ class Session final : private vexo_xyz_impl::host::CommandTable {
  private:
   void command(std::string_view local_name, std::string_view global_name, std::string_view group_name,
                vexo_xyz_impl::host::CommandFunction function) override;
+  std::optional<vexo_xyz_impl::host::AxisOrder> axis_order() override { return options_.axes; }
   [[nodiscard]] bool output_is_refused();
+  void warn_of_unknown_market();
   ExitCode save();
   std::filesystem::path write_drawing();
   void say(std::string_view key, const std::vector<std::string>& values);

@@ -6,6 +6,7 @@
 #include "siblings/vexo_boot/boot.h"
 #include "siblings/vexo_boot/log_file.h"
 #include "siblings/vexo_cad_core/cad_core.h"
+#include "siblings/vexo_miejsca/miejsca.h"
 #include "siblings/vexo_reaktywne_core/reaktywne_core.h"
 #include "siblings/vexo_rynek/rynek.h"
 #include "siblings/vexo_stereo70/stereo70.h"
@@ -29,6 +30,7 @@ SiblingRegistry family(Database& database, const Choice& choice) {
   SiblingRegistry registry;
   auto market = std::make_shared<vexo_rynek::Market>(choice.market);
   registry.add("vexo_teksty", texts_in(choice.language.empty() ? market->rynek() : choice.language));
+  registry.add("vexo_miejsca", std::make_shared<vexo_miejsca::Places>(market->rynek()));
   registry.add("vexo_rynek", std::move(market));
   registry.add("vexo_xyz_dane_PL", std::make_shared<vexo_xyz_dane::Tables>(vexo_xyz_dane_PL::tables()));
   registry.add("vexo_xyz_dane_DE", std::make_shared<vexo_xyz_dane::Tables>(vexo_xyz_dane_DE::tables()));

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "vexo_xyz_impl/bindings.h"
+#include "vexo_xyz_impl/command/axes.h"
 #include "vexo_xyz_impl/command/import_seen.h"
 #include "vexo_xyz_impl/command/insertion.h"
 #include "vexo_xyz_impl/command/questions.h"
@@ -52,8 +53,10 @@ void take_rows_apart(ImportSeen& seen) {
 CommandOutcome import_file(ImportSeen& seen) {
   if (!read_file(seen)) return CommandOutcome::failed;
 
+  const std::vector<Row>& rows = seen.loaded.rows->rows();
+  const auto declared = columns_by_first_line(seen.path, rows);
   LayoutVerdict& verdict = seen.verdict;
-  without_lock([&] { verdict = _wykryj_format(seen.loaded.rows->rows()); });
+  without_lock([&] { verdict = declared ? declared_layout(*declared, rows) : _wykryj_format(rows); });
   if (!verdict.fmt && !ask_layout(verdict)) return CommandOutcome::nothing_done;
   if (verdict.fmt) {
     announce_layout(*verdict.fmt, verdict.opis);
@@ -67,7 +70,9 @@ CommandOutcome import_file(ImportSeen& seen) {
     return CommandOutcome::nothing_done;
   }
 
-  if (settle_axes(read.punkty))
+  const auto order = declared && declared->east_north ? std::optional(host::AxisOrder::east_first) : std::nullopt;
+  seen.axes = settle_axes(read.punkty, order);
+  if (seen.axes.swap)
     for (PointRecord& point : read.punkty) std::swap(point.x, point.y);
 
   const double txtH = label_height(read.punkty);

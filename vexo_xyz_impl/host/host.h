@@ -13,8 +13,9 @@ struct Host {
   CommandLine& command_line;
   DatabaseServices& database;
   SiblingLoader& siblings;
-  HostLock* lock = nullptr;      ///< none: nothing guards the host
-  ImportWatch* watch = nullptr;  ///< none: nobody watches imports
+  HostLock* lock = nullptr;                ///< none: nothing guards the host
+  Foreknowledge* foreknowledge = nullptr;  ///< none: nobody was asked beforehand
+  ImportWatch* watch = nullptr;            ///< none: nobody watches imports
 };
 
 }  // namespace vexo_xyz_impl::host
