@@ -58,9 +58,7 @@ Account begun(const ImportSeen& seen) {
   return account;
 }
 
-Why why_left_out(Row row, std::size_t columns) {
-  return row.size() < columns ? Why::too_few_columns : Why::no_number;
-}
+Why why_left_out(Row row, std::size_t columns) { return row.size() < columns ? Why::too_few_columns : Why::no_number; }
 
 void add_left_out(Account& account, const ImportSeen& seen, Places& places) {
   const auto& rows = seen.loaded.rows->rows();
