@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "console/account/account_lines.h"
+#include "console/report/reasons.h"
 #include "vexo_xyz_impl/crs/systems.h"
 #include "vexo_xyz_impl/messages.h"
 
@@ -93,6 +94,7 @@ void ImportWatcher::ended(const ImportSeen& seen) {
     auto doubts = doubts_of_import(evidence);
     std::move(doubts.begin(), doubts.end(), std::back_inserter(findings_.doubts));
   }
+  findings_.reason = reason_of(seen, findings_);
   places_.reset();
   header_.reset();
 }

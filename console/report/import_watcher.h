@@ -23,7 +23,7 @@ class ImportWatcher final : public vexo_xyz_impl::host::ImportWatch {
   std::optional<Header> header_;
 };
 
-/// Prints rows without a point and doubts, nothing where there are none.
+/// Prints rows without a point, doubts and the reason, nothing where there are none.
 void print_findings(const Findings& findings);
 
 }  // namespace console
