@@ -35,6 +35,7 @@ struct Arguments {
   std::string file;
   std::string output;
   bool force = false;
+  std::string report;
   std::string first_column;
   std::string axes;
   console::Choice choice;
@@ -49,6 +50,10 @@ void declare(CLI::App& app, Arguments& arguments) {
                  "Drawing to write. Default: beside FILE, with its name, or the next free one (_2, _3 ...)")
       ->type_name("OUT.dxf");
   app.add_flag("--force", arguments.force, "Replace the drawing given by -o if it exists");
+  app.add_option("--report", arguments.report,
+                 "Write what came of the import: every row without a point, every doubt; JSON where the name ends with "
+                 ".json, else text")
+      ->type_name("OUT.txt|OUT.json");
   app.add_option("--first-column", arguments.first_column,
                  "What the first column holds, should the file not tell: 'number' or 'coordinate'")
       ->type_name("WHAT")
@@ -73,6 +78,7 @@ console::SessionOptions options_of(const CLI::App& app, const Arguments& argumen
   if (app.count("FILE") > 0) options.file = arguments.file;
   if (app.count("-o") > 0) options.output = arguments.output;
   options.force = arguments.force;
+  if (app.count("--report") > 0) options.report = arguments.report;
   options.choice = arguments.choice;
   if (!arguments.first_column.empty()) {
     options.answers.push_back(

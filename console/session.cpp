@@ -7,6 +7,7 @@
 #include "console/dxf/dxf_writer.h"
 #include "console/failure_text.h"
 #include "console/files.h"
+#include "console/report/report_file.h"
 #include "vexo_xyz_impl/command/module.h"
 #include "vexo_xyz_impl/command/questions.h"
 #include "vexo_xyz_impl/messages.h"
@@ -28,7 +29,7 @@ Session::Session(SessionOptions options, LineSource& lines, std::ostream& out)
     : options_(std::move(options)),
       dialogue_(lines, out, database_.drawing().variables, options_.file, options_.answers),
       siblings_(family(database_, options_.choice)),
-      entered_({{dialogue_, database_, siblings_, nullptr, this}, vexo_xyz_impl::bind_siblings(siblings_)}) {
+      entered_({{dialogue_, database_, siblings_, nullptr, this, &watcher_}, vexo_xyz_impl::bind_siblings(siblings_)}) {
   vexo_xyz_impl::register_command(*this);
 }
 
@@ -66,10 +67,34 @@ void Session::warn_of_unknown_market() {
   if (!siblings_.has("vexo_xyz_dane_" + market)) say("konsola.nieznany_rynek", {market});
 }
 
+// Whether the report may not have its name, the user told: an earlier report is replaced, the files of points and of
+// the drawing never.
+bool Session::report_is_refused() {
+  if (!options_.report) return false;
+  std::error_code ignored;
+  const std::filesystem::path source = vexo_xyz_impl::clean_path(options_.file.value_or(dialogue_.path()));
+  const bool is_source = std::filesystem::equivalent(*options_.report, source, ignored);
+  const bool is_drawing = options_.output && options_.report->lexically_normal() == options_.output->lexically_normal();
+  const auto status = std::filesystem::status(*options_.report, ignored);
+  if (is_source) {
+    say("konsola.plik_zrodlowy", {options_.report->string()});
+  } else if (is_drawing || (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status))) {
+    say("konsola.raport_blad", {options_.report->string(), vexo_xyz_impl::T("konsola.powod_nie_plik")});
+  } else {
+    return false;
+  }
+  return true;
+}
+
 ExitCode Session::run() {
   warn_of_unknown_market();
-  if (output_is_refused()) return kFailure;  // before any question
+  if (output_is_refused() || report_is_refused()) return kFailure;  // before any question
+  return save_report(import_and_save());
+}
+
+ExitCode Session::import_and_save() {
   const CommandOutcome outcome = import_();
+  print_findings(watcher_.findings());
   for (const std::string_view option : dialogue_.unused_options()) say("konsola.opcja_zbedna", {std::string(option)});
   if (outcome == CommandOutcome::failed) {
     if (database_.drawing().entity_count() > 0) say("konsola.nie_zapisano", {});
@@ -91,6 +116,19 @@ ExitCode Session::save() {
     return kImported;
   } catch (const std::system_error& failure) {
     say("konsola.blad_zapisu", {wanted, failure_text(failure)});
+    return kFailure;
+  }
+}
+
+ExitCode Session::save_report(ExitCode so_far) {
+  if (!options_.report) return so_far;
+  if (report_is_refused()) return kFailure;  // a path that was typed is known only now
+  try {
+    write_report(watcher_.findings(), *options_.report);
+    say("konsola.raport_zapisano", {options_.report->string()});
+    return so_far;
+  } catch (const std::system_error& failure) {
+    say("konsola.raport_blad", {options_.report->string(), failure_text(failure)});
     return kFailure;
   }
 }
