@@ -67,10 +67,10 @@ void declare(CLI::App& app, Arguments& arguments) {
   app.add_option("--market", arguments.choice.market,
                  "Country whose coordinate systems are tried. Default: $VEXO_RYNEK, else PL")
       ->type_name("PL|DE|RO")
-      ->check(CLI::IsMember({"PL", "DE", "RO"}, CLI::ignore_case));
+      ->transform(CLI::IsMember({"PL", "DE", "RO"}, CLI::ignore_case));
   app.add_option("--lang", arguments.choice.language, "Language of the messages. Default: the market's")
       ->type_name("PL|DE|RO|EN")
-      ->check(CLI::IsMember({"PL", "DE", "RO", "EN"}, CLI::ignore_case));
+      ->transform(CLI::IsMember({"PL", "DE", "RO", "EN"}, CLI::ignore_case));
 }
 
 console::SessionOptions options_of(const CLI::App& app, const Arguments& arguments) {

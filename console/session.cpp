@@ -64,11 +64,7 @@ bool Session::output_is_refused() {
 void Session::warn_of_unknown_market() {
   using vexo_xyz_impl::host::load_sibling;
   const std::string market = load_sibling<vexo_xyz_impl::host::Market>(siblings_, "vexo_rynek")->rynek();
-  try {
-    siblings_.load("vexo_xyz_dane_" + market);
-  } catch (const vexo_xyz_impl::ModuleNotFoundError&) {
-    say("konsola.nieznany_rynek", {market});
-  }
+  if (!siblings_.has("vexo_xyz_dane_" + market)) say("konsola.nieznany_rynek", {market});
 }
 
 // Whether the report may not have its name, the user told: an earlier report is replaced, the files of points and of
