@@ -42,6 +42,9 @@ using DoubtFunction = std::optional<Doubt> (*)(Evidence&);
 /// The header among the rows left out; none when no row is one.
 [[nodiscard]] std::optional<Header> header_of(const vexo_xyz_impl::ImportSeen& seen, Places& places);
 
+/// Whether two coordinates' names say that the first is the northing; nothing when they do not say which is.
+[[nodiscard]] std::optional<bool> names_north_first(intake::Named first, intake::Named second);
+
 /// Doubts about rows and columns, for when the table still has its rows.
 [[nodiscard]] std::vector<Doubt> doubts_of_rows(Evidence& evidence);
 

@@ -36,16 +36,15 @@ std::optional<std::size_t> contradicted_column(const Header& header, vexo_xyz_im
   return std::nullopt;
 }
 
-// Whether the names say that the first coordinate is the northing; nothing when they do not say which is.
-std::optional<bool> names_north_first(Named first, Named second) {
+}  // namespace
+
+std::optional<bool> names_north_first(intake::Named first, intake::Named second) {
   if (first == Named::northing && second != Named::northing) return true;
   if (second == Named::easting && first != Named::easting) return true;
   if (first == Named::easting || second == Named::northing)
     return first == second ? std::nullopt : std::optional(false);
   return std::nullopt;
 }
-
-}  // namespace
 
 std::optional<Doubt> doubt_header_columns(Evidence& evidence) {
   if (!evidence.header) return std::nullopt;

@@ -71,9 +71,22 @@ void ImportWatcher::rows_taken_apart(const ImportSeen& seen) {
   note_file(findings_, seen);
   findings_.account = account_of(seen, *places_);
   header_ = header_of(seen, *places_);
+  x_column_ = x_column(*seen.verdict.fmt);
   if (seen.read.punkty.empty()) return;
   Evidence evidence{seen, findings_.account, *places_, header_};
   findings_.doubts = doubts_of_rows(evidence);
+}
+
+std::string ImportWatcher::speaks_for(const vexo_xyz_impl::Candidate& reading) {
+  std::string text;
+  if (reading.frac < 1.0) text += vexo_xyz_impl::filled("konsola.za_udzial", {reading.frac * 100.0});
+  if (!header_ || header_->names.size() < x_column_ + 2) return text;
+  const auto north_first = names_north_first(header_->names[x_column_], header_->names[x_column_ + 1]);
+  if (north_first && *north_first == reading.swap) {
+    text += vexo_xyz_impl::filled("konsola.za_naglowek", {static_cast<long long>(header_->line),
+                                                          header_->cells[x_column_], header_->cells[x_column_ + 1]});
+  }
+  return text;
 }
 
 void ImportWatcher::ended(const ImportSeen& seen) {

@@ -1,7 +1,9 @@
 // Watches an import and comes to what is to be told of it: the account, the doubts, what the report holds.
 #pragma once
 
+#include <cstddef>
 #include <optional>
+#include <string>
 
 #include "console/doubts/doubts.h"
 #include "console/report/findings.h"
@@ -12,6 +14,7 @@ namespace console {
 class ImportWatcher final : public vexo_xyz_impl::host::ImportWatch {
  public:
   void rows_taken_apart(const vexo_xyz_impl::ImportSeen& seen) override;
+  std::string speaks_for(const vexo_xyz_impl::Candidate& reading) override;
   void ended(const vexo_xyz_impl::ImportSeen& seen) override;
 
   /// What came of the import that ended last.
@@ -21,6 +24,7 @@ class ImportWatcher final : public vexo_xyz_impl::host::ImportWatch {
   Findings findings_;
   std::optional<Places> places_;  // of the import going on
   std::optional<Header> header_;
+  std::size_t x_column_ = 0;
 };
 
 /// Prints rows without a point, doubts and the reason, nothing where there are none.

@@ -73,19 +73,31 @@ std::vector<char> beginning_of(const std::string& path) {
   return intake::decoded(std::move(bytes)).utf8;
 }
 
-// Whether degrees are written with their sign in as many lines as not.
-bool has_degree_signs(std::string_view text) {
+// Whether degrees stand before minutes: 52°13'45", 52° 13' N.
+bool has_degrees_and_minutes(std::string_view line) {
   constexpr std::array<std::string_view, 2> kSigns = {"\u00B0", "\u00BA"};
+  for (const std::string_view sign : kSigns) {
+    for (std::size_t at = line.find(sign); at != std::string_view::npos; at = line.find(sign, at + 1)) {
+      const std::size_t next = line.find_first_not_of(' ', at + sign.size());
+      const bool digit_follows = next != std::string_view::npos && line[next] >= '0' && line[next] <= '9';
+      if (at > 0 && line[at - 1] >= '0' && line[at - 1] <= '9' && digit_follows) return true;
+    }
+  }
+  return false;
+}
+
+// Whether most lines are written in degrees, minutes and seconds.
+bool is_in_minutes(std::string_view text) {
   std::size_t lines = 0;
-  std::size_t with_sign = 0;
+  std::size_t in_minutes = 0;
   while (!text.empty()) {
     const std::size_t end = std::min(text.find_first_of("\r\n"), text.size());
     const std::string_view line = text.substr(0, end);
     lines += line.empty() ? 0 : 1;
-    with_sign += std::any_of(kSigns.begin(), kSigns.end(), [line](auto sign) { return line.find(sign) != line.npos; });
+    in_minutes += has_degrees_and_minutes(line) ? 1 : 0;
     text.remove_prefix(std::min(end + 1, text.size()));
   }
-  return with_sign * 2 > lines;
+  return in_minutes * 2 > lines;
 }
 
 // The first line that has a number beside something that is none, and no third cell, where two columns prevail.
@@ -102,7 +114,7 @@ std::optional<std::size_t> line_of_odd_row(const ImportSeen& seen) {
 Reason reason_of_text(const ImportSeen& seen) {
   const std::vector<char> text = beginning_of(seen.path);
   const std::string_view beginning(text.data(), text.size());
-  if (has_degree_signs(beginning)) return named("dms");
+  if (is_in_minutes(beginning)) return named("dms");
   const intake::Dialect dialect = intake::dialect_of(beginning);
   if (dialect.is_decided && dialect.separator == ',') return named("comma_separated");
   if (dialect.is_decided && dialect.separator == '|') return named("pipe_separated");

@@ -39,6 +39,9 @@ void announce_reading(const Candidate& candidate, const PointRecord& first) {
   const std::string name = _uklad_nazwa(candidate.srid);
   print("xyz.osie_wiersz", {std::string_view(word), std::string_view(name), degrees(lat), degrees(lon)});
   if (const std::string line = place_line(degrees(lat), degrees(lon)); !line.empty()) command_line().gcutPrintf(line);
+  host::ImportWatch* const watch = bound().host.watch;
+  const std::string evidence = watch != nullptr ? watch->speaks_for(candidate) : std::string();
+  if (!evidence.empty()) command_line().gcutPrintf(evidence);
 }
 
 void announce_readings(std::span<const Candidate> kand, const PointRecord& first) {
