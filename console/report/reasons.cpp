@@ -10,6 +10,7 @@
 #include "intake/dialect.h"
 #include "intake/encoding.h"
 #include "intake/file_kind.h"
+#include "intake/raster.h"
 #include "vexo_xyz_impl/messages.h"
 #include "vexo_xyz_impl/table/numbers.h"
 
@@ -128,14 +129,19 @@ Reason reason_of_text(const ImportSeen& seen) {
   return was_asked ? Reason{} : named("no_numbers");
 }
 
-bool most_rows_gave_nothing(const Account& account) { return account.points * 2 < account.rows; }
+// Whether what was imported is to be looked at all the same.
+bool is_suspicious(const ImportSeen& seen, const Findings& findings) {
+  constexpr std::size_t kHead = std::size_t{1} << 12U;
+  if (findings.outcome != Outcome::imported || findings.account.points * 2 < findings.account.rows) return true;
+  return seen.loaded.typ == vexo_xyz_impl::FileType::tekst &&
+         intake::is_raster(seen.loaded.rows->text().substr(0, kHead));
+}
 
 }  // namespace
 
 Reason reason_of(const ImportSeen& seen, const Findings& findings) {
+  if (!is_suspicious(seen, findings)) return {};
   const FileKind kind = intake::file_kind(seen.path);
-  if (findings.outcome == Outcome::imported && kind != FileKind::raster && !most_rows_gave_nothing(findings.account))
-    return {};
   if (const std::string_view code = code_of(kind); !code.empty()) return named(code);
   if (kind == FileKind::text) return reason_of_text(seen);
   if (findings.outcome == Outcome::imported) return {};
