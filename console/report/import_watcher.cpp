@@ -1,6 +1,7 @@
 #include "console/report/import_watcher.h"
 
 #include <algorithm>
+#include <cmath>
 #include <iterator>
 #include <set>
 #include <string_view>
@@ -70,6 +71,7 @@ void ImportWatcher::rows_taken_apart(const ImportSeen& seen) {
   note_file(findings_, seen);
   findings_.account = account_of(seen, *places_);
   header_ = header_of(seen, *places_);
+  named_axes_ = header_ ? named_axes(*header_, *seen.verdict.fmt) : std::nullopt;
   if (seen.read.punkty.empty()) return;
   Evidence evidence{seen, findings_.account, *places_, header_};
   findings_.doubts = doubts_of_rows(evidence);
@@ -95,6 +97,20 @@ void ImportWatcher::ended(const ImportSeen& seen) {
   }
   places_.reset();
   header_.reset();
+}
+
+std::string ImportWatcher::beside_reading(vexo_xyz_impl::host::AxisOrder order, double share) const {
+  std::string lines;
+  if (share < 1.0) {
+    const auto percent = static_cast<long long>(std::floor(share * 100.0));
+    lines += vexo_xyz_impl::filled("konsola.odczyt_udzial", {percent});
+  }
+  if (named_axes_ && named_axes_->order == order) {
+    lines += vexo_xyz_impl::filled("konsola.odczyt_naglowek",
+                                   {static_cast<long long>(named_axes_->line), std::string_view(named_axes_->first),
+                                    std::string_view(named_axes_->second)});
+  }
+  return lines;
 }
 
 void print_findings(const Findings& findings) {
