@@ -36,14 +36,25 @@ std::optional<std::size_t> contradicted_column(const Header& header, vexo_xyz_im
   return std::nullopt;
 }
 
-}  // namespace
-
-std::optional<bool> names_north_first(intake::Named first, intake::Named second) {
+// Whether the names say that the first coordinate is the northing; nothing when they do not say which is.
+std::optional<bool> names_north_first(Named first, Named second) {
   if (first == Named::northing && second != Named::northing) return true;
   if (second == Named::easting && first != Named::easting) return true;
   if (first == Named::easting || second == Named::northing)
     return first == second ? std::nullopt : std::optional(false);
   return std::nullopt;
+}
+
+}  // namespace
+
+std::optional<NamedAxes> named_axes(const Header& header, vexo_xyz_impl::Layout fmt) {
+  using vexo_xyz_impl::host::AxisOrder;
+  const std::size_t x = x_column(fmt);
+  if (header.names.size() < x + 2) return std::nullopt;
+  const auto north_first = names_north_first(header.names[x], header.names[x + 1]);
+  if (!north_first) return std::nullopt;
+  return NamedAxes{*north_first ? AxisOrder::north_first : AxisOrder::east_first, header.line,
+                   std::string(header.cells[x]), std::string(header.cells[x + 1])};
 }
 
 std::optional<Doubt> doubt_header_columns(Evidence& evidence) {

@@ -1,6 +1,7 @@
 #include "console/report/import_watcher.h"
 
 #include <algorithm>
+#include <cmath>
 #include <iterator>
 #include <set>
 #include <string_view>
@@ -71,22 +72,10 @@ void ImportWatcher::rows_taken_apart(const ImportSeen& seen) {
   note_file(findings_, seen);
   findings_.account = account_of(seen, *places_);
   header_ = header_of(seen, *places_);
-  x_column_ = x_column(*seen.verdict.fmt);
+  named_axes_ = header_ ? named_axes(*header_, *seen.verdict.fmt) : std::nullopt;
   if (seen.read.punkty.empty()) return;
   Evidence evidence{seen, findings_.account, *places_, header_};
   findings_.doubts = doubts_of_rows(evidence);
-}
-
-std::string ImportWatcher::speaks_for(const vexo_xyz_impl::Candidate& reading) {
-  std::string text;
-  if (reading.frac < 1.0) text += vexo_xyz_impl::filled("konsola.za_udzial", {reading.frac * 100.0});
-  if (!header_ || header_->names.size() < x_column_ + 2) return text;
-  const auto north_first = names_north_first(header_->names[x_column_], header_->names[x_column_ + 1]);
-  if (north_first && *north_first == reading.swap) {
-    text += vexo_xyz_impl::filled("konsola.za_naglowek", {static_cast<long long>(header_->line),
-                                                          header_->cells[x_column_], header_->cells[x_column_ + 1]});
-  }
-  return text;
 }
 
 void ImportWatcher::ended(const ImportSeen& seen) {
@@ -110,6 +99,20 @@ void ImportWatcher::ended(const ImportSeen& seen) {
   findings_.reason = reason_of(seen, findings_);
   places_.reset();
   header_.reset();
+}
+
+std::string ImportWatcher::beside_reading(vexo_xyz_impl::host::AxisOrder order, double share) const {
+  std::string lines;
+  if (share < 1.0) {
+    const auto percent = static_cast<long long>(std::floor(share * 100.0));
+    lines += vexo_xyz_impl::filled("konsola.odczyt_udzial", {percent});
+  }
+  if (named_axes_ && named_axes_->order == order) {
+    lines += vexo_xyz_impl::filled("konsola.odczyt_naglowek",
+                                   {static_cast<long long>(named_axes_->line), std::string_view(named_axes_->first),
+                                    std::string_view(named_axes_->second)});
+  }
+  return lines;
 }
 
 void print_findings(const Findings& findings) {

@@ -28,14 +28,6 @@ std::span<const Text> account_texts() {
       {"konsola.czemu_nie_wczytano", "", "niczego nie wczytano", "es wurde nichts eingelesen", "nu s-a citit nimic",
        "nothing was imported"},
 
-      // Beside a reading of the coordinates
-      {"konsola.za_udzial", "f",  // share in per cent
-       "    pasuje do niego %.0f %% punktów\n", "    dazu passen %.0f %% der Punkte\n",
-       "    i se potrivesc %.0f %% din puncte\n", "    %.0f %% of the points fit it\n"},
-      {"konsola.za_naglowek", "dss",  // line, names of the coordinates
-       "    tak mówi nagłówek (linia %d): „%s”, „%s”\n", "    so sagt es der Kopf (Zeile %d): „%s“, „%s“\n",
-       "    așa spune antetul (linia %d): „%s”, „%s”\n", "    the header says so (line %d): “%s”, “%s”\n"},
-
       // The report
       {"konsola.raport_wynik", "s",  // imported, nothing or failed
        "Wynik: %s\n", "Ergebnis: %s\n", "Rezultat: %s\n", "Outcome: %s\n"},

@@ -4,11 +4,8 @@
 // copied for it.
 #pragma once
 
-#include <string>
-
 namespace vexo_xyz_impl {
 
-struct Candidate;   // crs/detection.h
 struct ImportSeen;  // command/import_seen.h
 
 namespace host {
@@ -19,10 +16,6 @@ class ImportWatch {
 
   /// The rows were taken apart: the last moment at which the table has them. Not called when the import ends before.
   virtual void rows_taken_apart(const ImportSeen& seen) = 0;
-
-  /// What speaks for a reading of the coordinates, a finished line to stand beside it in the question of the axes;
-  /// empty for nothing. Asked after the rows were taken apart.
-  virtual std::string speaks_for(const Candidate& reading) = 0;
 
   /// The import ended, whatever its outcome. Not called when no file was chosen.
   virtual void ended(const ImportSeen& seen) = 0;
