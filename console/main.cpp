@@ -21,9 +21,9 @@ namespace {
 constexpr const char* kVersion = "vexo-xyz 0.1";
 
 constexpr const char* kFooter =
-    "Questions are answered by a keyword or any beginning of it that fits only one; Enter takes the default, Escape "
-    "or\n"
-    "the end of input cancels. Answers may be piped in, a line each.\n"
+    "Questions are answered by a keyword or any beginning of it that fits only one; Enter takes the default. Escape\n"
+    "or the end of input leaves a question open: of the columns, and nothing is imported; of the axes, and the points\n"
+    "are inserted as they stand in the file, their order not confirmed. Answers may be piped in, a line each.\n"
     "\n"
     "Exit codes:\n"
     "  0  points were imported and the drawing was saved\n"
@@ -35,6 +35,7 @@ struct Arguments {
   std::string file;
   std::string output;
   bool force = false;
+  std::string report;
   std::string first_column;
   std::string axes;
   console::Choice choice;
@@ -49,21 +50,27 @@ void declare(CLI::App& app, Arguments& arguments) {
                  "Drawing to write. Default: beside FILE, with its name, or the next free one (_2, _3 ...)")
       ->type_name("OUT.dxf");
   app.add_flag("--force", arguments.force, "Replace the drawing given by -o if it exists");
+  app.add_option("--report", arguments.report,
+                 "Write what came of the import: every row without a point, every doubt; JSON where the name ends with "
+                 ".json, else text")
+      ->type_name("OUT.txt|OUT.json");
   app.add_option("--first-column", arguments.first_column,
                  "What the first column holds, should the file not tell: 'number' or 'coordinate'")
       ->type_name("WHAT")
       ->check(CLI::IsMember({"number", "coordinate"}));
-  app.add_option("--axes", arguments.axes,
-                 "What to do with X and Y, should more than one reading fit: 'keep' or 'swap'")
+  app.add_option(
+         "--axes", arguments.axes,
+         "What to do with X and Y, should more than one reading fit: 'keep' or 'swap'; or, whatever fits, which "
+         "of the two coordinates stands first: 'north-first' or 'east-first'")
       ->type_name("WHAT")
-      ->check(CLI::IsMember({"keep", "swap"}));
+      ->check(CLI::IsMember({"keep", "swap", "north-first", "east-first"}));
   app.add_option("--market", arguments.choice.market,
                  "Country whose coordinate systems are tried. Default: $VEXO_RYNEK, else PL")
       ->type_name("PL|DE|RO")
-      ->check(CLI::IsMember({"PL", "DE", "RO"}));
+      ->transform(CLI::IsMember({"PL", "DE", "RO"}, CLI::ignore_case));
   app.add_option("--lang", arguments.choice.language, "Language of the messages. Default: the market's")
       ->type_name("PL|DE|RO|EN")
-      ->check(CLI::IsMember({"PL", "DE", "RO", "EN"}));
+      ->transform(CLI::IsMember({"PL", "DE", "RO", "EN"}, CLI::ignore_case));
 }
 
 console::SessionOptions options_of(const CLI::App& app, const Arguments& arguments) {
@@ -71,12 +78,16 @@ console::SessionOptions options_of(const CLI::App& app, const Arguments& argumen
   if (app.count("FILE") > 0) options.file = arguments.file;
   if (app.count("-o") > 0) options.output = arguments.output;
   options.force = arguments.force;
+  if (app.count("--report") > 0) options.report = arguments.report;
   options.choice = arguments.choice;
   if (!arguments.first_column.empty()) {
     options.answers.push_back(
         {"--first-column", arguments.first_column == "number" ? vexo_xyz_impl::kNumer : vexo_xyz_impl::kWspolrzedna});
   }
-  if (!arguments.axes.empty()) {
+  if (arguments.axes.ends_with("-first")) {
+    using vexo_xyz_impl::host::AxisOrder;
+    options.axes = arguments.axes == "north-first" ? AxisOrder::north_first : AxisOrder::east_first;
+  } else if (!arguments.axes.empty()) {
     options.answers.push_back({"--axes", arguments.axes == "keep" ? vexo_xyz_impl::kTak : vexo_xyz_impl::kZamien});
   }
   return options;

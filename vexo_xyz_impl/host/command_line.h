@@ -4,6 +4,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -54,6 +55,19 @@ class HostLock {
 
   /// Does work that calls the host many times with the lock taken once, wherever it is called from.
   virtual void hold(const std::function<void()>& work) = 0;
+};
+
+/// Which of a file's two coordinates stands first.
+enum class AxisOrder { east_first, north_first };
+
+/// What the user knows of the file and said before the command began. A host where nobody is asked beforehand leaves
+/// this role out.
+class Foreknowledge {
+ public:
+  virtual ~Foreknowledge() = default;
+
+  /// The order of the axes; it counts for more than what the numbers look like. Empty: not told.
+  virtual std::optional<AxisOrder> axis_order() = 0;
 };
 
 class CommandTable {

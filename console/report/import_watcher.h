@@ -1,0 +1,29 @@
+// Watches an import and comes to what is to be told of it: the account, the doubts, what the report holds.
+#pragma once
+
+#include <optional>
+
+#include "console/doubts/doubts.h"
+#include "console/report/findings.h"
+#include "vexo_xyz_impl/host/import_watch.h"
+
+namespace console {
+
+class ImportWatcher final : public vexo_xyz_impl::host::ImportWatch {
+ public:
+  void rows_taken_apart(const vexo_xyz_impl::ImportSeen& seen) override;
+  void ended(const vexo_xyz_impl::ImportSeen& seen) override;
+
+  /// What came of the import that ended last.
+  [[nodiscard]] const Findings& findings() const { return findings_; }
+
+ private:
+  Findings findings_;
+  std::optional<Places> places_;  // of the import going on
+  std::optional<Header> header_;
+};
+
+/// Prints rows without a point, doubts and the reason, nothing where there are none.
+void print_findings(const Findings& findings);
+
+}  // namespace console

@@ -1,0 +1,140 @@
+#include "console/report/reasons.h"
+
+#include <algorithm>
+#include <array>
+#include <fstream>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "intake/dialect.h"
+#include "intake/encoding.h"
+#include "intake/file_kind.h"
+#include "vexo_xyz_impl/messages.h"
+#include "vexo_xyz_impl/table/numbers.h"
+
+namespace console {
+namespace {
+
+using intake::FileKind;
+using vexo_xyz_impl::ImportSeen;
+using vexo_xyz_impl::Row;
+using vexo_xyz_impl::T;
+
+Reason named(std::string_view code) { return {code, T("konsola.powod_" + std::string(code))}; }
+
+// The code of a kind that says all; none for texts and workbooks, which may be read.
+std::string_view code_of(FileKind kind) {
+  switch (kind) {
+    case FileKind::ods:
+      return "ods";
+    case FileKind::xlsb:
+      return "xlsb";
+    case FileKind::encrypted:
+      return "encrypted";
+    case FileKind::old_xls:
+      return "old_xls";
+    case FileKind::zip:
+      return "zip";
+    case FileKind::dxf:
+      return "dxf";
+    case FileKind::dwg:
+      return "dwg";
+    case FileKind::pdf:
+      return "pdf";
+    case FileKind::image:
+      return "image";
+    case FileKind::utf16:
+      return "utf16";
+    case FileKind::raster:
+      return "raster";
+    case FileKind::empty:
+      return "empty";
+    case FileKind::unreadable:
+      return "unreadable";
+    case FileKind::text:
+    case FileKind::workbook:
+      break;
+  }
+  return {};
+}
+
+// The beginning of a text, decoded, up to its last whole line.
+std::vector<char> beginning_of(const std::string& path) {
+  constexpr std::size_t kEnough = std::size_t{1} << 18U;
+  std::ifstream file(path, std::ios::binary);
+  std::vector<char> bytes(kEnough);
+  file.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+  bytes.resize(static_cast<std::size_t>(file.gcount()));
+  if (bytes.size() == kEnough) {
+    const auto end = std::find_if(bytes.rbegin(), bytes.rend(), [](char c) { return c == '\n' || c == '\r'; });
+    if (end != bytes.rend()) bytes.erase(end.base(), bytes.end());
+  }
+  return intake::decoded(std::move(bytes)).utf8;
+}
+
+// Whether degrees are written with their sign in as many lines as not.
+bool has_degree_signs(std::string_view text) {
+  constexpr std::array<std::string_view, 2> kSigns = {"\u00B0", "\u00BA"};
+  std::size_t lines = 0;
+  std::size_t with_sign = 0;
+  while (!text.empty()) {
+    const std::size_t end = std::min(text.find_first_of("\r\n"), text.size());
+    const std::string_view line = text.substr(0, end);
+    lines += line.empty() ? 0 : 1;
+    with_sign += std::any_of(kSigns.begin(), kSigns.end(), [line](auto sign) { return line.find(sign) != line.npos; });
+    text.remove_prefix(std::min(end + 1, text.size()));
+  }
+  return with_sign * 2 > lines;
+}
+
+// The first line that has a number beside something that is none, and no third cell, where two columns prevail.
+std::optional<std::size_t> line_of_odd_row(const ImportSeen& seen) {
+  if (!seen.loaded.rows) return std::nullopt;
+  const auto& rows = seen.loaded.rows->rows();
+  const auto odd = std::find_if(rows.begin(), rows.end(), [](Row row) {
+    return row.size() == 2 && !vexo_xyz_impl::_czy_liczba(row[0]) && vexo_xyz_impl::_czy_liczba(row[1]);
+  });
+  if (odd == rows.end()) return std::nullopt;
+  return Places(seen).line_of_row(static_cast<std::size_t>(odd - rows.begin()));
+}
+
+Reason reason_of_text(const ImportSeen& seen) {
+  const std::vector<char> text = beginning_of(seen.path);
+  const std::string_view beginning(text.data(), text.size());
+  if (has_degree_signs(beginning)) return named("dms");
+  const intake::Dialect dialect = intake::dialect_of(beginning);
+  if (dialect.is_decided && dialect.separator == ',') return named("comma_separated");
+  if (dialect.is_decided && dialect.separator == '|') return named("pipe_separated");
+  if (seen.failure && seen.failure->kind == "IndexError") {
+    if (const auto line = line_of_odd_row(seen))
+      return {"mixed_separators", vexo_xyz_impl::filled("konsola.powod_linia", {static_cast<long long>(*line)})};
+  }
+  if (dialect.mixed) return named("mixed_separators");
+  if (dialect.quoted) return named("quoted");
+  const bool was_asked = seen.loaded.rows && !seen.verdict.dane.empty();
+  return was_asked ? Reason{} : named("no_numbers");
+}
+
+bool most_rows_gave_nothing(const Account& account) { return account.points * 2 < account.rows; }
+
+}  // namespace
+
+Reason reason_of(const ImportSeen& seen, const Findings& findings) {
+  const FileKind kind = intake::file_kind(seen.path);
+  if (findings.outcome == Outcome::imported && kind != FileKind::raster && !most_rows_gave_nothing(findings.account))
+    return {};
+  if (const std::string_view code = code_of(kind); !code.empty()) return named(code);
+  if (kind == FileKind::text) return reason_of_text(seen);
+  if (findings.outcome == Outcome::imported) return {};
+  const bool no_rows = !seen.loaded.rows || findings.account.rows == 0;
+  return named(no_rows ? "cells_unreadable" : "no_numbers");
+}
+
+bool can_be_prepared(const Reason& reason) {
+  constexpr std::array<std::string_view, 7> kReadable = {"comma_separated",  "pipe_separated",   "quoted",    "utf16",
+                                                         "mixed_separators", "cells_unreadable", "no_numbers"};
+  return std::find(kReadable.begin(), kReadable.end(), reason.code) != kReadable.end();
+}
+
+}  // namespace console
