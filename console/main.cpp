@@ -13,6 +13,7 @@
 #include <unistd.h>
 
 #include "console/kept_memory.h"
+#include "console/prepare_arguments.h"
 #include "console/session.h"
 #include "vexo_xyz_impl/command/keywords.h"
 
@@ -64,13 +65,7 @@ void declare(CLI::App& app, Arguments& arguments) {
          "of the two coordinates stands first: 'north-first' or 'east-first'")
       ->type_name("WHAT")
       ->check(CLI::IsMember({"keep", "swap", "north-first", "east-first"}));
-  app.add_option("--market", arguments.choice.market,
-                 "Country whose coordinate systems are tried. Default: $VEXO_RYNEK, else PL")
-      ->type_name("PL|DE|RO")
-      ->transform(CLI::IsMember({"PL", "DE", "RO"}, CLI::ignore_case));
-  app.add_option("--lang", arguments.choice.language, "Language of the messages. Default: the market's")
-      ->type_name("PL|DE|RO|EN")
-      ->transform(CLI::IsMember({"PL", "DE", "RO", "EN"}, CLI::ignore_case));
+  console::declare_choice(app, arguments.choice);
 }
 
 console::SessionOptions options_of(const CLI::App& app, const Arguments& arguments) {
@@ -99,10 +94,9 @@ void use_utf8_locale() {
   std::setlocale(LC_CTYPE, "C.UTF-8");
 }
 
-int run(const console::SessionOptions& options) {
+std::unique_ptr<console::LineSource> typed_lines() {
   const bool terminal = isatty(STDIN_FILENO) != 0 && isatty(STDOUT_FILENO) != 0;
-  const auto lines = terminal ? console::lines_of_terminal(std::cout) : console::lines_of_stream(std::cin, std::cout);
-  return console::Session(options, *lines, std::cout).run();
+  return terminal ? console::lines_of_terminal(std::cout) : console::lines_of_stream(std::cin, std::cout);
 }
 
 int run(int argc, char** argv) {
@@ -115,13 +109,17 @@ int run(int argc, char** argv) {
   CLI::App app("Imports a file of surveyed points into a new drawing: a point and its number for each row.",
                "vexo-xyz");
   Arguments arguments;
+  console::PrepareArguments prepare;
   declare(app, arguments);
+  const CLI::App* const preparing = console::declare_prepare(app, prepare);
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
     return app.exit(error) == 0 ? console::kImported : console::kUsage;
   }
-  return run(options_of(app, arguments));
+  const auto lines = typed_lines();
+  if (preparing->parsed()) return console::run_prepare(prepare.options, prepare.choice, *lines, std::cout);
+  return console::Session(options_of(app, arguments), *lines, std::cout).run();
 }
 
 }  // namespace

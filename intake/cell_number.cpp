@@ -157,7 +157,8 @@ bool is_sexagesimal(std::string_view cell) {
 }
 
 std::size_t pair_break(std::string_view cell) {
-  for (std::size_t at = cell.find_first_of(",; "); at != std::string_view::npos; at = cell.find_first_of(",; ", at + 1)) {
+  for (std::size_t at = cell.find_first_of(",; "); at != std::string_view::npos;
+       at = cell.find_first_of(",; ", at + 1)) {
     const auto first = number_form(text::trim(cell.substr(0, at)));
     const auto second = number_form(text::trim(cell.substr(at + 1)));
     const auto fits = [](NumberForm form) { return form == NumberForm::whole || form == NumberForm::point; };

@@ -37,7 +37,8 @@ std::vector<std::string_view> sample_of(std::string_view utf8) {
   for (std::size_t quarter = 1; quarter < 4; ++quarter) {
     const std::string_view rest = utf8.substr(utf8.size() / 4 * quarter);
     const std::size_t end = rest.find_first_of("\r\n");  // what stands before it is a part of a line
-    if (end != std::string_view::npos && rest.data() > lines.back().data()) take_lines(lines, rest.substr(end), kStretch);
+    if (end != std::string_view::npos && rest.data() > lines.back().data())
+      take_lines(lines, rest.substr(end), kStretch);
   }
   return lines;
 }

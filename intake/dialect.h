@@ -27,9 +27,9 @@ struct Dialect {
   bool is_decided = false;  ///< some separator gives at least two numbers a line
   bool quoted = false;      ///< cells stand between quotes
   bool decimal_comma = false;
-  bool mixed = false;         ///< some lines have the separator, others numbers between blanks or tabs alone
-  bool has_comments = true;   ///< lines that "#" or "//" begins are none of the table's
-  std::size_t sample = 0;     ///< lines that were looked at
+  bool mixed = false;        ///< some lines have the separator, others numbers between blanks or tabs alone
+  bool has_comments = true;  ///< lines that "#" or "//" begins are none of the table's
+  std::size_t sample = 0;    ///< lines that were looked at
   std::array<SeparatorEvidence, kSeparators.size()> evidence;  ///< in the order of kSeparators
   /// Of blanks, where the columns stand, from and to in characters, when rows lack values and the columns tell which;
   /// else empty.

@@ -19,8 +19,8 @@ bool begins_comment(std::string_view rest) { return rest.starts_with('#') || res
 }  // namespace
 
 std::size_t characters_in(std::string_view utf8) {
-  return static_cast<std::size_t>(std::count_if(
-      utf8.begin(), utf8.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }));
+  return static_cast<std::size_t>(
+      std::count_if(utf8.begin(), utf8.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }));
 }
 
 TextRecords::TextRecords(std::string_view utf8, Dialect dialect) : text_(utf8), dialect_(std::move(dialect)) {

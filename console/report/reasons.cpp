@@ -24,42 +24,6 @@ using vexo_xyz_impl::T;
 
 Reason named(std::string_view code) { return {code, T("konsola.powod_" + std::string(code))}; }
 
-// The code of a kind that says all; none for texts and workbooks, which may be read.
-std::string_view code_of(FileKind kind) {
-  switch (kind) {
-    case FileKind::ods:
-      return "ods";
-    case FileKind::xlsb:
-      return "xlsb";
-    case FileKind::encrypted:
-      return "encrypted";
-    case FileKind::old_xls:
-      return "old_xls";
-    case FileKind::zip:
-      return "zip";
-    case FileKind::dxf:
-      return "dxf";
-    case FileKind::dwg:
-      return "dwg";
-    case FileKind::pdf:
-      return "pdf";
-    case FileKind::image:
-      return "image";
-    case FileKind::utf16:
-      return "utf16";
-    case FileKind::raster:
-      return "raster";
-    case FileKind::empty:
-      return "empty";
-    case FileKind::unreadable:
-      return "unreadable";
-    case FileKind::text:
-    case FileKind::workbook:
-      break;
-  }
-  return {};
-}
-
 // The beginning of a text, decoded, up to its last whole line.
 std::vector<char> beginning_of(const std::string& path) {
   constexpr std::size_t kEnough = std::size_t{1} << 18U;
@@ -139,10 +103,45 @@ bool is_suspicious(const ImportSeen& seen, const Findings& findings) {
 
 }  // namespace
 
+std::string_view kind_code(FileKind kind) {
+  switch (kind) {
+    case FileKind::ods:
+      return "ods";
+    case FileKind::xlsb:
+      return "xlsb";
+    case FileKind::encrypted:
+      return "encrypted";
+    case FileKind::old_xls:
+      return "old_xls";
+    case FileKind::zip:
+      return "zip";
+    case FileKind::dxf:
+      return "dxf";
+    case FileKind::dwg:
+      return "dwg";
+    case FileKind::pdf:
+      return "pdf";
+    case FileKind::image:
+      return "image";
+    case FileKind::utf16:
+      return "utf16";
+    case FileKind::raster:
+      return "raster";
+    case FileKind::empty:
+      return "empty";
+    case FileKind::unreadable:
+      return "unreadable";
+    case FileKind::text:
+    case FileKind::workbook:
+      break;
+  }
+  return {};
+}
+
 Reason reason_of(const ImportSeen& seen, const Findings& findings) {
   if (!is_suspicious(seen, findings)) return {};
   const FileKind kind = intake::file_kind(seen.path);
-  if (const std::string_view code = code_of(kind); !code.empty()) return named(code);
+  if (const std::string_view code = kind_code(kind); !code.empty()) return named(code);
   if (kind == FileKind::text) return reason_of_text(seen);
   if (findings.outcome == Outcome::imported) return {};
   const bool no_rows = !seen.loaded.rows || findings.account.rows == 0;
