@@ -27,9 +27,9 @@
 #include "console/files.h"
 #include "console/kept_memory.h"
 #include "console/sibling_registry.h"
+#include "vexo_xyz_impl/command/axes.h"
 #include "vexo_xyz_impl/command/insertion.h"
 #include "vexo_xyz_impl/command/module.h"
-#include "vexo_xyz_impl/command/questions.h"
 #include "vexo_xyz_impl/command/report.h"
 #include "vexo_xyz_impl/drawing/model_space.h"
 #include "vexo_xyz_impl/input/loading.h"
@@ -117,7 +117,7 @@ void import(const std::string& path, Steps& steps) {
   loaded.rows->forget_rows();
   steps.done("take the rows apart");
 
-  if (settle_axes(read->punkty))
+  if (settle_axes(read->punkty).swap)
     for (PointRecord& point : read->punkty) std::swap(point.x, point.y);
   steps.done("settle the axes");
 

@@ -4,7 +4,6 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
-#include <system_error>
 
 #include <fcntl.h>
 #include <signal.h>  // NOLINT(modernize-deprecated-headers): sigaction is not in <csignal>
@@ -14,7 +13,7 @@
 namespace console {
 namespace {
 
-[[noreturn]] void fail(const std::string& what) { throw std::system_error(errno, std::generic_category(), what); }
+[[noreturn]] void fail(FileStep step) { throw FileFailure(step, errno); }
 
 // ---- An interrupt must leave no temporary file behind. The handler may touch nothing but plain memory.
 
@@ -64,7 +63,7 @@ void flush_folder(const std::filesystem::path& target) {
 AtomicFile::AtomicFile(const std::filesystem::path& folder)
     : temporary_((or_current(folder) / ".vexo-xyz-XXXXXX").string()),
       descriptor_(mkostemp(temporary_.data(), O_CLOEXEC)) {
-  if (descriptor_ < 0) fail("creating a file in the folder " + or_current(folder).string());
+  if (descriptor_ < 0) fail(FileStep::create);
   guard_against_interrupts(temporary_);
   // mkostemp makes it private; a drawing gets the rights that any new file gets.
   const mode_t mask = umask(0);
@@ -82,7 +81,7 @@ void AtomicFile::write(std::string_view bytes) {
   while (!bytes.empty()) {
     const ssize_t written = ::write(descriptor_, bytes.data(), bytes.size());
     if (written < 0 && errno == EINTR) continue;
-    if (written < 0) fail("writing");
+    if (written < 0) fail(FileStep::write);
     bytes.remove_prefix(static_cast<std::size_t>(written));
     size_ += static_cast<std::size_t>(written);
   }
@@ -101,21 +100,21 @@ void AtomicFile::begin_step() {
 void AtomicFile::flush() {
   // What is left of the room; where it cannot be given back, the drawing is whole all the same.
   if (has_room_ahead_) has_room_ahead_ = ftruncate(descriptor_, static_cast<off_t>(size_)) != 0;
-  if (fsync(descriptor_) != 0) fail("flushing to the disk");
+  if (fsync(descriptor_) != 0) fail(FileStep::flush);
   const int closing = descriptor_;
   descriptor_ = -1;
-  if (close(closing) != 0) fail("closing");
+  if (close(closing) != 0) fail(FileStep::write);
 }
 
 bool AtomicFile::commit(const std::filesystem::path& target, bool replace) {
   const unsigned flags = replace ? 0U : RENAME_NOREPLACE;
   if (renameat2(AT_FDCWD, temporary_.c_str(), AT_FDCWD, target.c_str(), flags) != 0) {
     if (errno == EEXIST && !replace) return false;
-    if (errno != EINVAL || replace) fail("renaming");
+    if (errno != EINVAL || replace) fail(FileStep::rename);
     // A file system without the exclusive rename: a second name for the file is refused where one exists.
     if (link(temporary_.c_str(), target.c_str()) != 0) {
       if (errno == EEXIST) return false;
-      fail("renaming");
+      fail(FileStep::rename);
     }
     unlink(temporary_.c_str());
   }

@@ -4,16 +4,30 @@
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <system_error>
 
 #include "console/dxf/tag_writer.h"
 
 namespace console {
 
+/// What was being done to a file when it failed.
+enum class FileStep { create, write, flush, rename };
+
+/// A file operation that failed, with the system's error number; failure_text.h says it in the user's language.
+class FileFailure : public std::system_error {
+ public:
+  FileFailure(FileStep step, int error_number) : system_error(error_number, std::generic_category()), step_(step) {}
+  [[nodiscard]] FileStep step() const { return step_; }
+
+ private:
+  FileStep step_;
+};
+
 /// A file that appears under its name only when it is complete.
 ///
 /// Bytes go to a temporary file beside the target; `commit` flushes them to the disk and renames. Without a commit, and
 /// when the program is interrupted by a signal, the temporary file is removed. Every operation fails with
-/// std::system_error, whose message says what could not be done.
+/// FileFailure.
 class AtomicFile final : public ByteSink {
  public:
   /// Creates the temporary file in the folder where the target is to stand.

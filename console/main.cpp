@@ -13,6 +13,7 @@
 #include <unistd.h>
 
 #include "console/kept_memory.h"
+#include "console/prepare_arguments.h"
 #include "console/session.h"
 #include "vexo_xyz_impl/command/keywords.h"
 
@@ -21,9 +22,9 @@ namespace {
 constexpr const char* kVersion = "vexo-xyz 0.1";
 
 constexpr const char* kFooter =
-    "Questions are answered by a keyword or any beginning of it that fits only one; Enter takes the default, Escape "
-    "or\n"
-    "the end of input cancels. Answers may be piped in, a line each.\n"
+    "Questions are answered by a keyword or any beginning of it that fits only one; Enter takes the default. Escape\n"
+    "or the end of input leaves a question open: of the columns, and nothing is imported; of the axes, and the points\n"
+    "are inserted as they stand in the file, their order not confirmed. Answers may be piped in, a line each.\n"
     "\n"
     "Exit codes:\n"
     "  0  points were imported and the drawing was saved\n"
@@ -35,6 +36,7 @@ struct Arguments {
   std::string file;
   std::string output;
   bool force = false;
+  std::string report;
   std::string first_column;
   std::string axes;
   console::Choice choice;
@@ -49,21 +51,21 @@ void declare(CLI::App& app, Arguments& arguments) {
                  "Drawing to write. Default: beside FILE, with its name, or the next free one (_2, _3 ...)")
       ->type_name("OUT.dxf");
   app.add_flag("--force", arguments.force, "Replace the drawing given by -o if it exists");
+  app.add_option("--report", arguments.report,
+                 "Write what came of the import: every row without a point, every doubt; JSON where the name ends with "
+                 ".json, else text")
+      ->type_name("OUT.txt|OUT.json");
   app.add_option("--first-column", arguments.first_column,
                  "What the first column holds, should the file not tell: 'number' or 'coordinate'")
       ->type_name("WHAT")
       ->check(CLI::IsMember({"number", "coordinate"}));
-  app.add_option("--axes", arguments.axes,
-                 "What to do with X and Y, should more than one reading fit: 'keep' or 'swap'")
+  app.add_option(
+         "--axes", arguments.axes,
+         "What to do with X and Y, should more than one reading fit: 'keep' or 'swap'; or, whatever fits, which "
+         "of the two coordinates stands first: 'north-first' or 'east-first'")
       ->type_name("WHAT")
-      ->check(CLI::IsMember({"keep", "swap"}));
-  app.add_option("--market", arguments.choice.market,
-                 "Country whose coordinate systems are tried. Default: $VEXO_RYNEK, else PL")
-      ->type_name("PL|DE|RO")
-      ->check(CLI::IsMember({"PL", "DE", "RO"}));
-  app.add_option("--lang", arguments.choice.language, "Language of the messages. Default: the market's")
-      ->type_name("PL|DE|RO|EN")
-      ->check(CLI::IsMember({"PL", "DE", "RO", "EN"}));
+      ->check(CLI::IsMember({"keep", "swap", "north-first", "east-first"}));
+  console::declare_choice(app, arguments.choice);
 }
 
 console::SessionOptions options_of(const CLI::App& app, const Arguments& arguments) {
@@ -71,12 +73,16 @@ console::SessionOptions options_of(const CLI::App& app, const Arguments& argumen
   if (app.count("FILE") > 0) options.file = arguments.file;
   if (app.count("-o") > 0) options.output = arguments.output;
   options.force = arguments.force;
+  if (app.count("--report") > 0) options.report = arguments.report;
   options.choice = arguments.choice;
   if (!arguments.first_column.empty()) {
     options.answers.push_back(
         {"--first-column", arguments.first_column == "number" ? vexo_xyz_impl::kNumer : vexo_xyz_impl::kWspolrzedna});
   }
-  if (!arguments.axes.empty()) {
+  if (arguments.axes.ends_with("-first")) {
+    using vexo_xyz_impl::host::AxisOrder;
+    options.axes = arguments.axes == "north-first" ? AxisOrder::north_first : AxisOrder::east_first;
+  } else if (!arguments.axes.empty()) {
     options.answers.push_back({"--axes", arguments.axes == "keep" ? vexo_xyz_impl::kTak : vexo_xyz_impl::kZamien});
   }
   return options;
@@ -88,10 +94,9 @@ void use_utf8_locale() {
   std::setlocale(LC_CTYPE, "C.UTF-8");
 }
 
-int run(const console::SessionOptions& options) {
+std::unique_ptr<console::LineSource> typed_lines() {
   const bool terminal = isatty(STDIN_FILENO) != 0 && isatty(STDOUT_FILENO) != 0;
-  const auto lines = terminal ? console::lines_of_terminal(std::cout) : console::lines_of_stream(std::cin, std::cout);
-  return console::Session(options, *lines, std::cout).run();
+  return terminal ? console::lines_of_terminal(std::cout) : console::lines_of_stream(std::cin, std::cout);
 }
 
 int run(int argc, char** argv) {
@@ -104,13 +109,17 @@ int run(int argc, char** argv) {
   CLI::App app("Imports a file of surveyed points into a new drawing: a point and its number for each row.",
                "vexo-xyz");
   Arguments arguments;
+  console::PrepareArguments prepare;
   declare(app, arguments);
+  const CLI::App* const preparing = console::declare_prepare(app, prepare);
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
     return app.exit(error) == 0 ? console::kImported : console::kUsage;
   }
-  return run(options_of(app, arguments));
+  const auto lines = typed_lines();
+  if (preparing->parsed()) return console::run_prepare(prepare.options, prepare.choice, *lines, std::cout);
+  return console::Session(options_of(app, arguments), *lines, std::cout).run();
 }
 
 }  // namespace

@@ -5,7 +5,9 @@
 #include <utility>
 
 #include "console/dxf/dxf_writer.h"
+#include "console/failure_text.h"
 #include "console/files.h"
+#include "console/report/report_file.h"
 #include "vexo_xyz_impl/command/module.h"
 #include "vexo_xyz_impl/command/questions.h"
 #include "vexo_xyz_impl/messages.h"
@@ -27,7 +29,7 @@ Session::Session(SessionOptions options, LineSource& lines, std::ostream& out)
     : options_(std::move(options)),
       dialogue_(lines, out, database_.drawing().variables, options_.file, options_.answers),
       siblings_(family(database_, options_.choice)),
-      entered_({{dialogue_, database_, siblings_}, vexo_xyz_impl::bind_siblings(siblings_)}) {
+      entered_({{dialogue_, database_, siblings_, nullptr, this, &watcher_}, vexo_xyz_impl::bind_siblings(siblings_)}) {
   vexo_xyz_impl::register_command(*this);
 }
 
@@ -48,7 +50,7 @@ bool Session::output_is_refused() {
   }
   const auto status = std::filesystem::status(*options_.output, ignored);
   if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status)) {
-    say("konsola.blad_zapisu", {options_.output->string(), "not a regular file"});
+    say("konsola.blad_zapisu", {options_.output->string(), vexo_xyz_impl::T("konsola.powod_nie_plik")});
     return true;
   }
   if (!options_.force && std::filesystem::exists(status)) {
@@ -58,9 +60,41 @@ bool Session::output_is_refused() {
   return false;
 }
 
+// The module takes such a market for the Polish one without a word.
+void Session::warn_of_unknown_market() {
+  using vexo_xyz_impl::host::load_sibling;
+  const std::string market = load_sibling<vexo_xyz_impl::host::Market>(siblings_, "vexo_rynek")->rynek();
+  if (!siblings_.has("vexo_xyz_dane_" + market)) say("konsola.nieznany_rynek", {market});
+}
+
+// Whether the report may not have its name, the user told: an earlier report is replaced, the files of points and of
+// the drawing never.
+bool Session::report_is_refused() {
+  if (!options_.report) return false;
+  std::error_code ignored;
+  const std::filesystem::path source = vexo_xyz_impl::clean_path(options_.file.value_or(dialogue_.path()));
+  const bool is_source = std::filesystem::equivalent(*options_.report, source, ignored);
+  const bool is_drawing = options_.output && options_.report->lexically_normal() == options_.output->lexically_normal();
+  const auto status = std::filesystem::status(*options_.report, ignored);
+  if (is_source) {
+    say("konsola.plik_zrodlowy", {options_.report->string()});
+  } else if (is_drawing || (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status))) {
+    say("konsola.raport_blad", {options_.report->string(), vexo_xyz_impl::T("konsola.powod_nie_plik")});
+  } else {
+    return false;
+  }
+  return true;
+}
+
 ExitCode Session::run() {
-  if (output_is_refused()) return kFailure;  // before any question
+  warn_of_unknown_market();
+  if (output_is_refused() || report_is_refused()) return kFailure;  // before any question
+  return save_report(import_and_save());
+}
+
+ExitCode Session::import_and_save() {
   const CommandOutcome outcome = import_();
+  print_findings(watcher_.findings());
   for (const std::string_view option : dialogue_.unused_options()) say("konsola.opcja_zbedna", {std::string(option)});
   if (outcome == CommandOutcome::failed) {
     if (database_.drawing().entity_count() > 0) say("konsola.nie_zapisano", {});
@@ -81,7 +115,20 @@ ExitCode Session::save() {
     say("konsola.zapisano", {write_drawing().string()});
     return kImported;
   } catch (const std::system_error& failure) {
-    say("konsola.blad_zapisu", {wanted, failure.what()});
+    say("konsola.blad_zapisu", {wanted, failure_text(failure)});
+    return kFailure;
+  }
+}
+
+ExitCode Session::save_report(ExitCode so_far) {
+  if (!options_.report) return so_far;
+  if (report_is_refused()) return kFailure;  // a path that was typed is known only now
+  try {
+    write_report(watcher_.findings(), *options_.report);
+    say("konsola.raport_zapisano", {options_.report->string()});
+    return so_far;
+  } catch (const std::system_error& failure) {
+    say("konsola.raport_blad", {options_.report->string(), failure_text(failure)});
     return kFailure;
   }
 }
@@ -95,13 +142,13 @@ std::filesystem::path Session::write_drawing() {
   file.flush();
   if (options_.output) {
     if (file.commit(*options_.output, options_.force)) return *options_.output;
-    throw std::system_error(EEXIST, std::generic_category(), "renaming");
+    throw FileFailure(FileStep::rename, EEXIST);
   }
   for (int number = 1; number <= kMostNames; ++number) {
     std::filesystem::path name = drawing_name(source, number);
     if (file.commit(name, false)) return name;
   }
-  throw std::system_error(EEXIST, std::generic_category(), "finding a free name");
+  throw FileFailure(FileStep::rename, EEXIST);
 }
 
 void Session::say(std::string_view key, const std::vector<std::string>& values) {

@@ -10,6 +10,7 @@
 
 #include "console/dialogue/dialogue.h"
 #include "console/drawing/database.h"
+#include "console/report/import_watcher.h"
 #include "console/sibling_registry.h"
 #include "vexo_xyz_impl/bindings.h"
 
@@ -22,12 +23,14 @@ struct SessionOptions {
   bool force = false;                           ///< an existing output may be replaced
   Choice choice;                                ///< market and language
   std::vector<PreparedAnswer> answers;
+  std::optional<vexo_xyz_impl::host::AxisOrder> axes;  ///< which coordinate stands first, told beforehand
+  std::optional<std::filesystem::path> report;         ///< where what came of the import is written
 };
 
 /// Exit codes of the program.
 enum ExitCode { kImported = 0, kNothingImported = 1, kUsage = 2, kFailure = 3 };
 
-class Session final : private vexo_xyz_impl::host::CommandTable {
+class Session final : private vexo_xyz_impl::host::CommandTable, private vexo_xyz_impl::host::Foreknowledge {
  public:
   Session(SessionOptions options, LineSource& lines, std::ostream& out);
 
@@ -37,8 +40,16 @@ class Session final : private vexo_xyz_impl::host::CommandTable {
  private:
   void command(std::string_view local_name, std::string_view global_name, std::string_view group_name,
                vexo_xyz_impl::host::CommandFunction function) override;
+  std::optional<vexo_xyz_impl::host::AxisOrder> axis_order() override { return options_.axes; }
+  std::string beside_reading(vexo_xyz_impl::host::AxisOrder order, double share) override {
+    return watcher_.beside_reading(order, share);
+  }
   [[nodiscard]] bool output_is_refused();
+  [[nodiscard]] bool report_is_refused();
+  void warn_of_unknown_market();
+  ExitCode import_and_save();
   ExitCode save();
+  ExitCode save_report(ExitCode so_far);
   std::filesystem::path write_drawing();
   void say(std::string_view key, const std::vector<std::string>& values);
 
@@ -46,6 +57,7 @@ class Session final : private vexo_xyz_impl::host::CommandTable {
   Database database_;
   Dialogue dialogue_;
   SiblingRegistry siblings_;
+  ImportWatcher watcher_;
   vexo_xyz_impl::host::CommandFunction import_;
   vexo_xyz_impl::Entered entered_;  // for as long as the session lasts
 };

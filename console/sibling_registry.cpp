@@ -6,6 +6,7 @@
 #include "siblings/vexo_boot/boot.h"
 #include "siblings/vexo_boot/log_file.h"
 #include "siblings/vexo_cad_core/cad_core.h"
+#include "siblings/vexo_miejsca/miejsca.h"
 #include "siblings/vexo_reaktywne_core/reaktywne_core.h"
 #include "siblings/vexo_rynek/rynek.h"
 #include "siblings/vexo_stereo70/stereo70.h"
@@ -28,11 +29,14 @@ std::shared_ptr<vexo_xyz_impl::host::SiblingModule> SiblingRegistry::load(std::s
 SiblingRegistry family(Database& database, const Choice& choice) {
   SiblingRegistry registry;
   auto market = std::make_shared<vexo_rynek::Market>(choice.market);
-  registry.add("vexo_teksty", texts_in(choice.language.empty() ? market->rynek() : choice.language));
+  const std::string code = market->rynek();
+  registry.add("vexo_teksty", texts_in(choice.language.empty() ? code : choice.language));
   registry.add("vexo_rynek", std::move(market));
   registry.add("vexo_xyz_dane_PL", std::make_shared<vexo_xyz_dane::Tables>(vexo_xyz_dane_PL::tables()));
   registry.add("vexo_xyz_dane_DE", std::make_shared<vexo_xyz_dane::Tables>(vexo_xyz_dane_DE::tables()));
   registry.add("vexo_xyz_dane_RO", std::make_shared<vexo_xyz_dane::Tables>(vexo_xyz_dane_RO::tables()));
+  const bool has_data = registry.has("vexo_xyz_dane_" + code);  // else the importer works with the Polish data
+  registry.add("vexo_miejsca", std::make_shared<vexo_miejsca::Places>(has_data ? code : "PL"));
   registry.add("vexo_cad_core", std::make_shared<vexo_cad_core::Styling>(database));
   registry.add("vexo_boot", std::make_shared<vexo_boot::Notices>(vexo_boot::append_to_log));
   registry.add("vexo_reaktywne_core", std::make_shared<vexo_reaktywne_core::ReactiveCore>(database));

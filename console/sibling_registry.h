@@ -17,6 +17,8 @@ class SiblingRegistry final : public vexo_xyz_impl::host::SiblingLoader {
   /// Adds a sibling, in the place of an earlier one of that name.
   void add(std::string name, std::shared_ptr<vexo_xyz_impl::host::SiblingModule> module);
 
+  [[nodiscard]] bool has(std::string_view name) const { return modules_.contains(name); }
+
   void own_folder_first() override {}  // nothing is looked up on a disk
   std::shared_ptr<vexo_xyz_impl::host::SiblingModule> load(std::string_view name) override;
 

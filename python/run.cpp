@@ -150,6 +150,7 @@ std::shared_ptr<host::SiblingModule> Run::load(std::string_view name) {
     const std::string own(name);
     const py::module_ loaded = py::module_::import(own.c_str());
     if (name == "vexo_boot") return make_guarded<ScriptNotices>(loaded);
+    if (name == "vexo_miejsca") return make_guarded<ScriptPlaces>(loaded);
     if (name == "vexo_reaktywne_core") return make_guarded<ScriptReactiveCore>(*this, loaded);
     if (name == "vexo_stereo70") return make_guarded<ScriptStereo70>(loaded);
     throw vexo_xyz_impl::ImportError("nothing is known of module '" + own + "'");

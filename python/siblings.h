@@ -1,6 +1,7 @@
 // Sibling modules found beside the extension as the boundary's roles.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -128,6 +129,23 @@ class ScriptStereo70 final : public host::Stereo70 {
     return calling_script([&]() -> std::pair<double, double> {
       const auto position = items_of(module_.attr("stereo70_do_geo")(E, N), 2);
       return {number_from_script(position[0]), number_from_script(position[1])};
+    });
+  }
+
+ private:
+  pybind11::module_ module_;
+};
+
+class ScriptPlaces final : public host::Places {
+ public:
+  explicit ScriptPlaces(pybind11::module_ module) : module_(std::move(module)) {}
+  /// A script answers (name, distance, bearing) or None.
+  [[nodiscard]] std::optional<host::NearbyPlace> najblizsze_miejsce(double lat, double lon) const override {
+    return calling_script([&]() -> std::optional<host::NearbyPlace> {
+      const pybind11::object answer = module_.attr("najblizsze_miejsce")(lat, lon);
+      if (answer.is_none()) return std::nullopt;
+      const auto place = items_of(answer, 3);
+      return host::NearbyPlace{from_script(place[0]), number_from_script(place[1]), number_from_script(place[2])};
     });
   }
 

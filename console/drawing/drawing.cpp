@@ -13,15 +13,7 @@ namespace {
 // double holds, so that sums of coordinates stay finite.
 constexpr double kFarthest = 1e250;
 
-bool is_sound(double value) { return std::abs(value) <= kFarthest; }  // false for a nan
-
-bool is_sound(const Position& position) { return is_sound(position.x) && is_sound(position.y) && is_sound(position.z); }
-
-bool is_sound(const PointGeometry& point) { return is_sound(point.position); }
-
-bool is_sound(const TextGeometry& text) {
-  return is_sound(text.position) && is_sound(text.height) && text.height > 0.0;
-}
+bool is_near(double value) { return std::abs(value) <= kFarthest; }  // false for a nan
 
 std::string lower_case(std::string_view name) {
   std::string lower(name);
@@ -30,6 +22,8 @@ std::string lower_case(std::string_view name) {
 }
 
 }  // namespace
+
+bool is_sound(const Position& position) { return is_near(position.x) && is_near(position.y) && is_near(position.z); }
 
 template <class Geometry>
 std::optional<Handle> Drawing::place(Kind kind, Column<Geometry>& all, const Geometry& one) {
@@ -44,11 +38,11 @@ std::optional<Handle> Drawing::place(Kind kind, Column<Geometry>& all, const Geo
 }
 
 std::optional<Handle> Drawing::add(const PointGeometry& point) {
-  return is_sound(point) ? place(Kind::point, points_, point) : std::nullopt;
+  return is_sound(point.position) ? place(Kind::point, points_, point) : std::nullopt;
 }
 
 std::optional<Handle> Drawing::add(TextGeometry text) {
-  if (!is_sound(text)) return std::nullopt;
+  if (!is_sound(text.position) || !is_near(text.height) || !(text.height > 0.0)) return std::nullopt;
   const std::span<const char> kept = letters_.keep(text.text);
   text.text = {kept.data(), kept.size()};
   return place(Kind::text, texts_, text);

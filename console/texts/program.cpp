@@ -6,15 +6,21 @@ namespace console {
 std::span<const Text> program_texts() {
   static constexpr auto kTexts = std::to_array<Text>({
       {"konsola.zle_slowo", "ss",  // answer, words
-       "Nie ma takiej odpowiedzi: „%s”. Możliwe: %s (wystarczy początek słowa; Esc przerywa).\n",
-       "Diese Antwort gibt es nicht: „%s“. Möglich: %s (der Wortanfang genügt; Esc bricht ab).\n",
-       "Nu există răspunsul „%s”. Posibile: %s (ajunge începutul cuvântului; Esc anulează).\n",
-       "There is no answer “%s”. Possible: %s (the beginning of a word is enough; Esc cancels).\n"},
+       "Nie ma takiej odpowiedzi: „%s”. Możliwe: %s (wystarczy początek słowa).\n",
+       "Diese Antwort gibt es nicht: „%s“. Möglich: %s (der Wortanfang genügt).\n",
+       "Nu există răspunsul „%s”. Posibile: %s (ajunge începutul cuvântului).\n",
+       "There is no answer “%s”. Possible: %s (the beginning of a word is enough).\n"},
       {"konsola.niejasne_slowo", "ss",  // answer, words
        "Odpowiedź „%s” pasuje do kilku słów: %s. Wpisz więcej liter.\n",
        "Die Antwort „%s“ passt zu mehreren Wörtern: %s. Bitte mehr Buchstaben eingeben.\n",
        "Răspunsul „%s” se potrivește cu mai multe cuvinte: %s. Scrieți mai multe litere.\n",
        "The answer “%s” fits several words: %s. Type more letters.\n"},
+      {"konsola.odczyt_udzial", "d",  // share in per cent
+       "    pasuje do %d %% badanych punktów\n", "    passt zu %d %% der geprüften Punkte\n",
+       "    se potrivește cu %d %% din punctele verificate\n", "    fits %d %% of the points looked at\n"},
+      {"konsola.odczyt_naglowek", "dss",  // line, names of the first and the second coordinate
+       "    tak mówi nagłówek (linia %d): „%s”, „%s”\n", "    so sagt es der Kopf (Zeile %d): „%s“, „%s“\n",
+       "    așa spune antetul (linia %d): „%s”, „%s”\n", "    so the header says (line %d): “%s”, “%s”\n"},
       {"konsola.opcja_zbedna", "s",  // option
        "Opcja %s nie była potrzebna: to pytanie nie padło.\n",
        "Die Option %s wurde nicht gebraucht: diese Frage stellte sich nicht.\n",
@@ -25,6 +31,11 @@ std::span<const Text> program_texts() {
        "Achtung: von der Zeichnung abgewiesene Objekte: %d (Koordinaten sind unendlich, zu groß oder keine Zahlen).\n",
        "Atenție: obiecte respinse de desen: %d (coordonate infinite, prea mari sau care nu sunt numere).\n",
        "Note: objects refused by the drawing: %d (their coordinates are infinite, too large or no numbers).\n"},
+      {"konsola.nieznany_rynek", "s",  // market code
+       "VEXO_RYNEK: nieznany rynek „%s” (znane: PL, DE, RO); przyjęto PL.\n",
+       "VEXO_RYNEK: unbekannter Markt „%s“ (bekannt: PL, DE, RO); es gilt PL.\n",
+       "VEXO_RYNEK: piață necunoscută „%s” (cunoscute: PL, DE, RO); se folosește PL.\n",
+       "VEXO_RYNEK: unknown market “%s” (known: PL, DE, RO); PL is used.\n"},
       {"konsola.zapisano", "s",  // path
        "Rysunek: %s\n", "Zeichnung: %s\n", "Desen: %s\n", "Drawing: %s\n"},
       {"konsola.nie_zapisano", "", "Rysunku nie zapisano.\n", "Die Zeichnung wurde nicht gespeichert.\n",
@@ -45,6 +56,43 @@ std::span<const Text> program_texts() {
        "Die Datei %s gibt es bereits. Bitte bei -o einen anderen Namen angeben oder mit --force ersetzen.\n",
        "Fișierul %s există deja. Dați alt nume la -o sau adăugați --force pentru a-l înlocui.\n",
        "The file %s exists already. Give another name with -o, or replace it with --force.\n"},
+
+      // What was being done to a file, and why it failed
+      {"konsola.krok_utworzenie", "s",  // reason
+       "nie udało się utworzyć pliku w tym folderze: %s", "in diesem Ordner ließ sich keine Datei anlegen: %s",
+       "nu s-a putut crea un fișier în acest folder: %s", "no file could be created in that folder: %s"},
+      {"konsola.krok_zapis", "s",  // reason
+       "zapis danych się nie powiódł: %s", "das Schreiben ist fehlgeschlagen: %s", "scrierea datelor a eșuat: %s",
+       "writing failed: %s"},
+      {"konsola.krok_utrwalenie", "s",  // reason
+       "nie udało się utrwalić danych na dysku: %s", "die Daten ließen sich nicht auf dem Datenträger sichern: %s",
+       "datele nu au putut fi asigurate pe disc: %s", "the data could not be secured on the disk: %s"},
+      {"konsola.krok_nazwa", "s",  // reason
+       "nie udało się nadać plikowi tej nazwy: %s", "die Datei ließ sich nicht so benennen: %s",
+       "fișierul nu a putut primi acest nume: %s", "the file could not be given this name: %s"},
+      {"konsola.powod_brak_folderu", "", "nie ma takiego folderu", "den Ordner gibt es nicht", "folderul nu există",
+       "there is no such folder"},
+      {"konsola.powod_brak_prawa", "", "brak uprawnień", "die Berechtigung fehlt", "lipsesc drepturile de acces",
+       "permission is missing"},
+      {"konsola.powod_dysk_pelny", "", "dysk jest pełny", "der Datenträger ist voll", "discul este plin",
+       "the disk is full"},
+      {"konsola.powod_przydzial", "", "przydział miejsca na dysku jest wyczerpany",
+       "das Speicherkontingent ist erschöpft", "cota de spațiu pe disc este epuizată",
+       "the quota of disk space is used up"},
+      {"konsola.powod_za_duzy", "", "plik przekroczyłby dozwoloną wielkość", "die Datei würde größer als zugelassen",
+       "fișierul ar depăși dimensiunea permisă", "the file would be larger than allowed"},
+      {"konsola.powod_tylko_odczyt", "", "nośnik jest tylko do odczytu", "der Datenträger ist schreibgeschützt",
+       "suportul este numai pentru citire", "the medium is read-only"},
+      {"konsola.powod_istnieje", "", "taki plik już istnieje", "eine solche Datei gibt es bereits",
+       "un astfel de fișier există deja", "such a file exists already"},
+      {"konsola.powod_nie_plik", "", "to nie jest zwykły plik", "das ist keine gewöhnliche Datei",
+       "acesta nu este un fișier obișnuit", "that is not an ordinary file"},
+      {"konsola.powod_dluga_nazwa", "", "nazwa jest za długa", "der Name ist zu lang", "numele este prea lung",
+       "the name is too long"},
+      {"konsola.powod_nosnik", "", "błąd nośnika", "Fehler des Datenträgers", "eroare a suportului",
+       "the medium failed"},
+      {"konsola.powod_inny", "sd",  // the system's words, its number
+       "%s (błąd systemu %d)", "%s (Systemfehler %d)", "%s (eroare de sistem %d)", "%s (system error %d)"},
   });
   return kTexts;
 }

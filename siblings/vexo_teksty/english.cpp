@@ -30,6 +30,9 @@ constexpr auto kEnglish = [] {
       {"xyz.kw_numer", "Number"},
       {"xyz.kw_wspolrzedna", "Coordinate"},
       {"xyz.opis_wybor_uzytkownika", "layout chosen by the user"},
+      {"xyz.opis_z_pliku", "stated in the file's first line"},
+      {"xyz.kolumny_nie_pasuja",
+       "\nThe file's first line states %d columns, but the rows have %d; columns and axes are settled without it.\n"},
       {"xyz.rozpoznany_format", "\nColumn layout: %s (%s).\n"},
       {"xyz.z_brak", "The file holds no heights: points get Z = 0.\n"},
       {"xyz.z_wczytuje", "Heights are read from the file as Z.\n"},
@@ -64,10 +67,39 @@ constexpr auto kEnglish = [] {
       {"xyz.osie_niejednoznaczne",
        "\nThe coordinates fit more than one reading. Where each of them puts the first point:\n"},
       {"xyz.osie_wiersz", "  %s: %s, latitude %.6f°, longitude %.6f°\n"},
-      {"xyz.osie_legenda_tpl", "%s: insert as it stands in the file; %s: exchange X and Y.\n"},
+      {"xyz.osie_legenda_tpl",
+       "%s or Enter: insert as it stands in the file; %s: exchange X and Y.\n"
+       "Esc or the end of input: insert as it stands in the file, with the order of the axes not confirmed.\n"},
       {"xyz.prompt_zamien_osie_tpl", "Is the order of the axes right? [%s] <%s>: "},
       {"xyz.kw_tak", "Yes"},
       {"xyz.kw_zamien", "Swap"},
+      {"xyz.osie_podane_e",
+       "\nOrder of the axes as told beforehand: the first coordinate is the easting. The points are inserted as they "
+       "stand in the file.\n"},
+      {"xyz.osie_podane_n",
+       "\nOrder of the axes as told beforehand: the first coordinate is the northing. X and Y were exchanged, so that "
+       "north is up in the drawing.\n"},
+      {"xyz.osie_z_pliku",
+       "\nOrder of the axes as stated in the file's first line: E, N. The points are inserted as they stand in the "
+       "file.\n"},
+      {"xyz.osie_wbrew_plikowi",
+       "The file's first line states the order E, N; the order told beforehand overrules it.\n"},
+      {"xyz.osie_wbrew_liczbom",
+       "The numbers alone would suggest %s with the axes the other way round; the order given overrules them.\n"},
+      {"xyz.osie_bez_ukladu", "No coordinate system was recognised (a local one?).\n"},
+      {"xyz.osie_pozostaje", "The numbers alone fit more than one reading; what fits the order given is:\n"},
+
+      // Places
+      {"xyz.osie_miejsce", "    in %s\n"},
+      {"xyz.osie_obok_miejsca", "    %d km %s of %s\n"},
+      {"xyz.kierunek_n", "north"},
+      {"xyz.kierunek_ne", "north-east"},
+      {"xyz.kierunek_e", "east"},
+      {"xyz.kierunek_se", "south-east"},
+      {"xyz.kierunek_s", "south"},
+      {"xyz.kierunek_sw", "south-west"},
+      {"xyz.kierunek_w", "west"},
+      {"xyz.kierunek_nw", "north-west"},
 
       // Drawing
       {"xyz.blad_model", "\nModel space cannot be opened for writing. The drawing is unchanged.\n"},

@@ -34,6 +34,10 @@ constexpr auto kGerman = [] {
       {"xyz.kw_numer", "Nummer"},
       {"xyz.kw_wspolrzedna", "Koordinate"},
       {"xyz.opis_wybor_uzytkownika", "vom Benutzer festgelegt"},
+      {"xyz.opis_z_pliku", "nach der ersten Zeile der Datei"},
+      {"xyz.kolumny_nie_pasuja",
+       "\nDie erste Zeile der Datei kündigt %d Spalten an, die Zeilen haben %d; Spalten- und Achsenfolge werden ohne "
+       "sie bestimmt.\n"},
       {"xyz.rozpoznany_format", "\nSpaltenfolge: %s (%s).\n"},
       {"xyz.z_brak", "Die Datei enthält keine Höhen: die Punkte erhalten Z = 0.\n"},
       {"xyz.z_wczytuje", "Die Höhen der Datei werden als Z übernommen.\n"},
@@ -70,10 +74,39 @@ constexpr auto kGerman = [] {
       {"xyz.osie_niejednoznaczne",
        "\nDie Koordinaten lassen mehr als eine Lesart zu. Lage des ersten Punktes nach jeder von ihnen:\n"},
       {"xyz.osie_wiersz", "  %s: %s, Breite %.6f°, Länge %.6f°\n"},
-      {"xyz.osie_legenda_tpl", "%s: einfügen, wie es in der Datei steht; %s: Rechtswert und Hochwert tauschen.\n"},
+      {"xyz.osie_legenda_tpl",
+       "%s oder Enter: einfügen, wie es in der Datei steht; %s: Rechtswert und Hochwert tauschen.\n"
+       "Esc oder Ende der Eingabe: einfügen, wie es in der Datei steht, ohne dass die Achsenfolge bestätigt ist.\n"},
       {"xyz.prompt_zamien_osie_tpl", "Ist die Reihenfolge der Achsen richtig? [%s] <%s>: "},
       {"xyz.kw_tak", "Ja"},
       {"xyz.kw_zamien", "Tauschen"},
+      {"xyz.osie_podane_e",
+       "\nAchsenfolge vorab angegeben: die erste Koordinate ist der Rechtswert (Ost). Die Punkte werden eingefügt, wie "
+       "sie in der Datei stehen.\n"},
+      {"xyz.osie_podane_n",
+       "\nAchsenfolge vorab angegeben: die erste Koordinate ist der Hochwert (Nord). X und Y wurden getauscht, damit "
+       "Norden in der Zeichnung oben liegt.\n"},
+      {"xyz.osie_z_pliku",
+       "\nAchsenfolge nach der ersten Zeile der Datei: E, N. Die Punkte werden eingefügt, wie sie in der Datei "
+       "stehen.\n"},
+      {"xyz.osie_wbrew_plikowi",
+       "Die erste Zeile der Datei nennt die Folge E, N; es gilt die vorab angegebene Achsenfolge.\n"},
+      {"xyz.osie_wbrew_liczbom",
+       "Die Zahlen allein sprächen für %s mit umgekehrter Achsenfolge; es gilt die angegebene.\n"},
+      {"xyz.osie_bez_ukladu", "Kein Lagebezugssystem erkannt (örtliches System?).\n"},
+      {"xyz.osie_pozostaje", "Die Zahlen allein lassen mehr als eine Lesart zu; zur angegebenen Achsenfolge passt:\n"},
+
+      // Places
+      {"xyz.osie_miejsce", "    in %s\n"},
+      {"xyz.osie_obok_miejsca", "    %d km %s von %s\n"},
+      {"xyz.kierunek_n", "nördlich"},
+      {"xyz.kierunek_ne", "nordöstlich"},
+      {"xyz.kierunek_e", "östlich"},
+      {"xyz.kierunek_se", "südöstlich"},
+      {"xyz.kierunek_s", "südlich"},
+      {"xyz.kierunek_sw", "südwestlich"},
+      {"xyz.kierunek_w", "westlich"},
+      {"xyz.kierunek_nw", "nordwestlich"},
 
       // Drawing
       {"xyz.blad_model",

@@ -39,6 +39,15 @@ inline constexpr auto kKeys = std::to_array<Key>({
     {"xyz.grupa_reczne", ""},
     {"xyz.info_opis", "s"},  // description of the layout
     {"xyz.info_skoroszyt", ""},
+    {"xyz.kierunek_e", ""},
+    {"xyz.kierunek_n", ""},
+    {"xyz.kierunek_ne", ""},
+    {"xyz.kierunek_nw", ""},
+    {"xyz.kierunek_s", ""},
+    {"xyz.kierunek_se", ""},
+    {"xyz.kierunek_sw", ""},
+    {"xyz.kierunek_w", ""},
+    {"xyz.kolumny_nie_pasuja", "dd"},    // columns stated, columns there are
     {"xyz.kontrola_niedostepna", "ss"},  // kind of failure, its text
     {"xyz.kontrola_ok", "d"},            // points marked
     {"xyz.kontrola_za_duzo", "dd"},      // points, limit
@@ -48,9 +57,19 @@ inline constexpr auto kKeys = std::to_array<Key>({
     {"xyz.kw_zamien", ""},
     {"xyz.linia_pominieta", "dss"},  // row number, reason, row
     {"xyz.opis_wybor_uzytkownika", ""},
+    {"xyz.opis_z_pliku", ""},
+    {"xyz.osie_bez_ukladu", ""},
     {"xyz.osie_legenda_tpl", "ss"},  // word for keeping, word for exchanging
+    {"xyz.osie_miejsce", "s"},       // place
     {"xyz.osie_niejednoznaczne", ""},
-    {"xyz.osie_wiersz", "ssff"},    // word, system name, latitude and longitude in degrees
+    {"xyz.osie_obok_miejsca", "dss"},  // kilometres, direction, place
+    {"xyz.osie_podane_e", ""},
+    {"xyz.osie_podane_n", ""},
+    {"xyz.osie_pozostaje", ""},
+    {"xyz.osie_wbrew_liczbom", "s"},  // system name
+    {"xyz.osie_wbrew_plikowi", ""},
+    {"xyz.osie_wiersz", "ssff"},  // word, system name, latitude and longitude in degrees
+    {"xyz.osie_z_pliku", ""},
     {"xyz.pierwszy_wiersz", "s"},   // first cells of the first row
     {"xyz.pominieto_dalsze", "d"},  // count of the rest
     {"xyz.pominieto_naglowek", ""},

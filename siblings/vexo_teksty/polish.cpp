@@ -31,6 +31,10 @@ constexpr auto kPolish = [] {
       {"xyz.kw_numer", "Numer"},
       {"xyz.kw_wspolrzedna", "Wspolrzedna"},
       {"xyz.opis_wybor_uzytkownika", "układ wskazany przez użytkownika"},
+      {"xyz.opis_z_pliku", "podany w pierwszej linii pliku"},
+      {"xyz.kolumny_nie_pasuja",
+       "\nPierwsza linia pliku zapowiada kolumn: %d, a w wierszach jest ich %d; układ kolumn i osi zostanie ustalony "
+       "bez niej.\n"},
       {"xyz.rozpoznany_format", "\nUkład kolumn: %s (%s).\n"},
       {"xyz.z_brak", "Plik nie zawiera wysokości: punkty otrzymają Z = 0.\n"},
       {"xyz.z_wczytuje", "Wysokości z pliku zostaną wczytane jako Z.\n"},
@@ -63,10 +67,37 @@ constexpr auto kPolish = [] {
       {"xyz.osie_niejednoznaczne",
        "\nWspółrzędne pasują do więcej niż jednego odczytu. Położenie pierwszego punktu według każdego z nich:\n"},
       {"xyz.osie_wiersz", "  %s: %s, szerokość %.6f°, długość %.6f°\n"},
-      {"xyz.osie_legenda_tpl", "%s: wstaw tak, jak stoi w pliku; %s: zamień X i Y miejscami.\n"},
+      {"xyz.osie_legenda_tpl",
+       "%s lub Enter: wstaw tak, jak stoi w pliku; %s: zamień X i Y miejscami.\n"
+       "Esc lub koniec danych wejściowych: wstaw tak, jak stoi w pliku, bez potwierdzenia kolejności osi.\n"},
       {"xyz.prompt_zamien_osie_tpl", "Czy kolejność osi jest właściwa? [%s] <%s>: "},
       {"xyz.kw_tak", "Tak"},
       {"xyz.kw_zamien", "Zamien"},
+      {"xyz.osie_podane_e",
+       "\nKolejność osi podana z góry: pierwsza współrzędna jest wschodnia. Punkty zostaną wstawione tak, jak stoją w "
+       "pliku.\n"},
+      {"xyz.osie_podane_n",
+       "\nKolejność osi podana z góry: pierwsza współrzędna jest północna. Zamieniono X i Y, aby w rysunku północ była "
+       "u góry.\n"},
+      {"xyz.osie_z_pliku",
+       "\nKolejność osi podana w pierwszej linii pliku: E, N. Punkty zostaną wstawione tak, jak stoją w pliku.\n"},
+      {"xyz.osie_wbrew_plikowi", "Pierwsza linia pliku podaje kolejność E, N; rozstrzyga kolejność podana z góry.\n"},
+      {"xyz.osie_wbrew_liczbom",
+       "Same liczby wskazywałyby układ %s przy odwrotnej kolejności osi; rozstrzyga kolejność podana.\n"},
+      {"xyz.osie_bez_ukladu", "Układu współrzędnych nie rozpoznano (układ lokalny?).\n"},
+      {"xyz.osie_pozostaje", "Same liczby pasują do więcej niż jednego odczytu; z podaną kolejnością zgodny jest:\n"},
+
+      // Places
+      {"xyz.osie_miejsce", "    w miejscowości %s\n"},
+      {"xyz.osie_obok_miejsca", "    %d km %s od miejscowości %s\n"},
+      {"xyz.kierunek_n", "na północ"},
+      {"xyz.kierunek_ne", "na północny wschód"},
+      {"xyz.kierunek_e", "na wschód"},
+      {"xyz.kierunek_se", "na południowy wschód"},
+      {"xyz.kierunek_s", "na południe"},
+      {"xyz.kierunek_sw", "na południowy zachód"},
+      {"xyz.kierunek_w", "na zachód"},
+      {"xyz.kierunek_nw", "na północny zachód"},
 
       // Drawing
       {"xyz.blad_model", "\nNie można otworzyć obszaru modelu do zapisu. Rysunek bez zmian.\n"},

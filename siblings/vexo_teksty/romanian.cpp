@@ -34,6 +34,10 @@ constexpr auto kRomanian = [] {
       {"xyz.kw_numer", "Numar"},
       {"xyz.kw_wspolrzedna", "Coordonata"},
       {"xyz.opis_wybor_uzytkownika", "ordine indicată de utilizator"},
+      {"xyz.opis_z_pliku", "indicată în prima linie a fișierului"},
+      {"xyz.kolumny_nie_pasuja",
+       "\nPrima linie a fișierului anunță %d coloane, iar rândurile au %d; ordinea coloanelor și a axelor se "
+       "stabilește fără ea.\n"},
       {"xyz.rozpoznany_format", "\nOrdinea coloanelor: %s (%s).\n"},
       {"xyz.z_brak", "Fișierul nu conține cote: punctele primesc Z = 0.\n"},
       {"xyz.z_wczytuje", "Cotele din fișier vor fi citite ca Z.\n"},
@@ -69,10 +73,38 @@ constexpr auto kRomanian = [] {
       {"xyz.osie_niejednoznaczne",
        "\nCoordonatele se potrivesc cu mai multe citiri. Poziția primului punct după fiecare dintre ele:\n"},
       {"xyz.osie_wiersz", "  %s: %s, latitudine %.6f°, longitudine %.6f°\n"},
-      {"xyz.osie_legenda_tpl", "%s: se inserează așa cum stă în fișier; %s: se inversează X și Y.\n"},
+      {"xyz.osie_legenda_tpl",
+       "%s sau Enter: se inserează așa cum stă în fișier; %s: se inversează X și Y.\n"
+       "Esc sau sfârșitul intrării: se inserează așa cum stă în fișier, fără confirmarea ordinii axelor.\n"},
       {"xyz.prompt_zamien_osie_tpl", "Ordinea axelor este corectă? [%s] <%s>: "},
       {"xyz.kw_tak", "Da"},
       {"xyz.kw_zamien", "Inverseaza"},
+      {"xyz.osie_podane_e",
+       "\nOrdinea axelor indicată dinainte: prima coordonată este cea est. Punctele se inserează așa cum stau în "
+       "fișier.\n"},
+      {"xyz.osie_podane_n",
+       "\nOrdinea axelor indicată dinainte: prima coordonată este cea nord. X și Y au fost inversate, pentru ca în "
+       "desen nordul să fie sus.\n"},
+      {"xyz.osie_z_pliku",
+       "\nOrdinea axelor indicată în prima linie a fișierului: E, N. Punctele se inserează așa cum stau în fișier.\n"},
+      {"xyz.osie_wbrew_plikowi",
+       "Prima linie a fișierului indică ordinea E, N; hotărăște ordinea indicată dinainte.\n"},
+      {"xyz.osie_wbrew_liczbom",
+       "Numerele singure ar arăta sistemul %s cu ordinea inversă a axelor; hotărăște ordinea indicată.\n"},
+      {"xyz.osie_bez_ukladu", "Sistemul de coordonate nu a fost recunoscut (sistem local?).\n"},
+      {"xyz.osie_pozostaje", "Numerele singure se potrivesc cu mai multe citiri; cu ordinea indicată se potrivește:\n"},
+
+      // Places
+      {"xyz.osie_miejsce", "    în localitatea %s\n"},
+      {"xyz.osie_obok_miejsca", "    %d km %s de %s\n"},
+      {"xyz.kierunek_n", "la nord"},
+      {"xyz.kierunek_ne", "la nord-est"},
+      {"xyz.kierunek_e", "la est"},
+      {"xyz.kierunek_se", "la sud-est"},
+      {"xyz.kierunek_s", "la sud"},
+      {"xyz.kierunek_sw", "la sud-vest"},
+      {"xyz.kierunek_w", "la vest"},
+      {"xyz.kierunek_nw", "la nord-vest"},
 
       // Drawing
       {"xyz.blad_model", "\nSpațiul model nu poate fi deschis pentru scriere. Desenul a rămas neschimbat.\n"},

@@ -21,7 +21,8 @@ import unittest
 PATIENCE = 120  # seconds; a build with sanitizers on a busy machine is slow
 LONG = 100_000_000
 POINTS = b"1;6542052.26;6024823.93;2.85\n2;6542057.52;6024830.58;3.77\n3;6542070.89;6024826.78;3.26\n"
-FIRST = (6542052.26, 6024823.93, 2.85)
+FIRST, NORTH_FIRST = (6542052.26, 6024823.93, 2.85), (6024823.93, 6542052.26, 2.85)
+EXCHANGED_POINTS = b"1;6024823.93;6542052.26;2.85\n2;6024830.58;6542057.52;3.77\n3;6024826.78;6542070.89;3.26\n"
 DATA = pathlib.Path(__file__).resolve().parents[1] / "data"
 AXES = (DATA / "samples" / "05_kudowa_pl2000_s5_NE_niejednoznaczne.txt").read_bytes()  # fits kept and exchanged
 KEPT, EXCHANGED = (5590435.97, 5588346.4, 392.34), (5588346.4, 5590435.97, 392.34)
@@ -216,15 +217,15 @@ class Program(unittest.TestCase):
     def test_drawings_that_cannot_be_saved(self):
         read_only = forbidden(lambda path: path.mkdir(0o555), os.W_OK)
         forced, unlimited = ["--force", "-o", "rysunek.dxf"], resource.getrlimit(resource.RLIMIT_FSIZE)[0]
-        for case, name, content, arguments, limit in [
-            ("no such folder", None, None, ["-o", "nie/ma/rysunek.dxf"], unlimited),
-            ("name that is too long", None, None, ["-o", "d" * 300], unlimited),
-            ("folder without write permission", "tylko", read_only, ["-o", "tylko/rysunek.dxf"], unlimited),
-            ("target is a folder", "rysunek.dxf", os.mkdir, forced, unlimited),
-            ("target is a FIFO", "rysunek.dxf", os.mkfifo, forced, unlimited),
-            ("disk full", None, None, [], 2000),
-            ("disk full at the first byte", None, None, ["-o", "rysunek.dxf"], 0),
-            ("disk full, drawing to be replaced", "rysunek.dxf", b"mine", forced, 2000),
+        for case, name, content, arguments, limit, reason in [
+            ("no such folder", None, None, ["-o", "nie/ma/rysunek.dxf"], unlimited, "nie ma takiego folderu"),
+            ("name that is too long", None, None, ["-o", "d" * 300], unlimited, "nazwa jest za długa"),
+            ("folder without write permission", "tylko", read_only, ["-o", "tylko/rysunek.dxf"], unlimited, "brak uprawnień"),
+            ("target is a folder", "rysunek.dxf", os.mkdir, forced, unlimited, "zwykły plik"),
+            ("target is a FIFO", "rysunek.dxf", os.mkfifo, forced, unlimited, "zwykły plik"),
+            ("disk full", None, None, [], 2000, "dozwoloną wielkość"),
+            ("disk full at the first byte", None, None, ["-o", "rysunek.dxf"], 0, "dozwoloną wielkość"),
+            ("disk full, drawing to be replaced", "rysunek.dxf", b"mine", forced, 2000, "dozwoloną wielkość"),
         ]:
             with self.subTest(case):
                 self.start("dane.csv", POINTS)
@@ -233,7 +234,7 @@ class Program(unittest.TestCase):
                 code, out, err = self.call("dane.csv", *arguments, preexec_fn=lambda: resource.setrlimit(
                     resource.RLIMIT_FSIZE, (limit, limit)))  # a write fails with it as it does on a full disk
                 self.assertEqual((code, self.tree()), (3, before), out + err)
-                self.assertIn("Nie można zapisać rysunku " + (arguments or ["dane.dxf"])[-1], out)
+                self.check_texts(["Nie można zapisać rysunku " + (arguments or ["dane.dxf"])[-1], reason + "."], out)
 
     def test_interrupted_writing(self):
         rows = b"".join(b"%d;%d.25;%d.5;%d\n" % (i, 6542052 + i % 500, 6024823 + i // 500, i) for i in range(300_000))
@@ -264,6 +265,16 @@ class Program(unittest.TestCase):
             (COLUMNS, ["--first-column", "number"], "", NUMBERED, []),
             (COLUMNS, ["--first-column", "coordinate"], "", UNNUMBERED, []),
             (COLUMNS, ["--axes", "swap"], "w\n", UNNUMBERED, ["--axes nie była"]),
+            (AXES, ["--axes=north-first"], "t\n", EXCHANGED, []), (AXES, ["--axes=east-first"], "z\n", KEPT, []),
+            (POINTS, ["--axes=north-first"], "", NORTH_FIRST, []),  # although a single reading says otherwise
+            (COLUMNS, ["--axes=north-first"], "\n", (200.0, 100.0, 0.0), []),  # although there is none
+            (b"# columns: number;E;N\n" + COLUMNS, [], "w\n", NUMBERED, []),
+            (b"\xef\xbb\xbf# columns: X;Y;Z\r\n" + COLUMNS, [], "n\n", UNNUMBERED, []),
+            (b"# columns: X;Y;Z\n" + AXES, [], "n\nz\n", EXCHANGED, ["kolumn: 3,"]),  # four, so the line says nothing
+            (b"# Columns: X;Y;Z\n" + COLUMNS, [], "n\n", NUMBERED, []),
+            (b"# columns: number;E;N;Z\n" + EXCHANGED_POINTS, [], "", NORTH_FIRST, []),
+            (b"# columns: number;X;Y;Z\n" + EXCHANGED_POINTS, [], "", FIRST, []),
+            (b"# columns: number;E;N;Z\n" + POINTS, ["--axes=north-first"], "", NORTH_FIRST, ["E, N; rozstrzyga"]),
         ]:
             with self.subTest(content=content[:9], arguments=arguments, answers=answers):
                 self.start("dane.csv", content)

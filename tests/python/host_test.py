@@ -4,12 +4,14 @@
 
 DIST_DIR holds the extension and the family's modules.
 """
+import cmath
 import importlib
 import itertools
 import json
 import math
 import os
 import pathlib
+import random
 import sys
 import tempfile
 import threading
@@ -95,6 +97,21 @@ class Scripts(HostTest):
             market = vars(importlib.import_module("vexo_xyz_dane_" + code))
             stated = {name: market[name] for name in tables}
             self.assertEqual(json.loads(json.dumps(stated, default=sorted)), tables)
+
+    def test_nearest_places(self):
+        """Held against all places of the table, in the plane."""
+        place_of, chance = importlib.import_module("vexo_miejsca").najblizsze_miejsce, random.Random(7)
+        table = HERE.parents[1] / "siblings" / "vexo_miejsca" / "places" / "PL.tsv"
+        places = [line.split("\t") for line in table.read_text("utf-8").splitlines()[1:]]
+        for _ in range(100):
+            lat, lon = chance.uniform(49.5, 54.5), chance.uniform(15, 23)
+            away = [(111.195 * complex(lat - float(y), (lon - float(x)) * math.cos(math.radians(lat))), name)
+                    for name, y, x, _ in places]
+            name, distance, bearing = place_of(lat, lon)
+            off = min((off for off, own in away if own == name), key=abs)
+            self.assertLess(distance, 1.11 * min(abs(off) for off, _ in away))
+            self.assertLess(abs(off - cmath.rect(distance, math.radians(bearing))), 0.02 * distance)
+        self.assertEqual([place_of(40, 20), place_of(math.nan, 20)], [None, None])
 
     def test_results(self):
         book = os.path.join(self.folder, "pomiar.csv")
@@ -237,6 +254,37 @@ class Imports(HostTest):
         rows = ["7;1;2\n" if i < 20 or i >= 200 else "7;5788457;7500833\n" for i in range(300)]
         drawn = self.drawn_of("".join(rows))
         self.assertEqual((len(drawn), drawn[40].position[1]), (600, 5788457.0))
+
+    def test_places_are_no_more_than_a_help(self):
+        real = importlib.import_module("vexo_miejsca")
+        self.addCleanup(sys.modules.update, {"vexo_miejsca": real})
+        path = self.put("p.txt", AXES)
+
+        def shown(places):
+            sys.modules["vexo_miejsca"] = places
+            session.clear()
+            session.file, session.typed = path, [m.T("xyz.kw_zamien")]
+            m.importxyz()
+            return session.shown.splitlines()
+
+        def module(answer):
+            places = types.ModuleType("vexo_miejsca")
+            places.najblizsze_miejsce = lambda lat, lon: answer() if callable(answer) else answer
+            return places
+
+        def fails(failure=Injected()):
+            raise failure
+        told, plain = shown(real), shown(None)
+        self.assertEqual([line for line in told if not line.startswith("    ")], plain)
+        self.assertEqual(len(told), len(plain) + 2)
+        self.assertIn(m.T("xyz.osie_miejsce").rstrip("\n") % "X", shown(module(("X", 0.99, 7))))
+        west = m.T("xyz.osie_obok_miejsca").rstrip("\n") % (12, m.T("xyz.kierunek_w"), "X")
+        self.assertIn(west, shown(module(("X", 12.4, -90))))
+        for odd in (None, fails, 7, ("X", 1), ("X", "1", 2), ("X", math.nan, 2), ("X", 3, math.inf), ("X", -1, 2)):
+            self.assertEqual(shown(module(odd)), plain, odd)
+        self.assertEqual(shown(types.ModuleType("empty")), plain)
+        with self.assertRaises(KeyboardInterrupt):
+            shown(module(lambda: fails(KeyboardInterrupt())))
 
     def test_why_points_are_not_controlled(self):
         core = importlib.import_module("vexo_reaktywne_core")

@@ -1,21 +1,22 @@
 #include "vexo_xyz_impl/command/import.h"
 
 #include <exception>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
+#include "vexo_xyz_impl/bindings.h"
+#include "vexo_xyz_impl/command/axes.h"
+#include "vexo_xyz_impl/command/import_seen.h"
 #include "vexo_xyz_impl/command/insertion.h"
 #include "vexo_xyz_impl/command/questions.h"
 #include "vexo_xyz_impl/command/report.h"
 #include "vexo_xyz_impl/drawing/model_space.h"
 #include "vexo_xyz_impl/failure.h"
-#include "vexo_xyz_impl/input/loading.h"
+#include "vexo_xyz_impl/host/import_watch.h"
 #include "vexo_xyz_impl/messages.h"
 #include "vexo_xyz_impl/notices.h"
-#include "vexo_xyz_impl/table/layout.h"
-#include "vexo_xyz_impl/table/points.h"
 
 namespace vexo_xyz_impl {
 namespace {
@@ -24,40 +25,44 @@ using host::CommandOutcome;
 
 constexpr std::size_t kSkippedShownWithoutPoints = 3;
 
-// The table; empty, with the user told why, when the file cannot be used.
-std::optional<Table> read_table(const std::string& path) {
-  LoadResult loaded;
-  without_lock([&] { loaded = _wczytaj(path); });
-  if (loaded.typ == FileType::xls_stary) {
+// Reads the file; false, with the user told why, when it cannot be used.
+bool read_file(ImportSeen& seen) {
+  without_lock([&] { seen.loaded = _wczytaj(seen.path); });
+  if (seen.loaded.typ == FileType::xls_stary) {
     print("xyz.xls_stary_1");
     print("xyz.xls_stary_2");
-    return std::nullopt;
+    return false;
   }
-  if (!loaded.rows) {
-    print("xyz.blad_otworz_plik", {std::string_view(path)});
-    return std::nullopt;
+  if (!seen.loaded.rows) {
+    print("xyz.blad_otworz_plik", {std::string_view(seen.path)});
+    return false;
   }
-  if (loaded.typ == FileType::xlsx) print("xyz.info_skoroszyt");
-  return std::move(loaded.rows);
+  if (seen.loaded.typ == FileType::xlsx) print("xyz.info_skoroszyt");
+  return true;
 }
 
-CommandOutcome import_file(const std::string& path) {
-  auto table = read_table(path);
-  if (!table) return CommandOutcome::failed;
+// Makes points of the data rows and forgets the rows: points and skipped lines hold what is needed of them, and the
+// drawing needs the memory.
+void take_rows_apart(ImportSeen& seen) {
+  seen.read = _rozbierz(seen.verdict.dane, *seen.verdict.fmt);
+  if (bound().host.watch != nullptr) bound().host.watch->rows_taken_apart(seen);
+  seen.verdict.dane = std::vector<Row>();
+  seen.loaded.rows->forget_rows();
+}
 
-  LayoutVerdict verdict;
-  without_lock([&] { verdict = _wykryj_format(table->rows()); });
+CommandOutcome import_file(ImportSeen& seen) {
+  if (!read_file(seen)) return CommandOutcome::failed;
+
+  const std::vector<Row>& rows = seen.loaded.rows->rows();
+  const auto declared = columns_by_first_line(seen.path, rows);
+  LayoutVerdict& verdict = seen.verdict;
+  without_lock([&] { verdict = declared ? declared_layout(*declared, rows) : _wykryj_format(rows); });
   if (!verdict.fmt && !ask_layout(verdict)) return CommandOutcome::nothing_done;
-  Decomposition read;
   if (verdict.fmt) {
     announce_layout(*verdict.fmt, verdict.opis);
-    without_lock([&] {
-      read = _rozbierz(verdict.dane, *verdict.fmt);
-      // Points and skipped lines hold what is needed of them, and the drawing needs the memory.
-      verdict.dane = std::vector<Row>();
-      table->forget_rows();
-    });
+    without_lock([&] { take_rows_apart(seen); });
   }
+  Decomposition& read = seen.read;
   if (read.punkty.empty()) {
     print("xyz.zero_wierszy");
     print_skipped(read.pominiete, kSkippedShownWithoutPoints);
@@ -65,7 +70,9 @@ CommandOutcome import_file(const std::string& path) {
     return CommandOutcome::nothing_done;
   }
 
-  if (settle_axes(read.punkty))
+  const auto order = declared && declared->east_north ? std::optional(host::AxisOrder::east_first) : std::nullopt;
+  seen.axes = settle_axes(read.punkty, order);
+  if (seen.axes.swap)
     for (PointRecord& point : read.punkty) std::swap(point.x, point.y);
 
   const double txtH = label_height(read.punkty);
@@ -75,30 +82,41 @@ CommandOutcome import_file(const std::string& path) {
     return CommandOutcome::failed;
   }
   const Inserted inserted = insert_points(*model.ms, read.punkty, txtH);
+  seen.placed = inserted.placed;
+  seen.points_taken = inserted.oidy_punktow.size();
   model.ms.finish();
   _setPointDisplayVars();
 
   print("xyz.wstawiono_punkty", {static_cast<long long>(inserted.placed), layout_code(*verdict.fmt)});
   mark_and_report(inserted.oidy_punktow);
-  group_and_report(*model.db, *inserted.oidy, path);
-  report_rest(read);
+  group_and_report(*model.db, *inserted.oidy, seen.path);
+  seen.dubli = report_rest(read);
   return CommandOutcome::done;
+}
+
+CommandOutcome import_guarded(ImportSeen& seen) {
+  try {
+    return import_file(seen);
+  } catch (const std::exception& failure) {
+    const FailureNote note = describe(failure);
+    seen.failure = note;
+    notify_failure(failure);
+    print("xyz.blad_ogolny", {std::string_view(note.kind), std::string_view(note.text)});
+    return CommandOutcome::failed;
+  }
 }
 
 }  // namespace
 
 CommandOutcome importxyz() {
   notify_start();
-  const auto path = ask_path();
+  auto path = ask_path();
   if (!path) return CommandOutcome::nothing_done;
-  try {
-    return import_file(*path);
-  } catch (const std::exception& failure) {
-    const FailureNote note = describe(failure);
-    notify_failure(failure);
-    print("xyz.blad_ogolny", {std::string_view(note.kind), std::string_view(note.text)});
-    return CommandOutcome::failed;
-  }
+  ImportSeen seen;
+  seen.path = std::move(*path);
+  seen.outcome = import_guarded(seen);
+  if (bound().host.watch != nullptr) bound().host.watch->ended(seen);
+  return seen.outcome;
 }
 
 }  // namespace vexo_xyz_impl

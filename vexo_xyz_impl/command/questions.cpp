@@ -7,9 +7,6 @@
 #include <vector>
 
 #include "vexo_xyz_impl/command/keywords.h"
-#include "vexo_xyz_impl/crs/angles.h"
-#include "vexo_xyz_impl/crs/detection.h"
-#include "vexo_xyz_impl/crs/systems.h"
 #include "vexo_xyz_impl/messages.h"
 #include "vexo_xyz_impl/text/utf8.h"
 
@@ -17,10 +14,8 @@ namespace vexo_xyz_impl {
 namespace {
 
 constexpr std::size_t kCellsShown = 4;
-constexpr std::size_t kReadingsShown = 2;
 
 constexpr std::array kFirstColumnAnswers = {kNumer, kWspolrzedna};
-constexpr std::array kAxisAnswers = {kTak, kZamien};
 
 std::string_view without_quotes(std::string_view path) {
   const std::size_t first = path.find_first_not_of('"');
@@ -35,23 +30,6 @@ std::string first_cells(Row row) {
     joined += row[i];
   }
   return joined;
-}
-
-void announce_reading(const Candidate& candidate, const PointRecord& first) {
-  const auto [E, N] = candidate.swap ? std::pair(first.y, first.x) : std::pair(first.x, first.y);
-  const auto [lat, lon] = _do_geo(E, N, candidate.srid);
-  const std::string word = _slowo(candidate.swap ? kZamien : kTak);
-  const std::string name = _uklad_nazwa(candidate.srid);
-  print("xyz.osie_wiersz", {std::string_view(word), std::string_view(name), degrees(lat), degrees(lon)});
-}
-
-bool ask_swap(std::span<const Candidate> kand, const PointRecord& first) {
-  print("xyz.osie_niejednoznaczne");
-  for (const Candidate& candidate : kand.first(kReadingsShown)) announce_reading(candidate, first);
-  const std::string keep = _slowo(kTak);
-  const std::string exchange = _slowo(kZamien);
-  print("xyz.osie_legenda_tpl", {std::string_view(keep), std::string_view(exchange)});
-  return _kword(kAxisAnswers, "xyz.prompt_zamien_osie_tpl") == kZamien;
 }
 
 }  // namespace
@@ -94,20 +72,19 @@ bool ask_layout(LayoutVerdict& verdict) {
   return true;
 }
 
-bool settle_axes(std::span<const PointRecord> punkty) {
-  std::vector<Pair> pary;
-  for (const PointRecord& point : punkty.first(std::min(punkty.size(), kDetectionSample)))
-    pary.emplace_back(point.x, point.y);
-  const std::vector<Candidate> kand = _wykryj_uklad(pary);
-  if (kand.empty()) {
-    print("xyz.uklad_nierozpoznany");
-    return false;
-  }
-  if (kand.size() > 1) return ask_swap(kand, punkty.front());
-  const std::string name = _uklad_nazwa(kand.front().srid);
-  print("xyz.uklad_wykryto", {std::string_view(name)});
-  if (kand.front().swap) print("xyz.uklad_zamiana");
-  return kand.front().swap;
+std::optional<DeclaredColumns> columns_by_first_line(const std::string& path, std::span<const Row> wiersze) {
+  const auto declared = declared_columns(path);
+  if (!declared || wiersze.empty()) return declared;
+  const std::size_t columns = _liczba_kolumn(wiersze);
+  if (columns == declared->count()) return declared;
+  print("xyz.kolumny_nie_pasuja", {static_cast<long long>(declared->count()), static_cast<long long>(columns)});
+  return std::nullopt;
+}
+
+LayoutVerdict declared_layout(const DeclaredColumns& declared, std::span<const Row> wiersze) {
+  const Layout with_number = declared.height ? Layout::NrXYZ : Layout::NrXY;
+  const Layout without = declared.height ? Layout::XYZ : Layout::XY;
+  return {declared.number ? with_number : without, T("xyz.opis_z_pliku"), {wiersze.begin(), wiersze.end()}};
 }
 
 }  // namespace vexo_xyz_impl

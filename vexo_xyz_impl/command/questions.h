@@ -1,4 +1,5 @@
-// The steps of the import that may need the user: the path, the column layout, the axis order.
+// The steps of the import that may need the user: the path and the column layout; the order of the axes has a file of
+// its own (axes.h).
 //
 // Each says on the command line what it found and asks only what the data leave open.
 #pragma once
@@ -8,8 +9,8 @@
 #include <string>
 #include <string_view>
 
+#include "vexo_xyz_impl/input/declared_columns.h"
 #include "vexo_xyz_impl/table/layout.h"
-#include "vexo_xyz_impl/table/points.h"
 
 namespace vexo_xyz_impl {
 
@@ -23,8 +24,12 @@ namespace vexo_xyz_impl {
 /// Without a row of data neither answer could make a point: then nothing is asked and the layout stays open.
 [[nodiscard]] bool ask_layout(LayoutVerdict& verdict);
 
-/// Whether X and Y are to be exchanged: known from the only plausible reading of the points, else answered by the
-/// user; false when nothing is recognised or the user cancelled. There must be a point.
-[[nodiscard]] bool settle_axes(std::span<const PointRecord> punkty);
+/// What the first line of the file at `path` states of its columns. Empty when it states nothing or, with the user
+/// told, when that does not fit the rows.
+[[nodiscard]] std::optional<DeclaredColumns> columns_by_first_line(const std::string& path,
+                                                                   std::span<const Row> wiersze);
+
+/// The verdict that follows from it. All rows are data: those that give no point are to show among the skipped ones.
+[[nodiscard]] LayoutVerdict declared_layout(const DeclaredColumns& declared, std::span<const Row> wiersze);
 
 }  // namespace vexo_xyz_impl

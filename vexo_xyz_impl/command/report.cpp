@@ -57,15 +57,17 @@ void group_and_report(host::GcDbDatabase& db, const host::GcDbObjectIdArray& oid
   print("xyz.grupa_hint_2");
 }
 
-void report_rest(const Decomposition& read) {
+std::size_t report_rest(const Decomposition& read) {
   print("xyz.punkty_sa");
   if (!read.pominiete.empty()) print("xyz.pominieto_naglowek");
   print_skipped(read.pominiete, kSkippedShown);
   if (read.pominiete.size() > kSkippedShown) {
     print("xyz.pominieto_dalsze", {count_of(read.pominiete.size() - kSkippedShown)});
   }
-  if (const std::size_t dubli = repeated_numbers(read.punkty); dubli != 0) print("xyz.dubli", {count_of(dubli)});
+  const std::size_t dubli = repeated_numbers(read.punkty);
+  if (dubli != 0) print("xyz.dubli", {count_of(dubli)});
   print("xyz.zoom_hint");
+  return dubli;
 }
 
 }  // namespace vexo_xyz_impl

@@ -26,7 +26,7 @@ void mark_and_report(std::span<const host::GcDbObjectId> oidy_punktow);
 /// grouping never ends the import.
 void group_and_report(host::GcDbDatabase& db, const host::GcDbObjectIdArray& oidy, const std::string& path);
 
-/// Where the points are, which lines were skipped, how many numbers are repeated.
-void report_rest(const Decomposition& read);
+/// Where the points are, which lines were skipped, how many numbers are repeated, which is returned.
+std::size_t report_rest(const Decomposition& read);
 
 }  // namespace vexo_xyz_impl

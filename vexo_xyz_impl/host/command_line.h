@@ -4,6 +4,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -54,6 +55,23 @@ class HostLock {
 
   /// Does work that calls the host many times with the lock taken once, wherever it is called from.
   virtual void hold(const std::function<void()>& work) = 0;
+};
+
+/// Which of a file's two coordinates stands first.
+enum class AxisOrder { east_first, north_first };
+
+/// What is known of the file besides its numbers. A host that knows nothing leaves this role out.
+class Foreknowledge {
+ public:
+  virtual ~Foreknowledge() = default;
+
+  /// The order of the axes as the user said it before the command began; it counts for more than what the numbers look
+  /// like. Empty: not told.
+  virtual std::optional<AxisOrder> axis_order() = 0;
+
+  /// What speaks for a reading with that order of the axes or against it, finished lines to print under it: the
+  /// `share`, up to 1, of the points that it fits, names of columns and the like. Empty: nothing.
+  virtual std::string beside_reading(AxisOrder order, double share) = 0;
 };
 
 class CommandTable {

@@ -3,6 +3,7 @@
 
 #include "vexo_xyz_impl/host/command_line.h"
 #include "vexo_xyz_impl/host/database.h"
+#include "vexo_xyz_impl/host/import_watch.h"
 #include "vexo_xyz_impl/host/siblings.h"
 
 namespace vexo_xyz_impl::host {
@@ -12,7 +13,9 @@ struct Host {
   CommandLine& command_line;
   DatabaseServices& database;
   SiblingLoader& siblings;
-  HostLock* lock = nullptr;  ///< none: nothing guards the host
+  HostLock* lock = nullptr;                ///< none: nothing guards the host
+  Foreknowledge* foreknowledge = nullptr;  ///< none: nobody was asked beforehand
+  ImportWatch* watch = nullptr;            ///< none: nobody watches imports
 };
 
 }  // namespace vexo_xyz_impl::host

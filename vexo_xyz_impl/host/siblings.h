@@ -89,6 +89,20 @@ class Stereo70 : public SiblingModule {
   [[nodiscard]] virtual std::pair<double, double> stereo70_do_geo(double E, double N) const = 0;
 };
 
+/// A town or village near a position.
+struct NearbyPlace {
+  std::string name;
+  double distance;  ///< km
+  double bearing;   ///< from the place to the position, degrees clockwise from north
+};
+
+/// `vexo_miejsca`: towns and villages. Nothing depends on it: a host may be without it.
+class Places : public SiblingModule {
+ public:
+  /// The place of the current market nearest to a latitude and longitude in degrees; none when all are far.
+  [[nodiscard]] virtual std::optional<NearbyPlace> najblizsze_miejsce(double lat, double lon) const = 0;
+};
+
 /// Loads sibling modules by name.
 class SiblingLoader {
  public:

@@ -22,6 +22,11 @@ std::string_view Table::adopt(std::vector<char> buffer) {
   return {buffers_.back().data(), buffers_.back().size()};
 }
 
+std::string_view Table::text() const {
+  if (buffers_.empty()) return {};
+  return {buffers_.back().data(), buffers_.back().size()};
+}
+
 bool Table::shares(Cell cell) const {
   const std::less<> before;  // which knows an order of all places in memory
   return !before(cell.data(), shared_.data()) && before(cell.data(), shared_.data() + shared_.size());

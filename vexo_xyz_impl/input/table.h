@@ -31,8 +31,18 @@ class Table {
   /// Takes over the buffer of the shared strings of a workbook.
   void adopt_shared(std::vector<char> buffer) { shared_ = adopt(std::move(buffer)); }
 
+  /// That buffer; empty when there is none.
+  [[nodiscard]] std::string_view shared_text() const { return shared_; }
+
   /// Whether the cell is a shared string of a workbook: all cells that share it are views of the same bytes.
   [[nodiscard]] bool shares(Cell cell) const;
+
+  /// The buffer adopted last: the text of a text file, the XML of a worksheet; empty when there is none.
+  [[nodiscard]] std::string_view text() const;
+
+  /// The encoding that the text was decoded from, as the readers name it; empty for a workbook.
+  [[nodiscard]] std::string_view encoding() const { return encoding_; }
+  void note_encoding(std::string_view name) { encoding_ = name; }
 
   /// Keeps a copy of a text that stands in no buffer.
   std::string_view keep(std::string_view text);
@@ -73,6 +83,7 @@ class Table {
   void end_row_with_gaps();
 
   std::vector<std::vector<char>> buffers_;  // not strings: views must survive a move of the table
+  std::string_view encoding_;               // of a literal
   Groups<char> kept_;
   std::string_view shared_;  // one of the buffers
   Groups<Cell> cells_;

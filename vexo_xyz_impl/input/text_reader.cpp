@@ -87,17 +87,20 @@ void add_line(Table& wiersze, std::string_view raw) {
   wiersze.end_row();
 }
 
-std::vector<char> to_utf8(std::vector<char> bytes) {
-  if (text::is_valid({bytes.data(), bytes.size()})) return bytes;
-  if (auto decoded = cp1250_to_utf8(bytes)) return std::move(*decoded);
-  return latin1_to_utf8(bytes);
+// The bytes as UTF-8, with the name of the encoding that they were in.
+std::pair<std::vector<char>, std::string_view> to_utf8(std::vector<char> bytes) {
+  if (text::is_valid({bytes.data(), bytes.size()})) return {std::move(bytes), "utf-8-sig"};
+  if (auto decoded = cp1250_to_utf8(bytes)) return {std::move(*decoded), "cp1250"};
+  return {latin1_to_utf8(bytes), "latin-1"};
 }
 
 }  // namespace
 
 Table table_from_bytes(std::vector<char> bytes) {
   Table wiersze;
-  std::string_view text = wiersze.adopt(to_utf8(std::move(bytes)));
+  auto [utf8, encoding] = to_utf8(std::move(bytes));
+  wiersze.note_encoding(encoding);
+  std::string_view text = wiersze.adopt(std::move(utf8));
   if (text.starts_with(kByteOrderMark)) text.remove_prefix(kByteOrderMark.size());
   Lines lines(text);
   while (const auto line = lines.next()) add_line(wiersze, *line);

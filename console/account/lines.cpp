@@ -1,0 +1,88 @@
+#include "console/account/lines.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "vexo_xyz_impl/text/utf8.h"
+
+namespace console {
+namespace {
+
+using vexo_xyz_impl::Cell;
+using vexo_xyz_impl::Row;
+
+// How often `byte` stands in the text, and for which of these `counts(place)` holds.
+template <class Counts>
+std::size_t count_bytes(std::string_view text, char byte, Counts counts) {
+  std::size_t count = 0;
+  const char* const end = text.data() + text.size();
+  for (const char* at = text.data(); at != end; ++at) {
+    at = static_cast<const char*>(std::memchr(at, byte, static_cast<std::size_t>(end - at)));
+    if (at == nullptr) break;
+    count += counts(at) ? 1 : 0;
+  }
+  return count;
+}
+
+// Ends of lines among the first `size` characters; that of a CR LF is its LF.
+std::size_t line_ends(std::string_view text, std::size_t size) {
+  const char* const end = text.data() + text.size();
+  const std::string_view first = text.substr(0, size);
+  const auto is_alone = [end](const char* place) { return place + 1 == end || place[1] != '\n'; };
+  return count_bytes(first, '\n', [](const char*) { return true; }) + count_bytes(first, '\r', is_alone);
+}
+
+std::size_t line_count(std::string_view text) {
+  if (text.empty()) return 0;
+  const bool unended = text.back() != '\n' && text.back() != '\r';
+  return line_ends(text, text.size()) + (unended ? 1 : 0);
+}
+
+bool is_comment(std::string_view line) {
+  const std::string_view trimmed = vexo_xyz_impl::text::trim(line);
+  return trimmed.starts_with('#') || trimmed.starts_with("//");
+}
+
+// Of the lines that are whole in `between`, what stands between the rows on both its sides, those that are comments.
+std::size_t comments_in(std::string_view between) {
+  std::size_t comments = 0;
+  if (between.find_first_of("#/") == std::string_view::npos) return 0;
+  while (!between.empty()) {
+    const std::size_t end = std::min(between.find_first_of("\r\n"), between.size());
+    comments += is_comment(between.substr(0, end)) ? 1 : 0;
+    between.remove_prefix(std::min(end + 1, between.size()));
+  }
+  return comments;
+}
+
+}  // namespace
+
+LineCounts count_lines(std::string_view text, std::span<const Row> rows) {
+  LineCounts counts;
+  counts.lines = line_count(text);
+  if (counts.lines == rows.size()) return counts;
+  constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+  const char* after = text.data() + (text.starts_with(kByteOrderMark) ? kByteOrderMark.size() : 0);  // the row before
+  const auto count_up_to = [&](const char* place) {
+    counts.comments += comments_in({after, static_cast<std::size_t>(place - after)});
+  };
+  const char* const end = text.data() + text.size();
+  for (const Row row : rows) {
+    count_up_to(row[0].data());
+    const Cell last = row[row.size() - 1];
+    after = std::find_if(last.data() + last.size(), end, [](char c) { return c == '\n' || c == '\r'; });
+  }
+  count_up_to(end);
+  counts.blank = counts.lines - rows.size() - counts.comments;
+  return counts;
+}
+
+std::size_t LineFinder::line_of(const char* place) {
+  const auto wanted = static_cast<std::size_t>(place - text_.data());
+  if (wanted < at_) at_ = 0, line_ = 1;
+  line_ += line_ends(text_.substr(at_), wanted - at_);
+  at_ = wanted;
+  return line_;
+}
+
+}  // namespace console

@@ -1,0 +1,127 @@
+// Doubts about the height column: does it hold heights at all?
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <span>
+#include <utility>
+
+#include "console/account/account_lines.h"
+#include "console/doubts/doubts.h"
+#include "vexo_xyz_impl/messages.h"
+#include "vexo_xyz_impl/table/numbers.h"
+
+namespace console {
+namespace {
+
+using vexo_xyz_impl::filled;
+using vexo_xyz_impl::parse_number;
+using vexo_xyz_impl::PointRecord;
+using vexo_xyz_impl::Row;
+using vexo_xyz_impl::SkippedLine;
+
+constexpr double kHighest = 12000.0;  // metres, above and below: no point of the Earth's surface, no mine, no trench
+
+long long column_shown(const Evidence& evidence) {
+  return static_cast<long long>(height_column(*evidence.seen.verdict.fmt)) + 1;
+}
+
+// The header calls the column something else.
+std::optional<Doubt> named_otherwise(Evidence& evidence) {
+  const std::size_t column = height_column(*evidence.seen.verdict.fmt);
+  if (!evidence.header || evidence.header->names.size() <= column) return std::nullopt;
+  const auto& names = evidence.header->names;
+  if (names[column] == intake::Named::height || names[column] == intake::Named::nothing) return std::nullopt;
+  // A word that is not known says something only where its neighbours are.
+  const bool neighbours_known = names_a_coordinate(names[column - 2]) && names_a_coordinate(names[column - 1]);
+  if (names[column] == intake::Named::unknown && !neighbours_known) return std::nullopt;
+  const std::string_view name = evidence.header->cells[column];
+  return Doubt{"height", filled("konsola.watp_z_naglowek", {column_shown(evidence), name}), {evidence.header->line}};
+}
+
+// Rows whose coordinates are numbers, but not what was taken for their height.
+std::optional<Doubt> fails_alone(Evidence& evidence) {
+  const auto& seen = evidence.seen;
+  const std::size_t z = height_column(*seen.verdict.fmt);
+  std::vector<std::size_t> lines;
+  std::string_view example;
+  for (const SkippedLine& line : seen.read.pominiete) {
+    if (line.cells_needed != 0 || !parse_number(line.cells[z - 2]) || !parse_number(line.cells[z - 1])) continue;
+    if (lines.empty()) example = line.cells[z];
+    lines.push_back(evidence.places.line_of_row(evidence.places.row_of_data(line.row - 1)));
+  }
+  if (lines.empty()) return std::nullopt;
+  const std::string places = listed(lines);
+  return Doubt{"height",
+               filled("konsola.watp_z_nie_liczba", {static_cast<long long>(lines.size()), column_shown(evidence),
+                                                    example, std::string_view(places)}),
+               std::move(lines)};
+}
+
+struct HeightCounts {
+  std::size_t points = 0;
+  std::size_t like_x_or_y = 0;
+  std::size_t beyond_earth = 0;
+  std::size_t whole = 0;
+  bool all_equal = true;
+  bool rise_by_one = true;
+};
+
+HeightCounts counts_of(std::span<const PointRecord> punkty) {
+  HeightCounts counts;
+  counts.points = punkty.size();
+  double before = punkty.front().z - 1.0;
+  for (const PointRecord& point : punkty) {
+    counts.like_x_or_y += point.z != 0.0 && (point.z == point.x || point.z == point.y) ? 1 : 0;
+    counts.beyond_earth += std::abs(point.z) > kHighest ? 1 : 0;
+    counts.whole += point.z == std::floor(point.z) ? 1 : 0;
+    counts.all_equal &= point.z == punkty.front().z;
+    counts.rise_by_one &= point.z == before + 1.0;
+    before = point.z;
+  }
+  return counts;
+}
+
+// Whether nearly no coordinate is whole, so that whole heights beside them mean something.
+bool coordinates_have_decimals(std::span<const PointRecord> punkty) {
+  const auto whole = std::count_if(punkty.begin(), punkty.end(), [](const PointRecord& point) {
+    return point.x == std::floor(point.x) && point.y == std::floor(point.y);
+  });
+  return static_cast<std::size_t>(whole) * 5 < punkty.size();
+}
+
+// What the numbers themselves say against their being heights; the key of the text, empty when nothing.
+std::string_view unlike_heights(std::span<const PointRecord> punkty) {
+  constexpr std::size_t kFewest = 3;       // of fewer points nothing is the rule
+  constexpr std::size_t kFewestWhole = 5;  // whole numbers happen to a few
+  const HeightCounts counts = counts_of(punkty);
+  if (counts.points < kFewest) return {};
+  if (counts.like_x_or_y * 2 > counts.points) return "konsola.watp_z_jak_xy";
+  if (counts.beyond_earth * 2 > counts.points) return "konsola.watp_z_za_duze";
+  const bool all_whole = counts.whole == counts.points;
+  if (all_whole && counts.all_equal && punkty.front().z != 0.0) return "konsola.watp_z_stale";
+  if (!all_whole || counts.points < kFewestWhole || !coordinates_have_decimals(punkty)) return {};
+  if (counts.rise_by_one) return "konsola.watp_z_licznik";
+  constexpr double kMostZones = 60.0;
+  const bool few_and_small = std::all_of(
+      punkty.begin(), punkty.end(), [](const PointRecord& point) { return point.z >= 1.0 && point.z <= kMostZones; });
+  return few_and_small ? "konsola.watp_z_calkowite" : std::string_view();
+}
+
+std::optional<Doubt> numbers_unlike_heights(Evidence& evidence) {
+  const std::string_view key = unlike_heights(evidence.seen.read.punkty);
+  if (key.empty()) return std::nullopt;
+  const double example = evidence.seen.read.punkty.front().z;
+  return Doubt{"height", filled(key, {column_shown(evidence), example}), {}};
+}
+
+}  // namespace
+
+std::optional<Doubt> doubt_height(Evidence& evidence) {
+  if (!has_heights(*evidence.seen.verdict.fmt)) return std::nullopt;
+  if (evidence.seen.read.punkty.empty()) return fails_alone(evidence);
+  for (const auto doubt : {named_otherwise, fails_alone, numbers_unlike_heights})
+    if (auto found = doubt(evidence)) return found;
+  return std::nullopt;
+}
+
+}  // namespace console

@@ -1,0 +1,42 @@
+// Doubts about rows that the layout left out although they may hold points.
+#include <algorithm>
+#include <utility>
+
+#include "console/account/account_lines.h"
+#include "console/doubts/doubts.h"
+#include "vexo_xyz_impl/messages.h"
+#include "vexo_xyz_impl/table/numbers.h"
+
+namespace console {
+namespace {
+
+using vexo_xyz_impl::Row;
+
+// Two numbers are what a point has at least; a header has none, a title perhaps a year.
+bool may_be_a_point(Row row) {
+  constexpr std::size_t kCellsLookedAt = 8;
+  std::size_t numbers = 0;
+  for (std::size_t i = 0; i < std::min(row.size(), kCellsLookedAt); ++i)
+    numbers += vexo_xyz_impl::_czy_liczba(row[i]) ? 1 : 0;
+  return numbers >= 2;
+}
+
+}  // namespace
+
+std::optional<Doubt> doubt_rows_left_out(Evidence& evidence) {
+  const auto& rows = evidence.seen.loaded.rows->rows();
+  std::vector<std::size_t> lines;
+  for (const std::size_t row : evidence.places.left_out())
+    if (may_be_a_point(rows[row])) lines.push_back(evidence.places.line_of_row(row));
+  for (const auto& line : evidence.seen.read.pominiete)
+    if (line.cells_needed != 0) lines.push_back(evidence.places.line_of_row(evidence.places.row_of_data(line.row - 1)));
+  if (lines.empty()) return std::nullopt;
+  std::sort(lines.begin(), lines.end());
+  const std::string places = listed(lines);
+  return Doubt{
+      "rows_left_out",
+      vexo_xyz_impl::filled("konsola.watp_wiersze", {static_cast<long long>(lines.size()), std::string_view(places)}),
+      std::move(lines)};
+}
+
+}  // namespace console

@@ -1,0 +1,56 @@
+#include "console/prepare_arguments.h"
+
+#include <map>
+
+namespace console {
+namespace {
+
+constexpr const char* kFooter =
+    "ROLES by position, one for each column from the left: nr (number), e (easting), n (northing), x, y (coordinates\n"
+    "whose axes are not known), z (height), - (not taken): --columns nr,n,e,z. Or by the header's names or by\n"
+    "positions: --columns nr=POINT,n=NORTH,e=EAST,z=4. Without nr the points are counted.\n"
+    "What neither the file nor --columns tells is asked; answers may be piped in, and nothing is guessed.\n"
+    "\n"
+    "Exit codes:\n"
+    "  0  the file was written, and beside it OUT.csv.log, which tells which line became which row\n"
+    "  1  nothing was written: cancelled, degrees, or no points\n"
+    "  2  the command line was not understood, or --columns does not fit the file\n"
+    "  3  failure: a file that cannot be read or written";
+
+}  // namespace
+
+void declare_choice(CLI::App& app, Choice& choice) {
+  app.add_option("--market", choice.market, "Country whose coordinate systems are tried. Default: $VEXO_RYNEK, else PL")
+      ->type_name("PL|DE|RO")
+      ->transform(CLI::IsMember({"PL", "DE", "RO"}, CLI::ignore_case));
+  app.add_option("--lang", choice.language, "Language of the messages. Default: the market's")
+      ->type_name("PL|DE|RO|EN")
+      ->transform(CLI::IsMember({"PL", "DE", "RO", "EN"}, CLI::ignore_case));
+}
+
+CLI::App* declare_prepare(CLI::App& app, PrepareArguments& arguments) {
+  using intake::MissingHeight;
+  CLI::App* const prepare =
+      app.add_subcommand("prepare", "Makes any table of points a file that is imported without a question");
+  prepare->footer(kFooter);
+  PrepareOptions& options = arguments.options;
+  prepare->add_option("FILE", options.file, "Table of points: text of any separator, or .xlsx")->required();
+  prepare
+      ->add_option("-o,--output", options.output,
+                   "File to write. Default: beside FILE, with _prepared.csv, or the next free one (_2, _3 ...)")
+      ->type_name("OUT.csv");
+  prepare->add_option("--columns", options.columns, "What the columns hold; see below")->type_name("ROLES");
+  prepare->add_option("--sheet", options.sheet, "Sheet of a workbook. Default: the one that is seen first")
+      ->type_name("NAME");
+  prepare
+      ->add_option("--missing-height", options.missing_height,
+                   "What becomes of a row without a height where others have one: 'skip', the default, or 'zero'")
+      ->type_name("WHAT")
+      ->transform(CLI::CheckedTransformer(
+          std::map<std::string, MissingHeight>{{"skip", MissingHeight::skip}, {"zero", MissingHeight::zero}}));
+  prepare->add_flag("--force", options.force, "Replace the file given by -o, and its log, if they exist");
+  declare_choice(*prepare, arguments.choice);
+  return prepare;
+}
+
+}  // namespace console

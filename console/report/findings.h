@@ -1,0 +1,41 @@
+// What came of an import, as it is told and as a report holds it.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "console/account/account.h"
+#include "console/doubts/doubts.h"
+#include "vexo_xyz_impl/crs/detection.h"
+
+namespace console {
+
+/// Why a file gave no points, and the way on.
+struct Reason {
+  std::string_view code;  ///< the same in every language and version; empty for no reason
+  std::string text;
+};
+
+enum class Outcome { imported, nothing, failed };
+
+enum class Axes { keep, swap, unconfirmed };
+
+struct Findings {
+  Outcome outcome = Outcome::nothing;
+  std::string encoding;                 ///< of a text file
+  std::vector<std::string> separators;  ///< between its cells: ";", "tab", "blank"
+  Account account;
+  std::string layout;    ///< code; empty when it stayed open
+  std::string evidence;  ///< what the layout was told by
+  struct System {
+    vexo_xyz_impl::Candidate candidate;
+    std::string name;
+  };
+  std::vector<System> systems;
+  Axes axes = Axes::keep;
+  std::vector<Doubt> doubts;
+  Reason reason;
+};
+
+}  // namespace console

@@ -1,0 +1,127 @@
+#include "console/report/import_watcher.h"
+
+#include <algorithm>
+#include <cmath>
+#include <iterator>
+#include <set>
+#include <string_view>
+#include <utility>
+
+#include "console/account/account_lines.h"
+#include "console/report/reasons.h"
+#include "vexo_xyz_impl/crs/systems.h"
+#include "vexo_xyz_impl/messages.h"
+
+namespace console {
+namespace {
+
+using vexo_xyz_impl::AxesBy;
+using vexo_xyz_impl::Cell;
+using vexo_xyz_impl::ImportSeen;
+using vexo_xyz_impl::Row;
+using vexo_xyz_impl::host::CommandOutcome;
+
+// What stands between the cells of the first rows, the names of separators in the order of their codes.
+std::vector<std::string> separators_of(std::span<const Row> rows) {
+  constexpr std::size_t kSample = 1000;
+  std::set<char> found;
+  for (const Row row : rows.first(std::min(rows.size(), kSample))) {
+    std::optional<Cell> before;
+    for (const Cell cell : row) {
+      if (before) {
+        const char* const end = before->data() + before->size();
+        const std::string_view between(end, static_cast<std::size_t>(cell.data() - end));
+        const std::size_t mark = between.find_first_of(";\t");
+        found.insert(mark == std::string_view::npos ? ' ' : between[mark]);
+      }
+      before = cell;
+    }
+  }
+  std::vector<std::string> names;
+  for (const char mark : found) names.emplace_back(mark == '\t' ? "tab" : mark == ' ' ? "blank" : ";");
+  return names;
+}
+
+void note_file(Findings& findings, const ImportSeen& seen) {
+  if (seen.loaded.typ != vexo_xyz_impl::FileType::tekst || !seen.loaded.rows) return;
+  findings.encoding = seen.loaded.rows->encoding();
+  findings.separators = separators_of(seen.loaded.rows->rows());
+}
+
+Outcome outcome_of(const ImportSeen& seen) {
+  if (seen.outcome == CommandOutcome::failed) return Outcome::failed;
+  return seen.outcome == CommandOutcome::done && seen.points_taken > 0 ? Outcome::imported : Outcome::nothing;
+}
+
+Axes axes_of(const ImportSeen& seen) {
+  if (seen.axes.how == AxesBy::unconfirmed) return Axes::unconfirmed;
+  return seen.axes.swap ? Axes::swap : Axes::keep;
+}
+
+void append(std::vector<Doubt>& doubts, std::vector<Doubt> more) {
+  std::move(more.begin(), more.end(), std::back_inserter(doubts));
+}
+
+// Of an import that failed after all the points were no points: none is in a drawing.
+void take_points_back(Account& account, const ImportSeen& seen, Places& places) {
+  for (std::size_t i = 0; i < seen.read.punkty.size() && account.points > 0; ++i, --account.points)
+    account.skipped.push_back({places.line_of_point(i), Why::not_imported, std::string(seen.read.punkty[i].nr)});
+}
+
+}  // namespace
+
+void ImportWatcher::rows_taken_apart(const ImportSeen& seen) {
+  findings_ = {};
+  places_.emplace(seen);
+  note_file(findings_, seen);
+  findings_.account = account_of(seen, *places_);
+  header_ = header_of(seen, *places_);
+  named_axes_ = header_ ? named_axes(*header_, *seen.verdict.fmt) : std::nullopt;
+  if (seen.read.punkty.empty()) return;
+  Evidence evidence{seen, findings_.account, *places_, header_};
+  findings_.doubts = doubts_of_rows(evidence);
+}
+
+void ImportWatcher::ended(const ImportSeen& seen) {
+  if (!places_) {
+    findings_ = {};
+    note_file(findings_, seen);
+    findings_.account = account_without_points(seen);
+  }
+  findings_.outcome = outcome_of(seen);
+  if (places_ && findings_.outcome == Outcome::failed) take_points_back(findings_.account, seen, *places_);
+  if (seen.verdict.fmt) findings_.layout = layout_code(*seen.verdict.fmt);
+  findings_.evidence = seen.verdict.opis;
+  for (const auto& candidate : seen.axes.candidates)
+    findings_.systems.push_back({candidate, vexo_xyz_impl::_uklad_nazwa(candidate.srid)});
+  findings_.axes = axes_of(seen);
+  if (places_ && findings_.outcome == Outcome::imported) {
+    Evidence evidence{seen, findings_.account, *places_, header_};
+    append(findings_.doubts, doubts_of_import(evidence));
+    if (seen.loaded.typ == vexo_xyz_impl::FileType::xlsx) append(findings_.doubts, doubts_of_workbook(seen, *places_));
+  }
+  findings_.reason = reason_of(seen, findings_);
+  places_.reset();
+  header_.reset();
+}
+
+std::string ImportWatcher::beside_reading(vexo_xyz_impl::host::AxisOrder order, double share) const {
+  std::string lines;
+  if (share < 1.0) {
+    const auto percent = static_cast<long long>(std::floor(share * 100.0));
+    lines += vexo_xyz_impl::filled("konsola.odczyt_udzial", {percent});
+  }
+  if (named_axes_ && named_axes_->order == order) {
+    lines += vexo_xyz_impl::filled("konsola.odczyt_naglowek",
+                                   {static_cast<long long>(named_axes_->line), std::string_view(named_axes_->first),
+                                    std::string_view(named_axes_->second)});
+  }
+  return lines;
+}
+
+void print_findings(const Findings& findings) {
+  if (findings.outcome == Outcome::imported) print_account(findings.account);
+  for (const Doubt& doubt : findings.doubts) vexo_xyz_impl::print("konsola.watpliwosc", {std::string_view(doubt.text)});
+}
+
+}  // namespace console

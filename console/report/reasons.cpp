@@ -1,0 +1,174 @@
+#include "console/report/reasons.h"
+
+#include <algorithm>
+#include <array>
+#include <exception>
+#include <fstream>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "intake/dialect.h"
+#include "intake/encoding.h"
+#include "intake/file_kind.h"
+#include "intake/raster.h"
+#include "intake/workbook.h"
+#include "vexo_xyz_impl/messages.h"
+#include "vexo_xyz_impl/table/numbers.h"
+
+namespace console {
+namespace {
+
+using intake::FileKind;
+using vexo_xyz_impl::ImportSeen;
+using vexo_xyz_impl::Row;
+using vexo_xyz_impl::T;
+
+Reason named(std::string_view code) { return {code, T("konsola.powod_" + std::string(code))}; }
+
+// The beginning of a text, decoded, up to its last whole line.
+std::vector<char> beginning_of(const std::string& path) {
+  constexpr std::size_t kEnough = std::size_t{1} << 18U;
+  std::ifstream file(path, std::ios::binary);
+  std::vector<char> bytes(kEnough);
+  file.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+  bytes.resize(static_cast<std::size_t>(file.gcount()));
+  if (bytes.size() == kEnough) {
+    const auto end = std::find_if(bytes.rbegin(), bytes.rend(), [](char c) { return c == '\n' || c == '\r'; });
+    if (end != bytes.rend()) bytes.erase(end.base(), bytes.end());
+  }
+  return intake::decoded(std::move(bytes)).utf8;
+}
+
+// Whether degrees stand before minutes: 52°13'45", 52° 13' N.
+bool has_degrees_and_minutes(std::string_view line) {
+  constexpr std::array<std::string_view, 2> kSigns = {"\u00B0", "\u00BA"};
+  for (const std::string_view sign : kSigns) {
+    for (std::size_t at = line.find(sign); at != std::string_view::npos; at = line.find(sign, at + 1)) {
+      const std::size_t next = line.find_first_not_of(' ', at + sign.size());
+      const bool digit_follows = next != std::string_view::npos && line[next] >= '0' && line[next] <= '9';
+      if (at > 0 && line[at - 1] >= '0' && line[at - 1] <= '9' && digit_follows) return true;
+    }
+  }
+  return false;
+}
+
+// Whether most lines are written in degrees, minutes and seconds.
+bool is_in_minutes(std::string_view text) {
+  std::size_t lines = 0;
+  std::size_t in_minutes = 0;
+  while (!text.empty()) {
+    const std::size_t end = std::min(text.find_first_of("\r\n"), text.size());
+    const std::string_view line = text.substr(0, end);
+    lines += line.empty() ? 0 : 1;
+    in_minutes += has_degrees_and_minutes(line) ? 1 : 0;
+    text.remove_prefix(std::min(end + 1, text.size()));
+  }
+  return in_minutes * 2 > lines;
+}
+
+// The first line that has a number beside something that is none, and no third cell, where two columns prevail.
+std::optional<std::size_t> line_of_odd_row(const ImportSeen& seen) {
+  if (!seen.loaded.rows) return std::nullopt;
+  const auto& rows = seen.loaded.rows->rows();
+  const auto odd = std::find_if(rows.begin(), rows.end(), [](Row row) {
+    return row.size() == 2 && !vexo_xyz_impl::_czy_liczba(row[0]) && vexo_xyz_impl::_czy_liczba(row[1]);
+  });
+  if (odd == rows.end()) return std::nullopt;
+  return Places(seen).line_of_row(static_cast<std::size_t>(odd - rows.begin()));
+}
+
+// Whether the user was asked about the columns, and left it open.
+bool was_asked(const ImportSeen& seen) { return !seen.verdict.fmt && !seen.verdict.dane.empty(); }
+
+// The reason of a workbook of which no row was read.
+Reason reason_without_rows(const std::string& path) {
+  try {
+    intake::Workbook workbook(path);
+    const intake::Sheet* const sheet = workbook.seen_first();
+    intake::Record record;
+    const bool has_values = sheet != nullptr && workbook.records(*sheet)->next(record);
+    return named(has_values ? "cells_unreadable" : "empty");
+  } catch (const std::exception&) {
+    return named("unreadable");
+  }
+}
+
+Reason reason_of_text(const ImportSeen& seen) {
+  const std::vector<char> text = beginning_of(seen.path);
+  const std::string_view beginning(text.data(), text.size());
+  if (is_in_minutes(beginning)) return named("dms");
+  const intake::Dialect dialect = intake::dialect_of(beginning);
+  if (dialect.is_decided && dialect.separator == ',') return named("comma_separated");
+  if (dialect.is_decided && dialect.separator == '|') return named("pipe_separated");
+  if (seen.failure && seen.failure->kind == "IndexError") {
+    if (const auto line = line_of_odd_row(seen))
+      return {"mixed_separators", vexo_xyz_impl::filled("konsola.powod_linia", {static_cast<long long>(*line)})};
+  }
+  if (dialect.mixed) return named("mixed_separators");
+  if (dialect.quoted) return named("quoted");
+  return was_asked(seen) ? Reason{} : named("no_numbers");
+}
+
+// Whether what was imported is to be looked at all the same.
+bool is_suspicious(const ImportSeen& seen, const Findings& findings) {
+  constexpr std::size_t kHead = std::size_t{1} << 12U;
+  if (findings.outcome != Outcome::imported || findings.account.points * 2 < findings.account.rows) return true;
+  return seen.loaded.typ == vexo_xyz_impl::FileType::tekst &&
+         intake::is_raster(seen.loaded.rows->text().substr(0, kHead));
+}
+
+}  // namespace
+
+std::string_view kind_code(FileKind kind) {
+  switch (kind) {
+    case FileKind::ods:
+      return "ods";
+    case FileKind::xlsb:
+      return "xlsb";
+    case FileKind::encrypted:
+      return "encrypted";
+    case FileKind::old_xls:
+      return "old_xls";
+    case FileKind::zip:
+      return "zip";
+    case FileKind::dxf:
+      return "dxf";
+    case FileKind::dwg:
+      return "dwg";
+    case FileKind::pdf:
+      return "pdf";
+    case FileKind::image:
+      return "image";
+    case FileKind::utf16:
+      return "utf16";
+    case FileKind::raster:
+      return "raster";
+    case FileKind::empty:
+      return "empty";
+    case FileKind::unreadable:
+      return "unreadable";
+    case FileKind::text:
+    case FileKind::workbook:
+      break;
+  }
+  return {};
+}
+
+Reason reason_of(const ImportSeen& seen, const Findings& findings) {
+  if (!is_suspicious(seen, findings)) return {};
+  const FileKind kind = intake::file_kind(seen.path);
+  if (const std::string_view code = kind_code(kind); !code.empty()) return named(code);
+  if (kind == FileKind::text) return reason_of_text(seen);
+  if (findings.outcome == Outcome::imported) return {};
+  if (seen.loaded.rows && findings.account.rows > 0) return was_asked(seen) ? Reason{} : named("no_numbers");
+  return reason_without_rows(seen.path);
+}
+
+bool can_be_prepared(const Reason& reason) {
+  constexpr std::array<std::string_view, 7> kReadable = {"comma_separated",  "pipe_separated",   "quoted",    "utf16",
+                                                         "mixed_separators", "cells_unreadable", "no_numbers"};
+  return std::find(kReadable.begin(), kReadable.end(), reason.code) != kReadable.end();
+}
+
+}  // namespace console

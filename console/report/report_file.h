@@ -1,0 +1,13 @@
+// The report of an import as a file: JSON where its name ends with ".json", else text in the user's language.
+#pragma once
+
+#include <filesystem>
+
+#include "console/report/findings.h"
+
+namespace console {
+
+/// Writes it whole or not at all, in the place of an earlier one. Fails with std::system_error.
+void write_report(const Findings& findings, const std::filesystem::path& path);
+
+}  // namespace console

@@ -1,0 +1,176 @@
+#include "intake/cell_number.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "vexo_xyz_impl/table/numbers.h"
+#include "vexo_xyz_impl/text/utf8.h"
+
+namespace intake {
+namespace {
+
+namespace text = vexo_xyz_impl::text;
+
+constexpr std::size_t kSurelyFinite = 200;  // digits; no more than these can pass the greatest double
+constexpr std::string_view kMinus = "\xE2\x88\x92";
+
+constexpr bool is_digit(char c) { return c >= '0' && c <= '9'; }
+
+std::size_t digits_at(std::string_view cell, std::size_t at) {
+  std::size_t count = 0;
+  while (at + count < cell.size() && is_digit(cell[at + count])) ++count;
+  return count;
+}
+
+// Bytes of what may part thousands at `at`, the marks aside.
+std::size_t gap_at(std::string_view cell, std::size_t at) {
+  if (cell[at] == '\'') return 1;
+  if (cell.substr(at).starts_with("\xE2\x80\x99")) return 3;  // U+2019
+  return text::white_space_at(cell, at);
+}
+
+// Digits, a mark and an exponent at most: what nearly all cells are.
+bool is_plain(std::string_view cell) {
+  std::size_t at = !cell.empty() && (cell.front() == '-' || cell.front() == '+') ? 1 : 0;
+  bool mark = false;
+  std::size_t digits = 0;
+  for (; at < cell.size(); ++at) {
+    if (is_digit(cell[at])) {
+      ++digits;
+    } else if (cell[at] == '.' && !mark) {
+      mark = true;
+    } else {
+      return false;
+    }
+  }
+  return digits > 0 && digits < kSurelyFinite;
+}
+
+struct Spelling {
+  NumberForm form = NumberForm::none;
+  std::string plain;
+};
+
+// Whether `mark` comes again, so that it parts thousands.
+bool parts_thousands(std::string_view cell, std::size_t at) {
+  const char mark = cell[at];
+  const char other = mark == ',' ? '.' : ',';
+  return cell.find(mark, at + 1) != std::string_view::npos || cell.find(other, at + 1) != std::string_view::npos;
+}
+
+Spelling spelling_of(std::string_view cell) {
+  Spelling spelling;
+  std::size_t at = 0;
+  if (cell.starts_with(kMinus)) {
+    spelling.plain = '-';
+    at = kMinus.size();
+  } else if (!cell.empty() && (cell.front() == '-' || cell.front() == '+')) {
+    spelling.plain = cell.front();
+    at = 1;
+  }
+  std::size_t count = digits_at(cell, at);
+  spelling.plain.append(cell, at, count);
+  std::size_t all = count;
+  at += count;
+  while (count > 0 && at < cell.size()) {
+    const bool is_mark = cell[at] == ',' || cell[at] == '.';
+    const std::size_t gap = is_mark ? (parts_thousands(cell, at) ? 1 : 0) : gap_at(cell, at);
+    if (gap == 0) break;
+    if (all > 3 && all == count) return {};  // the first group has at most three
+    count = digits_at(cell, at + gap);
+    if (count != 3) return {};
+    spelling.plain.append(cell, at + gap, count);
+    at += gap + count;
+    all += count;
+  }
+  spelling.form = NumberForm::whole;
+  if (at < cell.size() && (cell[at] == '.' || cell[at] == ',')) {
+    spelling.form = cell[at] == '.' ? NumberForm::point : NumberForm::comma;
+    const std::size_t fraction = digits_at(cell, at + 1);
+    spelling.plain += '.';
+    spelling.plain.append(cell, at + 1, fraction);
+    all += fraction;
+    at += 1 + fraction;
+  }
+  if (all == 0) return {};
+  if (at < cell.size() && (cell[at] == 'e' || cell[at] == 'E')) {
+    const std::size_t sign = at + 1 < cell.size() && (cell[at + 1] == '-' || cell[at + 1] == '+') ? 1 : 0;
+    const std::size_t exponent = digits_at(cell, at + 1 + sign);
+    if (exponent == 0) return {};
+    spelling.plain.append(cell, at, 1 + sign + exponent);
+    at += 1 + sign + exponent;
+  }
+  if (at != cell.size()) return {};
+  return spelling;
+}
+
+}  // namespace
+
+NumberForm number_form(std::string_view cell) {
+  if (is_plain(cell)) return cell.find('.') == std::string_view::npos ? NumberForm::whole : NumberForm::point;
+  return spelling_of(cell).form;
+}
+
+bool append_number(std::string& out, std::string_view cell) {
+  if (is_plain(cell)) {
+    out += cell;
+    return true;
+  }
+  const Spelling spelling = spelling_of(cell);
+  if (spelling.form == NumberForm::none) return false;
+  const auto value = vexo_xyz_impl::parse_number(spelling.plain);
+  if (!value || !std::isfinite(*value)) return false;
+  out += spelling.plain;
+  return true;
+}
+
+std::size_t decimals_of(std::string_view cell) {
+  const std::size_t mark = cell.find_first_of(".,");
+  return mark == std::string_view::npos ? 0 : digits_at(cell, mark + 1);
+}
+
+bool is_sexagesimal(std::string_view cell) {
+  std::size_t numbers = 0;
+  std::size_t signs = 0;
+  bool in_number = false;
+  for (std::size_t at = 0; at < cell.size();) {
+    const auto decoded = text::decode(cell, at).value_or(text::CodePoint{0, 1});
+    const char32_t c = decoded.value;
+    at += decoded.bytes;
+    if (c < 0x80 && is_digit(static_cast<char>(c))) {
+      numbers += in_number ? 0 : 1;
+      in_number = true;
+      continue;
+    }
+    if (in_number && (c == U'.' || c == U',')) continue;
+    in_number = false;
+    constexpr std::u32string_view kSigns = U"°º'\"′″’”:";
+    constexpr std::u32string_view kBeside = U" NSEWnsew-+dms";
+    if (kSigns.find(c) != std::u32string_view::npos) {
+      ++signs;
+    } else if (kBeside.find(c) == std::u32string_view::npos) {
+      return false;
+    }
+  }
+  const bool has_degrees = cell.find("\xC2\xB0") != std::string_view::npos;
+  return numbers >= 2 && numbers <= 3 && (has_degrees || (numbers == 3 && signs >= 2));
+}
+
+std::size_t pair_break(std::string_view cell) {
+  for (std::size_t at = cell.find_first_of(",; "); at != std::string_view::npos;
+       at = cell.find_first_of(",; ", at + 1)) {
+    const auto first = number_form(text::trim(cell.substr(0, at)));
+    const auto second = number_form(text::trim(cell.substr(at + 1)));
+    const auto fits = [](NumberForm form) { return form == NumberForm::whole || form == NumberForm::point; };
+    if (fits(first) && fits(second)) return at;
+  }
+  return std::string_view::npos;
+}
+
+bool is_pair(std::string_view cell) {
+  const std::size_t at = pair_break(cell);
+  return at != std::string_view::npos && number_form(text::trim(cell.substr(0, at))) == NumberForm::point &&
+         number_form(text::trim(cell.substr(at + 1))) == NumberForm::point;
+}
+
+}  // namespace intake

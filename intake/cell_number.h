@@ -1,0 +1,33 @@
+// A cell of a foreign table as a number, and how it is spelled for the importer: its digits as they stand, a point for
+// the mark, nothing between thousands.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace intake {
+
+/// How a number is spelled. Blanks, apostrophes and the mark that is not the decimal one may part thousands, three
+/// digits each; a single comma is always the decimal mark.
+enum class NumberForm { none, whole, point, comma };
+
+[[nodiscard]] NumberForm number_form(std::string_view cell);
+
+/// Appends the number that `cell` spells as the importer reads it; false, with nothing appended, when it is none or not
+/// finite.
+[[nodiscard]] bool append_number(std::string& out, std::string_view cell);
+
+/// Digits behind the mark of a plain number.
+[[nodiscard]] std::size_t decimals_of(std::string_view cell);
+
+/// Whether the cell is an angle with signs for its degrees, minutes or seconds: 52°13'12", 52:13:12.5, N 52 13 12.
+[[nodiscard]] bool is_sexagesimal(std::string_view cell);
+
+/// Whether the cell holds two numbers, each with its point, parted by a comma, a semicolon or a blank.
+[[nodiscard]] bool is_pair(std::string_view cell);
+
+/// Where such a pair, or one of whole numbers, is parted; npos when the cell holds no two numbers.
+[[nodiscard]] std::size_t pair_break(std::string_view cell);
+
+}  // namespace intake

@@ -1,0 +1,60 @@
+#include "intake/column_content.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace intake {
+namespace {
+
+constexpr double kGreatestHeight = 9000.0;  // metres, above which only other values lie
+constexpr double kLeastLatitude = 10.0;     // degrees; below it coordinates may be local metres as well
+
+double size_of(const ColumnContent& column) { return std::max(std::abs(column.least), std::abs(column.greatest)); }
+
+bool mostly_fine(const ColumnContent& column) { return 10 * column.fine >= 8 * column.numbers; }
+
+bool is_belt_of_latitude(const ColumnContent& column) {
+  const double least = std::min(std::abs(column.least), std::abs(column.greatest));
+  return size_of(column) <= 90.0 && least >= kLeastLatitude && (column.least > 0) == (column.greatest > 0) &&
+         2.0 * (column.greatest - column.least) <= size_of(column);
+}
+
+}  // namespace
+
+bool is_within(const TableShape& shape, std::size_t column, double bound) {
+  return shape.columns[column].numbers > 0 && size_of(shape.columns[column]) <= bound;
+}
+
+bool are_degrees(const TableShape& shape, std::size_t a, std::size_t b) {
+  const ColumnContent& first = shape.columns[a];
+  const ColumnContent& second = shape.columns[b];
+  if (!is_within(shape, a, 180.0) || !is_within(shape, b, 180.0)) return false;
+  if (!mostly_fine(first) || !mostly_fine(second)) return false;
+  return is_belt_of_latitude(first) || is_belt_of_latitude(second);
+}
+
+bool may_be_degrees(const TableShape& shape, std::size_t a, std::size_t b) {
+  const bool sized = is_within(shape, a, 180.0) && is_within(shape, b, 180.0);
+  const bool has_latitude = is_within(shape, a, 90.0) || is_within(shape, b, 90.0);
+  return sized && has_latitude && !shape.columns[a].is_whole() && !shape.columns[b].is_whole();
+}
+
+bool is_numbering(const TableShape& shape, std::size_t column) {
+  const ColumnContent& numbers = shape.columns[column];
+  if (!numbers.is_numeric() || !numbers.is_whole() || column + 2 >= shape.width) return false;
+  if (10 * numbers.distinct < 9 * numbers.filled) return false;
+  const auto is_measured = [](const ColumnContent& beside) {
+    return beside.is_numeric() && 10 * beside.whole <= beside.numbers * 5;
+  };
+  return is_measured(shape.columns[column + 1]) && is_measured(shape.columns[column + 2]);
+}
+
+bool may_be_height(const TableShape& shape, std::size_t a, std::size_t b, std::size_t column) {
+  const ColumnContent& height = shape.columns[column];
+  if (!height.is_numeric() || size_of(height) > kGreatestHeight || (height.is_constant() && shape.rows > 2))
+    return false;
+  const bool coordinates_whole = shape.columns[a].is_whole() && shape.columns[b].is_whole();
+  return coordinates_whole || !height.is_whole();
+}
+
+}  // namespace intake

@@ -1,0 +1,289 @@
+#include "intake/columns.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "intake/column_content.h"
+#include "intake/header_words.h"
+
+namespace intake {
+namespace {
+
+constexpr std::size_t kMostProposals = 9;
+
+using Column = std::size_t;
+using Pair = std::pair<Column, Column>;
+
+struct Candidate {
+  Column column;
+  std::size_t unknown_words;
+};
+
+// The columns that a header names, by what it says of them.
+struct NamedColumns {
+  std::vector<Candidate> of(Named named) const {
+    std::vector<Candidate> found;
+    for (Column i = 0; i < names.size(); ++i)
+      if (names[i].named == named) found.push_back({i, names[i].unknown_words});
+    return found;
+  }
+  std::vector<HeaderName> names;
+};
+
+Roles roles_with(const TableShape& shape, std::optional<Column> number, Pair pair, bool axes_known,
+                 std::optional<Column> height) {
+  Roles roles(shape.width, Role::other);
+  if (number) roles[*number] = Role::number;
+  roles[pair.first] = axes_known ? Role::easting : Role::x;
+  roles[pair.second] = axes_known ? Role::northing : Role::y;
+  if (height) roles[*height] = Role::height;
+  return roles;
+}
+
+// ---- By names
+
+NamedColumns names_of(const TableShape& shape) {
+  NamedColumns named;
+  for (Column i = 0; i < shape.width; ++i) {
+    HeaderName name = header_name(shape.names[i]);
+    // A name of a quantity is none where the column holds none: constant zeros, texts.
+    const ColumnContent& content = shape.columns[i];
+    if (names_a_coordinate(name.named)) {
+      const bool angle = content.sexagesimal > 0;
+      const bool zeros = content.is_constant() && content.least == 0.0 && shape.rows > 1;
+      if (content.filled == 0 || (2 * content.numbers < content.filled && !angle)) name.named = Named::other_value;
+      if (zeros && name.named != Named::height) name.named = Named::other_value;
+    }
+    named.names.push_back(name);
+  }
+  // One name over both coordinates, parted by now.
+  for (Column i = 0; i + 1 < shape.width; ++i) {
+    if (named.names[i].named != Named::pair || named.names[i + 1].named != Named::nothing) continue;
+    if (!shape.columns[i].is_numeric() || !shape.columns[i + 1].is_numeric()) continue;
+    named.names[i].named = Named::x;
+    named.names[i + 1].named = Named::y;
+  }
+  return named;
+}
+
+// The k-th of one axis belongs to the k-th of the other; where one pair is named more plainly than the others, that
+// one.
+std::vector<Pair> pairs_of(const std::vector<Candidate>& first, const std::vector<Candidate>& second) {
+  std::vector<Pair> pairs;
+  if (first.size() == second.size()) {
+    for (std::size_t k = 0; k < first.size(); ++k) pairs.emplace_back(first[k].column, second[k].column);
+  } else {
+    for (const Candidate& a : first)
+      for (const Candidate& b : second) pairs.emplace_back(a.column, b.column);
+  }
+  return pairs;
+}
+
+// Of several columns of one kind those whose names say nothing else besides.
+std::vector<Candidate> plainest(std::vector<Candidate> candidates) {
+  if (candidates.empty()) return candidates;
+  const auto least = std::min_element(candidates.begin(), candidates.end(), [](const auto& a, const auto& b) {
+                       return a.unknown_words < b.unknown_words;
+                     })->unknown_words;
+  if (least == 0) std::erase_if(candidates, [](const Candidate& c) { return c.unknown_words > 0; });
+  return candidates;
+}
+
+std::optional<Column> number_by_name(const TableShape& shape, const NamedColumns& named) {
+  for (const Candidate& candidate : named.of(Named::number)) {
+    const ColumnContent& content = shape.columns[candidate.column];
+    if (10 * content.filled >= 5 * shape.rows && 2 * content.distinct >= content.filled) return candidate.column;
+  }
+  for (const Candidate& candidate : named.of(Named::counter))
+    if (shape.columns[candidate.column].filled == shape.rows) return candidate.column;
+  if (named.names.front().named == Named::nothing && shape.columns.front().filled == shape.rows) {
+    return Column{0};  // what programs put before their first named column
+  }
+  const auto numbers = named.of(Named::number);
+  return numbers.empty() ? std::nullopt : std::optional(numbers.front().column);
+}
+
+// A column right behind the coordinates that might be a height, were its name understood.
+bool hides_a_height(const TableShape& shape, const NamedColumns& named, Pair pair) {
+  const Column next = std::max(pair.first, pair.second) + 1;
+  if (next >= shape.width || named.names[next].named != Named::unknown) return false;
+  const ColumnContent& content = shape.columns[next];
+  return content.is_numeric() && !content.is_whole() && !content.is_constant();
+}
+
+Decision by_names(const TableShape& shape) {
+  const NamedColumns named = names_of(shape);
+  const auto axes = pairs_of(plainest(named.of(Named::easting)), plainest(named.of(Named::northing)));
+  const auto order = pairs_of(plainest(named.of(Named::x)), plainest(named.of(Named::y)));
+  const auto angles = pairs_of(named.of(Named::longitude), named.of(Named::latitude));
+  const auto heights = plainest(named.of(Named::height));
+  const auto number = number_by_name(shape, named);
+
+  Decision decision;
+  for (const bool axes_known : {true, false}) {
+    for (const Pair& pair : axes_known ? axes : order) {
+      if (are_degrees(shape, pair.first, pair.second)) {
+        decision.verdict = Verdict::degrees;
+        continue;
+      }
+      std::vector<std::optional<Column>> choices;
+      for (const Candidate& height : heights) choices.emplace_back(height.column);
+      if (heights.size() != 1) choices.emplace_back(std::nullopt);
+      for (const auto& height : choices) {
+        decision.proposals.push_back({roles_with(shape, number, pair, axes_known, height), Ground::names});
+      }
+    }
+  }
+  if (decision.proposals.empty()) {
+    if (!angles.empty()) {
+      const bool sexagesimal = shape.columns[angles[0].first].sexagesimal > shape.rows / 2;
+      decision.verdict = sexagesimal ? Verdict::sexagesimal : Verdict::degrees;
+    }
+    return decision;
+  }
+  const Roles& first = decision.proposals.front().roles;
+  const Pair pair = axes.empty() ? order.front() : axes.front();
+  const bool one_pair = axes.size() + order.size() == 1;
+  const bool height_told = heights.size() == 1 || (heights.empty() && !hides_a_height(shape, named, pair));
+  decision.verdict = one_pair && height_told ? Verdict::clear : Verdict::unclear;
+  if (heights.empty() && hides_a_height(shape, named, pair)) {
+    Roles with = first;
+    with[std::max(pair.first, pair.second) + 1] = Role::height;
+    decision.proposals.insert(decision.proposals.begin() + 1, {std::move(with), Ground::names});
+  }
+  return decision;
+}
+
+// ---- Below a line that names the projection: x, y, perhaps a height, the place in an image, its name, a point's name
+
+std::optional<Decision> by_projection_line(const TableShape& shape) {
+  if (shape.projection == Projection::none) return std::nullopt;
+  const Column first = shape.columns.front().is_numeric() && !is_numbering(shape, 0) ? 0 : 1;
+  Column numbers = 0;
+  while (first + numbers < shape.width && shape.columns[first + numbers].is_numeric()) ++numbers;
+  if (numbers < 2) return std::nullopt;
+  if (shape.projection == Projection::geographic || are_degrees(shape, first, first + 1)) {
+    return Decision{Verdict::degrees, {}};
+  }
+  std::optional<Column> number;
+  if (first == 1) number = 0;
+  const Column image = first + numbers;  // the file name of the image, then the point's
+  if (first == 0 && image + 1 < shape.width && !shape.columns[image].is_numeric()) number = image + 1;
+  // Three numbers have a height; four are two and the place in the image, five a height besides.
+  const bool has_height = numbers == 3 || numbers == 5;
+  Decision decision;
+  decision.verdict = numbers == 2 || has_height || numbers == 4 ? Verdict::clear : Verdict::unclear;
+  decision.proposals.push_back(
+      {roles_with(shape, number, {first, first + 1}, true, has_height ? std::optional(first + 2) : std::nullopt),
+       Ground::projection_line});
+  return decision;
+}
+
+// ---- By content alone
+
+Decision by_content(const TableShape& shape) {
+  std::vector<Column> numeric;
+  for (Column i = 0; i < shape.width; ++i)
+    if (shape.columns[i].is_numeric()) numeric.push_back(i);
+  Decision decision;
+  if (numeric.size() < 2) {
+    std::size_t sexagesimal = 0;
+    for (const ColumnContent& column : shape.columns) sexagesimal += 2 * column.sexagesimal > shape.rows ? 1 : 0;
+    if (sexagesimal >= 2) decision.verdict = Verdict::sexagesimal;
+    return decision;
+  }
+  const bool labels = numeric.front() > 0;
+  const bool numbering = !labels && numeric.size() > 2 && is_numbering(shape, 0);
+  const std::size_t skipped = numbering ? 1 : 0;
+  const auto propose = [&](bool with_number, bool with_height) {
+    const std::size_t k = labels ? 0 : (with_number ? 1 : 0);
+    if (k + 1 >= numeric.size() || (with_height && k + 2 >= numeric.size())) return;
+    std::optional<Column> number;
+    if (with_number) number = 0;
+    std::optional<Column> height;
+    if (with_height) height = numeric[k + 2];
+    const Roles roles = roles_with(shape, number, {numeric[k], numeric[k + 1]}, false, height);
+    const auto same = [&](const Proposal& made) { return made.roles == roles; };
+    if (std::any_of(decision.proposals.begin(), decision.proposals.end(), same)) return;
+    decision.proposals.push_back({roles, labels ? Ground::labels : (numbering ? Ground::numbering : Ground::order)});
+  };
+  const std::size_t behind = numeric.size() - skipped - 2;  // numbers behind the coordinates
+  const bool numbered = labels || numbering;
+  propose(numbered, behind >= 1);
+  propose(numbered, false);
+  propose(!numbered, true);
+  propose(!numbered, false);
+  const Column a = numeric[skipped];
+  const Column b = numeric[skipped + 1];
+  if (are_degrees(shape, a, b)) return {Verdict::degrees, {}};
+
+  const bool adjacent = b == a + 1 && a == (numbered ? 1U : 0U);
+  const bool same_kind = shape.columns[a].is_whole() == shape.columns[b].is_whole();
+  const bool starts_clearly = numbered || !shape.columns[a].is_whole() || numeric.size() == 2;
+  const bool unique = !labels || 2 * shape.columns.front().distinct >= shape.columns.front().filled;
+  const bool height_clear =
+      behind == 0 || (behind == 1 && numeric[skipped + 2] == b + 1 && may_be_height(shape, a, b, b + 1));
+  const bool clear = adjacent && same_kind && starts_clearly && unique && height_clear && shape.rows > 1 &&
+                     !may_be_degrees(shape, a, b);
+  decision.verdict = clear ? Verdict::clear : Verdict::unclear;
+  return decision;
+}
+
+}  // namespace
+
+Decision decide(const TableShape& shape) {
+  if (shape.rows == 0) return {};
+  Decision decision;
+  if (shape.header_line != 0) decision = by_names(shape);
+  const bool settled = !decision.proposals.empty() || decision.verdict != Verdict::no_coordinates;
+  if (!settled) {
+    if (auto by_line = by_projection_line(shape)) {
+      decision = std::move(*by_line);
+    } else {
+      decision = by_content(shape);
+      // Names that say nothing may say so in a language that is not known here.
+      if (shape.header_line != 0 && decision.verdict == Verdict::clear) decision.verdict = Verdict::unclear;
+    }
+  }
+  if (decision.proposals.size() > kMostProposals) decision.proposals.resize(kMostProposals);
+  return decision;
+}
+
+Verdict judged(const TableShape& shape, const Roles& roles) {
+  std::vector<Column> coordinates;
+  for (Column i = 0; i < std::min(roles.size(), shape.width); ++i) {
+    if (roles[i] == Role::number || roles[i] == Role::height || roles[i] == Role::other) continue;
+    coordinates.push_back(i);
+  }
+  if (coordinates.size() != 2) return Verdict::clear;
+  const auto angle = [&](Column i) {
+    const Named named = header_name(shape.names[i]).named;
+    return (named == Named::latitude || named == Named::longitude) && is_within(shape, i, 180.0);
+  };
+  const auto sexagesimal = [&](Column i) { return 2 * shape.columns[i].sexagesimal > shape.rows; };
+  if (sexagesimal(coordinates[0]) && sexagesimal(coordinates[1])) return Verdict::sexagesimal;
+  if (angle(coordinates[0]) && angle(coordinates[1])) return Verdict::degrees;
+  if (shape.projection == Projection::geographic && is_within(shape, coordinates[0], 180.0)) return Verdict::degrees;
+  return are_degrees(shape, coordinates[0], coordinates[1]) ? Verdict::degrees : Verdict::clear;
+}
+
+std::optional<std::size_t> pair_column(const TableShape& shape, const Roles* roles) {
+  const auto is_coordinate = [&](Column i) {
+    return i < roles->size() && (*roles)[i] != Role::number && (*roles)[i] != Role::height &&
+           (*roles)[i] != Role::other;
+  };
+  for (Column i = 0; i < shape.width; ++i) {
+    const ColumnContent& content = shape.columns[i];
+    if (content.filled == 0) continue;
+    const bool with_points = 10 * content.pairs >= 9 * content.filled;
+    const bool whole = 10 * content.whole_pairs >= 9 * content.filled;
+    const bool evident = with_points || (whole && header_name(shape.names[i]).named == Named::pair);
+    const bool counted_as_two = roles != nullptr && roles->size() == shape.width + 1;
+    const bool taken_as_two = roles != nullptr && is_coordinate(i) && is_coordinate(i + 1);
+    if (counted_as_two ? with_points || whole : evident && (roles == nullptr || taken_as_two)) return i;
+  }
+  return std::nullopt;
+}
+
+}  // namespace intake

@@ -1,0 +1,37 @@
+#include "intake/foreign_table.h"
+
+#include "intake/text_records.h"
+#include "vexo_xyz_impl/input/file_bytes.h"
+
+namespace intake {
+namespace {
+
+std::optional<ForeignTable> open_text(const std::string& path) {
+  auto bytes = vexo_xyz_impl::all_bytes(path);
+  if (!bytes) return std::nullopt;
+  DecodedText decoded_text = decoded(std::move(*bytes));
+  ForeignTable table;
+  table.encoding = decoded_text.encoding;
+  table.text = std::move(decoded_text.utf8);
+  const std::string_view utf8(table.text.data(), table.text.size());
+  table.dialect = dialect_of(utf8);
+  auto records = std::make_unique<TextRecords>(utf8, *table.dialect);
+  table.comments = records->leading_comments();
+  table.lines = records.get();
+  table.records = std::move(records);
+  return table;
+}
+
+}  // namespace
+
+std::optional<ForeignTable> open_table(const std::string& path, FileKind kind) {
+  switch (kind) {
+    case FileKind::text:
+    case FileKind::utf16:
+      return open_text(path);
+    default:
+      return std::nullopt;
+  }
+}
+
+}  // namespace intake

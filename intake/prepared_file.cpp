@@ -1,0 +1,224 @@
+#include "intake/prepared_file.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <optional>
+
+#include "intake/cell_number.h"
+#include "vexo_xyz_impl/table/numbers.h"
+#include "vexo_xyz_impl/text/utf8.h"
+
+namespace intake {
+namespace {
+
+namespace text = vexo_xyz_impl::text;
+
+constexpr std::size_t kPiece = std::size_t{1} << 20U;  // bytes written at once
+constexpr std::size_t kShownCharacters = 120;          // of a noted row
+
+constexpr std::size_t kNowhere = static_cast<std::size_t>(-1);
+
+struct Places {
+  std::size_t number;
+  std::array<std::size_t, 2> coordinates;
+  std::size_t height;
+  std::size_t needed;  // cells that hold both coordinates
+};
+
+std::size_t place_of(const Roles& roles, Role role) {
+  const auto found = std::find(roles.begin(), roles.end(), role);
+  return found == roles.end() ? kNowhere : static_cast<std::size_t>(found - roles.begin());
+}
+
+bool has(const Roles& roles, Role role) { return place_of(roles, role) != kNowhere; }
+
+Places places_of(const Roles& roles) {
+  const bool known = has(roles, Role::easting);
+  Places places{place_of(roles, Role::number),
+                {place_of(roles, known ? Role::easting : Role::x), place_of(roles, known ? Role::northing : Role::y)},
+                place_of(roles, Role::height),
+                0};
+  places.needed = std::max(places.coordinates[0], places.coordinates[1]) + 1;
+  return places;
+}
+
+std::string shown(const Record& record) {
+  std::string all;
+  for (const std::string_view cell : record.cells) {
+    if (!all.empty()) all += " | ";
+    all += cell;
+    if (all.size() > 4 * kShownCharacters) break;
+  }
+  const std::string_view beginning = text::first_characters(all, kShownCharacters);
+  return beginning.size() < all.size() ? std::string(beginning) + " ..." : all;
+}
+
+// What the importer's reader would take for a separator, a line's end or a comment's sign.
+bool needs_change(std::string_view number) {
+  const bool is_comment = number.starts_with('#') || number.starts_with("//");
+  return is_comment || std::any_of(number.begin(), number.end(),
+                                   [](char c) { return c == ';' || (static_cast<unsigned char>(c) < 0x20); });
+}
+
+std::string changed(std::string_view number) {
+  while (number.starts_with('#') || number.starts_with("//")) {
+    number.remove_prefix(number.starts_with('#') ? 1 : 2);
+    number = text::trim(number);
+  }
+  std::string kept(number);
+  for (char& c : kept) {
+    if (c == ';') c = ',';
+    if (static_cast<unsigned char>(c) < 0x20) c = ' ';
+  }
+  return std::string(text::trim(kept));
+}
+
+bool is_infinite_or_nan(std::string_view cell) {
+  const auto value = vexo_xyz_impl::parse_number(cell);
+  return value && !std::isfinite(*value);
+}
+
+class Writer {
+ public:
+  Writer(const PreparedForm& form, const std::function<void(std::string_view)>& write)
+      : form_(form), places_(places_of(form.roles)), write_(write) {
+    piece_.reserve(kPiece + kPiece / 4);
+    piece_ = columns_line(form.roles);
+  }
+
+  void add(const Record& record) {
+    ++account_.records;
+    const std::size_t before = piece_.size();
+    row_note_.reset();
+    if (const auto reason = append_row(record)) {
+      piece_.resize(before);
+      if (record.line < form_.first_data_line) {
+        account_.head.push_back({record.line, *reason, shown(record)});
+      } else {
+        note(record, *reason);
+        ++account_.left_out;
+      }
+      return;
+    }
+    ++account_.points;
+    if (row_note_) note(record, *row_note_);
+    extend_runs(record.line);
+    if (piece_.size() >= kPiece) flush();
+  }
+
+  PreparedAccount finish() {
+    flush();
+    return std::move(account_);
+  }
+
+ private:
+  void flush() {
+    write_(piece_);
+    piece_.clear();
+  }
+
+  void note(const Record& record, RowNote reason) { account_.noted.push_back({record.line, reason, shown(record)}); }
+
+  // The reason why the record gives no row.
+  std::optional<RowNote> append_row(const Record& record) {
+    const auto& cells = record.cells;
+    const std::size_t filled = record.cells.size();
+    if (record.line == form_.header_line) return RowNote::no_coordinate;
+    if (filled < places_.needed || filled < form_.least_cells) return RowNote::too_few_cells;
+    append_point_number(record);
+    for (const std::size_t place : places_.coordinates) {
+      piece_ += ';';
+      if (append_number(piece_, cells[place])) continue;
+      if (cells[place].empty()) return RowNote::too_few_cells;
+      return is_infinite_or_nan(cells[place]) ? RowNote::not_finite : RowNote::no_coordinate;
+    }
+    if (places_.height != kNowhere) {
+      piece_ += ';';
+      if (places_.height >= filled || !append_number(piece_, cells[places_.height])) {
+        if (form_.missing_height == MissingHeight::skip) return RowNote::no_height;
+        piece_ += '0';
+        row_note_ = RowNote::height_set_to_zero;
+      }
+    }
+    piece_ += '\n';
+    return std::nullopt;
+  }
+
+  void append_point_number(const Record& record) {
+    if (places_.number == kNowhere) return append_count(account_.points + 1);
+    const std::string_view number =
+        places_.number < record.cells.size() ? record.cells[places_.number] : std::string_view();
+    if (!number.empty() && !needs_change(number)) {
+      piece_ += number;
+      return;
+    }
+    const std::string kept = changed(number);
+    row_note_ = kept.empty() ? RowNote::number_made : RowNote::number_changed;
+    if (kept.empty()) {
+      piece_ += 'L';
+      append_count(record.line);
+    } else {
+      piece_ += kept;
+    }
+  }
+
+  void append_count(std::size_t count) {
+    std::array<char, 20> digits{};
+    piece_.append(digits.data(), std::to_chars(digits.data(), digits.data() + digits.size(), count).ptr);
+  }
+
+  void extend_runs(std::size_t line) {
+    if (!account_.runs.empty()) {
+      LineRun& run = account_.runs.back();
+      const std::size_t distance = line - last_line_;
+      if (run.rows == 1) run.distance = distance;
+      if (run.distance == distance && distance <= kMostDistance) {
+        ++run.rows;
+        last_line_ = line;
+        return;
+      }
+      if (run.rows == 1) run.distance = 0;
+    }
+    account_.runs.push_back({line, 0, account_.points, 1});
+    last_line_ = line;
+  }
+
+  static constexpr std::size_t kMostDistance = 2;  // a blank line after each row; more is a gap
+
+  const PreparedForm& form_;
+  Places places_;
+  const std::function<void(std::string_view)>& write_;
+  std::string piece_;
+  std::optional<RowNote> row_note_;
+  std::size_t last_line_ = 0;
+  PreparedAccount account_;
+};
+
+}  // namespace
+
+bool name_coordinates(const Roles& roles) {
+  const bool axes = has(roles, Role::easting) && has(roles, Role::northing);
+  const bool order = has(roles, Role::x) && has(roles, Role::y);
+  const bool any_axis = has(roles, Role::easting) || has(roles, Role::northing);
+  const bool any_order = has(roles, Role::x) || has(roles, Role::y);
+  return (axes && !any_order) || (order && !any_axis);
+}
+
+std::string columns_line(const Roles& roles) {
+  std::string line = "# columns: number;";
+  line += has(roles, Role::easting) ? "E;N" : "X;Y";
+  if (has(roles, Role::height)) line += ";Z";
+  return line + '\n';
+}
+
+PreparedAccount write_prepared(Records& records, const PreparedForm& form,
+                               const std::function<void(std::string_view)>& write) {
+  Writer writer(form, write);
+  records.rewind();
+  for (Record record; records.next(record);) writer.add(record);
+  return writer.finish();
+}
+
+}  // namespace intake

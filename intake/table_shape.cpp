@@ -1,0 +1,245 @@
+#include "intake/table_shape.h"
+
+#include <algorithm>
+#include <map>
+#include <optional>
+#include <unordered_set>
+
+#include "intake/cell_number.h"
+#include "intake/header_words.h"
+#include "vexo_xyz_impl/table/numbers.h"
+#include "vexo_xyz_impl/text/ascii.h"
+#include "vexo_xyz_impl/text/utf8.h"
+
+namespace intake {
+namespace {
+
+namespace text = vexo_xyz_impl::text;
+
+constexpr std::size_t kSample = 2000;  // records
+constexpr std::size_t kPreview = 3;
+constexpr std::size_t kFine = 4;
+constexpr std::size_t kFinest = 6;
+
+struct Kept {
+  std::size_t line;
+  std::vector<std::string> cells;
+};
+
+using Sample = std::vector<Kept>;
+
+Sample sample_of(Records& records) {
+  Sample sample;
+  records.rewind();
+  Record record;
+  while (sample.size() < kSample && records.next(record)) {
+    sample.push_back({record.line, {record.cells.begin(), record.cells.end()}});
+  }
+  return sample;
+}
+
+bool is_number(std::string_view cell) { return number_form(cell) != NumberForm::none; }
+
+// Whether a cell is a value: a number, an angle or a pair of numbers, not a word.
+bool is_value(std::string_view cell) { return is_number(cell) || is_sexagesimal(cell) || is_pair(cell); }
+
+std::size_t values_in(const Kept& row) {
+  std::size_t count = 0;
+  for (const std::string& cell : row.cells) {
+    if (is_number(cell) || is_sexagesimal(cell)) ++count;
+    if (pair_break(cell) != std::string_view::npos) count += 2;
+  }
+  return count;
+}
+
+std::size_t width_of(const Kept& row) {
+  std::size_t width = row.cells.size();
+  while (width > 0 && row.cells[width - 1].empty()) --width;
+  return width;
+}
+
+// The commonest width of the rows with values, the greater of equals.
+std::size_t commonest_width(const Sample& sample) {
+  std::map<std::size_t, std::size_t> widths;
+  for (const Kept& row : sample)
+    if (values_in(row) >= 2) ++widths[row.cells.size()];
+  std::size_t width = 0;
+  std::size_t most = 0;
+  for (const auto& [cells, count] : widths)
+    if (count >= most) width = cells, most = count;
+  return width;
+}
+
+// For each column whether most rows have a value there.
+std::vector<bool> value_columns(const Sample& sample, std::size_t width) {
+  std::vector<std::size_t> values(width);
+  std::size_t rows = 0;
+  for (const Kept& row : sample) {
+    if (values_in(row) < 2 || row.cells.size() < 2) continue;
+    ++rows;
+    for (std::size_t i = 0; i < std::min(width, row.cells.size()); ++i) values[i] += is_value(row.cells[i]) ? 1 : 0;
+  }
+  std::vector<bool> columns(width);
+  for (std::size_t i = 0; i < width; ++i) columns[i] = 2 * values[i] > rows;
+  return columns;
+}
+
+// Numbers where the other rows have them; a title that holds a year and a count is none.
+bool looks_like_row(const Kept& row, const std::vector<bool>& columns) {
+  if (values_in(row) < 2) return false;
+  std::size_t due = 0;
+  std::size_t there = 0;
+  for (std::size_t i = 0; i < columns.size(); ++i) {
+    if (!columns[i]) continue;
+    ++due;
+    there += i < row.cells.size() && is_value(row.cells[i]) ? 1 : 0;
+  }
+  return due == 0 || 2 * there >= due;
+}
+
+std::string joined(const Kept& row) {
+  std::string all;
+  for (const std::string& cell : row.cells) all += (all.empty() ? "" : " ") + cell;
+  return all;
+}
+
+// A title, the number of columns, their names a line each, then the data.
+bool take_names_by_line(TableShape& shape, const Sample& head) {
+  for (std::size_t i = 0; i + 1 < head.size() && i < 3; ++i) {
+    const std::string& count = head[i].cells.front();
+    const auto columns = vexo_xyz_impl::parse_number(count);
+    if (!columns || number_form(count) != NumberForm::whole || *columns < 2) continue;
+    if (static_cast<double>(head.size() - i - 1) != *columns) continue;
+    shape.names_by_line = true;
+    for (std::size_t k = i + 1; k < head.size(); ++k) shape.names.push_back(joined(head[k]));
+    shape.header_line = head.back().line;
+    return true;
+  }
+  return false;
+}
+
+bool is_header_of(const std::vector<std::string>& cells) {
+  const std::vector<std::string_view> views(cells.begin(), cells.end());
+  return is_header(views);
+}
+
+// The header nearest to the data: a line of known names, else a line of words as wide as the rows right above them.
+void take_header(TableShape& shape, const Sample& head) {
+  for (auto row = head.rbegin(); row != head.rend(); ++row) {
+    if (!is_header_of(row->cells)) continue;
+    shape.header_line = row->line;
+    shape.names = row->cells;
+    return;
+  }
+  for (auto row = head.rbegin(); row != head.rend(); ++row) {
+    const bool are_units = std::all_of(row->cells.begin(), row->cells.end(),
+                                       [](const std::string& cell) { return cell.empty() || is_unit(cell); });
+    if (are_units) continue;
+    const bool are_words = std::none_of(row->cells.begin(), row->cells.end(), is_value);
+    if (row->cells.size() == shape.width && are_words && shape.width > 2) {
+      shape.header_line = row->line;
+      shape.names = row->cells;
+    }
+    return;
+  }
+}
+
+void take_commented_header(TableShape& shape, const std::vector<std::pair<std::size_t, std::string_view>>& comments) {
+  for (auto comment = comments.rbegin(); comment != comments.rend(); ++comment) {
+    for (const std::string_view separators : {"\t", ";", ",", "|", " \t"}) {
+      std::vector<std::string> cells;
+      std::string_view rest = comment->second;
+      while (!rest.empty()) {
+        const std::size_t end = std::min(rest.find_first_of(separators), rest.size());
+        const std::string_view cell = text::trim(rest.substr(0, end));
+        if (!cell.empty() || separators.size() == 1) cells.emplace_back(cell);
+        rest.remove_prefix(std::min(end + 1, rest.size()));
+      }
+      if (cells.size() + 1 < shape.width || cells.size() > shape.width + 1 || !is_header_of(cells)) continue;
+      shape.header_line = comment->first;
+      shape.names = std::move(cells);
+      return;
+    }
+  }
+}
+
+// What a line says of a coordinate system, by the words that such lines are made of.
+Projection projection_in(std::string_view line) {
+  std::string lower;
+  for (const char c : line) lower += text::ascii_lower(c);
+  const auto has = [&](std::string_view word) { return lower.find(word) != std::string::npos; };
+  if (has("epsg:4326") || has("epsg:4258") || has("epsg:4979") || has("+proj=longlat") || has("+proj=latlong") ||
+      lower == "wgs84" || lower == "wgs 84") {
+    return Projection::geographic;
+  }
+  const bool projected = has("epsg:") || has("+proj=") || (has("wgs84") && has("utm")) || has("projcs[");
+  return projected ? Projection::projected : Projection::none;
+}
+
+std::size_t long_numbers(std::string_view pair) {
+  const std::size_t at = pair_break(pair);
+  if (at == std::string_view::npos) return 0;
+  return at >= 4 && pair.size() - at > 4 ? 1 : 0;
+}
+
+void see_content(TableShape& shape, const Sample& sample, const std::vector<bool>& columns) {
+  shape.columns.resize(shape.width);
+  std::vector<std::unordered_set<std::string_view>> distinct(shape.width);
+  std::vector<double> before(shape.width);
+  for (const Kept& row : sample) {
+    if (row.line < shape.first_data_line || !looks_like_row(row, columns)) continue;
+    ++shape.rows;
+    if (shape.preview.size() < kPreview) shape.preview.push_back(row.cells);
+    for (std::size_t i = 0; i < std::min(shape.width, row.cells.size()); ++i) {
+      const std::string& cell = row.cells[i];
+      if (cell.empty()) continue;
+      ColumnContent& column = shape.columns[i];
+      ++column.filled;
+      distinct[i].insert(cell);
+      column.sexagesimal += is_sexagesimal(cell) ? 1 : 0;
+      column.pairs += is_pair(cell) ? 1 : 0;
+      column.whole_pairs += long_numbers(cell);
+      std::string plain;
+      if (!append_number(plain, cell)) continue;
+      const double value = vexo_xyz_impl::_num(plain);
+      column.rising += column.numbers > 0 && value > before[i] ? 1 : 0;
+      column.least = column.numbers == 0 ? value : std::min(column.least, value);
+      column.greatest = column.numbers == 0 ? value : std::max(column.greatest, value);
+      ++column.numbers;
+      column.whole += number_form(cell) == NumberForm::whole ? 1 : 0;
+      column.fine += decimals_of(cell) >= kFine ? 1 : 0;
+      column.finest += decimals_of(cell) >= kFinest ? 1 : 0;
+      before[i] = value;
+    }
+  }
+  for (std::size_t i = 0; i < shape.width; ++i) shape.columns[i].distinct = distinct[i].size();
+}
+
+}  // namespace
+
+TableShape shape_of(Records& records, const std::vector<std::pair<std::size_t, std::string_view>>& comments) {
+  const Sample sample = sample_of(records);
+  TableShape shape;
+  shape.width = commonest_width(sample);
+  const std::vector<bool> columns = value_columns(sample, shape.width);
+  const auto first = std::find_if(sample.begin(), sample.end(), [&](const Kept& row) {
+    return !is_header_of(row.cells) && looks_like_row(row, columns) && 2 * width_of(row) > shape.width;
+  });
+  const Sample head(sample.begin(), first);
+  for (const Kept& row : head) {
+    if (const Projection said = projection_in(joined(row)); said != Projection::none) shape.projection = said;
+  }
+  for (const auto& [line, said] : comments) {
+    if (const Projection here = projection_in(said); here != Projection::none) shape.projection = here;
+  }
+  if (first == sample.end()) return shape;
+  shape.first_data_line = first->line;
+  if (!take_names_by_line(shape, head)) take_header(shape, head);
+  if (shape.header_line == 0) take_commented_header(shape, comments);
+  shape.width = std::max(shape.width, std::min(shape.names.size(), shape.width + 1));
+  see_content(shape, sample, columns);
+  shape.names.resize(shape.width);
+  return shape;
+}
+
+}  // namespace intake

@@ -1,0 +1,30 @@
+// What an import has come by so far, as the command keeps it and as a host may watch it.
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+
+#include "vexo_xyz_impl/command/axes.h"
+#include "vexo_xyz_impl/failure.h"
+#include "vexo_xyz_impl/host/command_line.h"
+#include "vexo_xyz_impl/input/loading.h"
+#include "vexo_xyz_impl/table/layout.h"
+#include "vexo_xyz_impl/table/points.h"
+
+namespace vexo_xyz_impl {
+
+struct ImportSeen {
+  std::string path;
+  LoadResult loaded;      ///< its rows are forgotten once they are taken apart; the texts of their cells stay
+  LayoutVerdict verdict;  ///< its data rows likewise; without a layout when it stayed open
+  Decomposition read;     ///< points in the file's order, axes exchanged when they were
+  SettledAxes axes;
+  std::size_t dubli = 0;         ///< points less distinct numbers
+  std::size_t placed = 0;        ///< points tried on the drawing
+  std::size_t points_taken = 0;  ///< of them, those that the drawing took
+  host::CommandOutcome outcome = host::CommandOutcome::failed;
+  std::optional<FailureNote> failure;  ///< what ended it early
+};
+
+}  // namespace vexo_xyz_impl
