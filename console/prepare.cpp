@@ -12,6 +12,7 @@
 #include "console/files.h"
 #include "console/prepare_log.h"
 #include "console/report/reasons.h"
+#include "intake/column_content.h"
 #include "intake/columns.h"
 #include "intake/foreign_table.h"
 #include "intake/pair_records.h"
@@ -240,13 +241,8 @@ class Preparation {
     form.missing_height = options_.missing_height;
     form.header_line = shape_.header_line;
     form.first_data_line = shape_.first_data_line;
-    // Between blanks a value that is missing moves those behind it; only where the next is no number does it show.
-    const bool is_blank_separated = table_->dialect && table_->dialect->separator == ' ';
-    const auto last = std::find_if(roles.rbegin(), roles.rend(), [](Role role) { return role != Role::other; });
-    const auto behind = static_cast<std::size_t>(roles.rend() - last);
-    if (is_blank_separated && table_->dialect->places.empty() && behind < shape_.width &&
-        shape_.columns[behind].is_numeric()) {
-      form.least_cells = shape_.width;
+    if (table_->dialect && table_->dialect->separator == ' ' && table_->dialect->places.empty()) {
+      for (const intake::ColumnContent& column : shape_.columns) form.kinds.push_back(intake::kind_of(column));
     }
     return form;
   }
