@@ -41,6 +41,9 @@ class Session final : private vexo_xyz_impl::host::CommandTable, private vexo_xy
   void command(std::string_view local_name, std::string_view global_name, std::string_view group_name,
                vexo_xyz_impl::host::CommandFunction function) override;
   std::optional<vexo_xyz_impl::host::AxisOrder> axis_order() override { return options_.axes; }
+  std::string beside_reading(vexo_xyz_impl::host::AxisOrder order, double share) override {
+    return watcher_.beside_reading(order, share);
+  }
   [[nodiscard]] bool output_is_refused();
   [[nodiscard]] bool report_is_refused();
   void warn_of_unknown_market();

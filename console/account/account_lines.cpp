@@ -42,8 +42,11 @@ std::string reason_of(Why why) {
 
 std::string listed(std::span<const std::size_t> lines) {
   std::string text;
-  for (const std::size_t line : lines.first(std::min(lines.size(), kLinesListed)))
-    text += (text.empty() ? "" : ", ") + std::to_string(line);
+  const auto shown = lines.first(std::min(lines.size(), kLinesListed));
+  for (std::size_t i = 0; i < shown.size(); ++i) {
+    if (i > 0) text += i + 1 == lines.size() ? vexo_xyz_impl::T("konsola.i") : ", ";
+    text += std::to_string(shown[i]);
+  }
   return lines.size() > kLinesListed ? text + " …" : text;
 }
 
@@ -56,8 +59,12 @@ void print_account(const Account& account) {
     if (lines.empty()) continue;
     const std::string reason = reason_of(why);
     const std::string places = listed(lines);
-    vexo_xyz_impl::print("konsola.bez_punktu",
-                         {count_of(lines.size()), std::string_view(reason), std::string_view(places)});
+    if (lines.size() == 1) {
+      vexo_xyz_impl::print("konsola.bez_punktu_jeden", {std::string_view(reason), std::string_view(places)});
+    } else {
+      vexo_xyz_impl::print("konsola.bez_punktu",
+                           {count_of(lines.size()), std::string_view(reason), std::string_view(places)});
+    }
   }
   for (const RowWithoutPoint* row : std::span(rows).first(std::min(rows.size(), kRowsShown))) {
     vexo_xyz_impl::print("konsola.bez_punktu_wiersz", {count_of(row->line), std::string_view(row->text)});

@@ -1,6 +1,7 @@
 #include "console/account/lines.h"
 
 #include <algorithm>
+#include <cstring>
 
 #include "vexo_xyz_impl/text/utf8.h"
 
@@ -10,17 +11,25 @@ namespace {
 using vexo_xyz_impl::Cell;
 using vexo_xyz_impl::Row;
 
+// How often `byte` stands in the text, and for which of these `counts(place)` holds.
+template <class Counts>
+std::size_t count_bytes(std::string_view text, char byte, Counts counts) {
+  std::size_t count = 0;
+  const char* const end = text.data() + text.size();
+  for (const char* at = text.data(); at != end; ++at) {
+    at = static_cast<const char*>(std::memchr(at, byte, static_cast<std::size_t>(end - at)));
+    if (at == nullptr) break;
+    count += counts(at) ? 1 : 0;
+  }
+  return count;
+}
+
 // Ends of lines among the first `size` characters; that of a CR LF is its LF.
 std::size_t line_ends(std::string_view text, std::size_t size) {
-  std::size_t ends = 0;
-  const std::size_t with_next = std::min(size, text.empty() ? 0 : text.size() - 1);
-  for (std::size_t i = 0; i < with_next; ++i) {
-    const bool feed = text[i] == '\n';
-    const bool lone_return = (text[i] == '\r') & (text[i + 1] != '\n');
-    ends += static_cast<std::size_t>(feed | lone_return);
-  }
-  if (size > with_next) ends += static_cast<std::size_t>(text[with_next] == '\n' || text[with_next] == '\r');
-  return ends;
+  const char* const end = text.data() + text.size();
+  const std::string_view first = text.substr(0, size);
+  const auto is_alone = [end](const char* place) { return place + 1 == end || place[1] != '\n'; };
+  return count_bytes(first, '\n', [](const char*) { return true; }) + count_bytes(first, '\r', is_alone);
 }
 
 std::size_t line_count(std::string_view text) {
@@ -37,6 +46,7 @@ bool is_comment(std::string_view line) {
 // Of the lines that are whole in `between`, what stands between the rows on both its sides, those that are comments.
 std::size_t comments_in(std::string_view between) {
   std::size_t comments = 0;
+  if (between.find_first_of("#/") == std::string_view::npos) return 0;
   while (!between.empty()) {
     const std::size_t end = std::min(between.find_first_of("\r\n"), between.size());
     comments += is_comment(between.substr(0, end)) ? 1 : 0;

@@ -29,6 +29,14 @@ struct Header {
   std::vector<intake::Named> names;
 };
 
+/// The order of the axes that the names of the two coordinates say.
+struct NamedAxes {
+  vexo_xyz_impl::host::AxisOrder order;
+  std::size_t line;  ///< of the header
+  std::string first;
+  std::string second;
+};
+
 /// What doubts are drawn from.
 struct Evidence {
   const vexo_xyz_impl::ImportSeen& seen;
@@ -42,11 +50,17 @@ using DoubtFunction = std::optional<Doubt> (*)(Evidence&);
 /// The header among the rows left out; none when no row is one.
 [[nodiscard]] std::optional<Header> header_of(const vexo_xyz_impl::ImportSeen& seen, Places& places);
 
+/// None when the names do not say which coordinate is the northing.
+[[nodiscard]] std::optional<NamedAxes> named_axes(const Header& header, vexo_xyz_impl::Layout fmt);
+
 /// Doubts about rows and columns, for when the table still has its rows.
 [[nodiscard]] std::vector<Doubt> doubts_of_rows(Evidence& evidence);
 
 /// Doubts about the whole import, for when it has ended.
 [[nodiscard]] std::vector<Doubt> doubts_of_import(Evidence& evidence);
+
+/// Doubts about a workbook that points were read from.
+[[nodiscard]] std::vector<Doubt> doubts_of_workbook(const vexo_xyz_impl::ImportSeen& seen, Places& places);
 
 /// Columns of the layout, 0 for the first of the file.
 [[nodiscard]] inline std::size_t x_column(vexo_xyz_impl::Layout fmt) { return has_number(fmt) ? 1 : 0; }

@@ -47,6 +47,16 @@ std::optional<bool> names_north_first(Named first, Named second) {
 
 }  // namespace
 
+std::optional<NamedAxes> named_axes(const Header& header, vexo_xyz_impl::Layout fmt) {
+  using vexo_xyz_impl::host::AxisOrder;
+  const std::size_t x = x_column(fmt);
+  if (header.names.size() < x + 2) return std::nullopt;
+  const auto north_first = names_north_first(header.names[x], header.names[x + 1]);
+  if (!north_first) return std::nullopt;
+  return NamedAxes{*north_first ? AxisOrder::north_first : AxisOrder::east_first, header.line,
+                   std::string(header.cells[x]), std::string(header.cells[x + 1])};
+}
+
 std::optional<Doubt> doubt_header_columns(Evidence& evidence) {
   if (!evidence.header) return std::nullopt;
   const auto column = contradicted_column(*evidence.header, *evidence.seen.verdict.fmt);

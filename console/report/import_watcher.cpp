@@ -1,6 +1,7 @@
 #include "console/report/import_watcher.h"
 
 #include <algorithm>
+#include <cmath>
 #include <iterator>
 #include <set>
 #include <string_view>
@@ -57,6 +58,10 @@ Axes axes_of(const ImportSeen& seen) {
   return seen.axes.swap ? Axes::swap : Axes::keep;
 }
 
+void append(std::vector<Doubt>& doubts, std::vector<Doubt> more) {
+  std::move(more.begin(), more.end(), std::back_inserter(doubts));
+}
+
 // Of an import that failed after all the points were no points: none is in a drawing.
 void take_points_back(Account& account, const ImportSeen& seen, Places& places) {
   for (std::size_t i = 0; i < seen.read.punkty.size() && account.points > 0; ++i, --account.points)
@@ -71,6 +76,7 @@ void ImportWatcher::rows_taken_apart(const ImportSeen& seen) {
   note_file(findings_, seen);
   findings_.account = account_of(seen, *places_);
   header_ = header_of(seen, *places_);
+  named_axes_ = header_ ? named_axes(*header_, *seen.verdict.fmt) : std::nullopt;
   if (seen.read.punkty.empty()) return;
   Evidence evidence{seen, findings_.account, *places_, header_};
   findings_.doubts = doubts_of_rows(evidence);
@@ -91,12 +97,26 @@ void ImportWatcher::ended(const ImportSeen& seen) {
   findings_.axes = axes_of(seen);
   if (places_ && findings_.outcome == Outcome::imported) {
     Evidence evidence{seen, findings_.account, *places_, header_};
-    auto doubts = doubts_of_import(evidence);
-    std::move(doubts.begin(), doubts.end(), std::back_inserter(findings_.doubts));
+    append(findings_.doubts, doubts_of_import(evidence));
+    if (seen.loaded.typ == vexo_xyz_impl::FileType::xlsx) append(findings_.doubts, doubts_of_workbook(seen, *places_));
   }
   findings_.reason = reason_of(seen, findings_);
   places_.reset();
   header_.reset();
+}
+
+std::string ImportWatcher::beside_reading(vexo_xyz_impl::host::AxisOrder order, double share) const {
+  std::string lines;
+  if (share < 1.0) {
+    const auto percent = static_cast<long long>(std::floor(share * 100.0));
+    lines += vexo_xyz_impl::filled("konsola.odczyt_udzial", {percent});
+  }
+  if (named_axes_ && named_axes_->order == order) {
+    lines += vexo_xyz_impl::filled("konsola.odczyt_naglowek",
+                                   {static_cast<long long>(named_axes_->line), std::string_view(named_axes_->first),
+                                    std::string_view(named_axes_->second)});
+  }
+  return lines;
 }
 
 void print_findings(const Findings& findings) {

@@ -1,10 +1,13 @@
 // Watches an import and comes to what is to be told of it: the account, the doubts, what the report holds.
 #pragma once
 
+#include <cstddef>
 #include <optional>
+#include <string>
 
 #include "console/doubts/doubts.h"
 #include "console/report/findings.h"
+#include "vexo_xyz_impl/host/command_line.h"
 #include "vexo_xyz_impl/host/import_watch.h"
 
 namespace console {
@@ -14,6 +17,9 @@ class ImportWatcher final : public vexo_xyz_impl::host::ImportWatch {
   void rows_taken_apart(const vexo_xyz_impl::ImportSeen& seen) override;
   void ended(const vexo_xyz_impl::ImportSeen& seen) override;
 
+  /// What the file says for or against a reading of its axes, for when its rows were taken apart: lines for the user.
+  [[nodiscard]] std::string beside_reading(vexo_xyz_impl::host::AxisOrder order, double share) const;
+
   /// What came of the import that ended last.
   [[nodiscard]] const Findings& findings() const { return findings_; }
 
@@ -21,6 +27,7 @@ class ImportWatcher final : public vexo_xyz_impl::host::ImportWatch {
   Findings findings_;
   std::optional<Places> places_;  // of the import going on
   std::optional<Header> header_;
+  std::optional<NamedAxes> named_axes_;
 };
 
 /// Prints rows without a point, doubts and the reason, nothing where there are none.

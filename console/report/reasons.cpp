@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <exception>
 #include <fstream>
 #include <optional>
 #include <string>
@@ -10,6 +11,8 @@
 #include "intake/dialect.h"
 #include "intake/encoding.h"
 #include "intake/file_kind.h"
+#include "intake/raster.h"
+#include "intake/workbook.h"
 #include "vexo_xyz_impl/messages.h"
 #include "vexo_xyz_impl/table/numbers.h"
 
@@ -37,19 +40,31 @@ std::vector<char> beginning_of(const std::string& path) {
   return intake::decoded(std::move(bytes)).utf8;
 }
 
-// Whether degrees are written with their sign in as many lines as not.
-bool has_degree_signs(std::string_view text) {
+// Whether degrees stand before minutes: 52°13'45", 52° 13' N.
+bool has_degrees_and_minutes(std::string_view line) {
   constexpr std::array<std::string_view, 2> kSigns = {"\u00B0", "\u00BA"};
+  for (const std::string_view sign : kSigns) {
+    for (std::size_t at = line.find(sign); at != std::string_view::npos; at = line.find(sign, at + 1)) {
+      const std::size_t next = line.find_first_not_of(' ', at + sign.size());
+      const bool digit_follows = next != std::string_view::npos && line[next] >= '0' && line[next] <= '9';
+      if (at > 0 && line[at - 1] >= '0' && line[at - 1] <= '9' && digit_follows) return true;
+    }
+  }
+  return false;
+}
+
+// Whether most lines are written in degrees, minutes and seconds.
+bool is_in_minutes(std::string_view text) {
   std::size_t lines = 0;
-  std::size_t with_sign = 0;
+  std::size_t in_minutes = 0;
   while (!text.empty()) {
     const std::size_t end = std::min(text.find_first_of("\r\n"), text.size());
     const std::string_view line = text.substr(0, end);
     lines += line.empty() ? 0 : 1;
-    with_sign += std::any_of(kSigns.begin(), kSigns.end(), [line](auto sign) { return line.find(sign) != line.npos; });
+    in_minutes += has_degrees_and_minutes(line) ? 1 : 0;
     text.remove_prefix(std::min(end + 1, text.size()));
   }
-  return with_sign * 2 > lines;
+  return in_minutes * 2 > lines;
 }
 
 // The first line that has a number beside something that is none, and no third cell, where two columns prevail.
@@ -63,10 +78,26 @@ std::optional<std::size_t> line_of_odd_row(const ImportSeen& seen) {
   return Places(seen).line_of_row(static_cast<std::size_t>(odd - rows.begin()));
 }
 
+// Whether the user was asked about the columns, and left it open.
+bool was_asked(const ImportSeen& seen) { return !seen.verdict.fmt && !seen.verdict.dane.empty(); }
+
+// The reason of a workbook of which no row was read.
+Reason reason_without_rows(const std::string& path) {
+  try {
+    intake::Workbook workbook(path);
+    const intake::Sheet* const sheet = workbook.seen_first();
+    intake::Record record;
+    const bool has_values = sheet != nullptr && workbook.records(*sheet)->next(record);
+    return named(has_values ? "cells_unreadable" : "empty");
+  } catch (const std::exception&) {
+    return named("unreadable");
+  }
+}
+
 Reason reason_of_text(const ImportSeen& seen) {
   const std::vector<char> text = beginning_of(seen.path);
   const std::string_view beginning(text.data(), text.size());
-  if (has_degree_signs(beginning)) return named("dms");
+  if (is_in_minutes(beginning)) return named("dms");
   const intake::Dialect dialect = intake::dialect_of(beginning);
   if (dialect.is_decided && dialect.separator == ',') return named("comma_separated");
   if (dialect.is_decided && dialect.separator == '|') return named("pipe_separated");
@@ -76,11 +107,16 @@ Reason reason_of_text(const ImportSeen& seen) {
   }
   if (dialect.mixed) return named("mixed_separators");
   if (dialect.quoted) return named("quoted");
-  const bool was_asked = seen.loaded.rows && !seen.verdict.dane.empty();
-  return was_asked ? Reason{} : named("no_numbers");
+  return was_asked(seen) ? Reason{} : named("no_numbers");
 }
 
-bool most_rows_gave_nothing(const Account& account) { return account.points * 2 < account.rows; }
+// Whether what was imported is to be looked at all the same.
+bool is_suspicious(const ImportSeen& seen, const Findings& findings) {
+  constexpr std::size_t kHead = std::size_t{1} << 12U;
+  if (findings.outcome != Outcome::imported || findings.account.points * 2 < findings.account.rows) return true;
+  return seen.loaded.typ == vexo_xyz_impl::FileType::tekst &&
+         intake::is_raster(seen.loaded.rows->text().substr(0, kHead));
+}
 
 }  // namespace
 
@@ -120,14 +156,13 @@ std::string_view kind_code(FileKind kind) {
 }
 
 Reason reason_of(const ImportSeen& seen, const Findings& findings) {
+  if (!is_suspicious(seen, findings)) return {};
   const FileKind kind = intake::file_kind(seen.path);
-  if (findings.outcome == Outcome::imported && kind != FileKind::raster && !most_rows_gave_nothing(findings.account))
-    return {};
   if (const std::string_view code = kind_code(kind); !code.empty()) return named(code);
   if (kind == FileKind::text) return reason_of_text(seen);
   if (findings.outcome == Outcome::imported) return {};
-  const bool no_rows = !seen.loaded.rows || findings.account.rows == 0;
-  return named(no_rows ? "cells_unreadable" : "no_numbers");
+  if (seen.loaded.rows && findings.account.rows > 0) return was_asked(seen) ? Reason{} : named("no_numbers");
+  return reason_without_rows(seen.path);
 }
 
 bool can_be_prepared(const Reason& reason) {

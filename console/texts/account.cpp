@@ -6,8 +6,12 @@ namespace console {
 std::span<const Text> account_texts() {
   static constexpr auto kTexts = std::to_array<Text>({
       {"konsola.bez_punktu", "dss",  // rows, reason, lines
-       "Wiersze bez punktu: %d (%s), linie %s\n", "Zeilen ohne Punkt: %d (%s), Zeilen %s\n",
-       "Rânduri fără punct: %d (%s), liniile %s\n", "Rows left out: %d (%s), lines %s\n"},
+       "Pominięte wiersze: %d (%s), linie %s\n", "%d Zeilen ausgelassen: %s, Zeilen %s\n",
+       "Rânduri omise: %d (%s), liniile %s\n", "%d rows left out: %s, lines %s\n"},
+      {"konsola.bez_punktu_jeden", "ss",  // reason, line
+       "Pominięty wiersz: %s, linia %s\n", "Eine Zeile ausgelassen: %s, Zeile %s\n", "Un rând omis: %s, linia %s\n",
+       "1 row left out: %s, line %s\n"},
+      {"konsola.i", "", " i ", " und ", " și ", " and "},
       {"konsola.bez_punktu_wiersz", "ds",  // line, its text
        "  linia %d: %s\n", "  Zeile %d: %s\n", "  linia %d: %s\n", "  line %d: %s\n"},
       {"konsola.bez_punktu_dalsze", "d",  // rows not shown

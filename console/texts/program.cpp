@@ -15,6 +15,12 @@ std::span<const Text> program_texts() {
        "Die Antwort „%s“ passt zu mehreren Wörtern: %s. Bitte mehr Buchstaben eingeben.\n",
        "Răspunsul „%s” se potrivește cu mai multe cuvinte: %s. Scrieți mai multe litere.\n",
        "The answer “%s” fits several words: %s. Type more letters.\n"},
+      {"konsola.odczyt_udzial", "d",  // share in per cent
+       "    pasuje do %d %% badanych punktów\n", "    passt zu %d %% der geprüften Punkte\n",
+       "    se potrivește cu %d %% din punctele verificate\n", "    fits %d %% of the points looked at\n"},
+      {"konsola.odczyt_naglowek", "dss",  // line, names of the first and the second coordinate
+       "    tak mówi nagłówek (linia %d): „%s”, „%s”\n", "    so sagt es der Kopf (Zeile %d): „%s“, „%s“\n",
+       "    așa spune antetul (linia %d): „%s”, „%s”\n", "    so the header says (line %d): “%s”, “%s”\n"},
       {"konsola.opcja_zbedna", "s",  // option
        "Opcja %s nie była potrzebna: to pytanie nie padło.\n",
        "Die Option %s wurde nicht gebraucht: diese Frage stellte sich nicht.\n",

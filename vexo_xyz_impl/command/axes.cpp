@@ -39,6 +39,11 @@ void announce_reading(const Candidate& candidate, const PointRecord& first) {
   const std::string name = _uklad_nazwa(candidate.srid);
   print("xyz.osie_wiersz", {std::string_view(word), std::string_view(name), degrees(lat), degrees(lon)});
   if (const std::string line = place_line(degrees(lat), degrees(lon)); !line.empty()) command_line().gcutPrintf(line);
+  if (host::Foreknowledge* const foreknowledge = bound().host.foreknowledge; foreknowledge != nullptr) {
+    const AxisOrder order = candidate.swap ? AxisOrder::north_first : AxisOrder::east_first;
+    const std::string lines = foreknowledge->beside_reading(order, candidate.frac);
+    if (!lines.empty()) command_line().gcutPrintf(lines);
+  }
 }
 
 void announce_readings(std::span<const Candidate> kand, const PointRecord& first) {

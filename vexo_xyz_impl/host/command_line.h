@@ -60,14 +60,18 @@ class HostLock {
 /// Which of a file's two coordinates stands first.
 enum class AxisOrder { east_first, north_first };
 
-/// What the user knows of the file and said before the command began. A host where nobody is asked beforehand leaves
-/// this role out.
+/// What is known of the file besides its numbers. A host that knows nothing leaves this role out.
 class Foreknowledge {
  public:
   virtual ~Foreknowledge() = default;
 
-  /// The order of the axes; it counts for more than what the numbers look like. Empty: not told.
+  /// The order of the axes as the user said it before the command began; it counts for more than what the numbers look
+  /// like. Empty: not told.
   virtual std::optional<AxisOrder> axis_order() = 0;
+
+  /// What speaks for a reading with that order of the axes or against it, finished lines to print under it: the
+  /// `share`, up to 1, of the points that it fits, names of columns and the like. Empty: nothing.
+  virtual std::string beside_reading(AxisOrder order, double share) = 0;
 };
 
 class CommandTable {

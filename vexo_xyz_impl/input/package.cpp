@@ -101,7 +101,7 @@ std::vector<std::string_view> Package::names() const {
 }
 
 std::vector<char> Package::read(std::string_view name) {
-  std::vector<char> bytes = unpacked(name);
+  std::vector<char> bytes = read_bytes(name);
   const std::string_view text(bytes.data(), bytes.size());
   if (text::is_valid(text)) return bytes;
   const std::size_t size = text::size_with_replacements(text);
@@ -109,7 +109,7 @@ std::vector<char> Package::read(std::string_view name) {
   return text::with_replacements(text, size);
 }
 
-std::vector<char> Package::unpacked(std::string_view name) {
+std::vector<char> Package::read_bytes(std::string_view name) {
   const zip_uint64_t index = members_.find(name)->second;
   zip_stat_t claimed;
   zip_stat_init(&claimed);

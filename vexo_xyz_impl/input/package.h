@@ -46,12 +46,14 @@ class Package {
   /// method is not known.
   [[nodiscard]] std::vector<char> read(std::string_view name);
 
+  /// As `read`, but the bytes as they are, for who knows their encoding.
+  [[nodiscard]] std::vector<char> read_bytes(std::string_view name);
+
  private:
   struct Close {
     void operator()(zip* archive) const;
   };
 
-  std::vector<char> unpacked(std::string_view name);
   void take(std::string_view name, std::uint64_t bytes);
 
   std::unique_ptr<zip, Close> archive_;

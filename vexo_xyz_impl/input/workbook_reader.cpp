@@ -158,6 +158,11 @@ std::optional<std::uint64_t> _kol_nr(std::string_view ref) {
   return n - 1;
 }
 
+std::string_view worksheet_read(const Package& package) {
+  Matcher matcher;
+  return first_worksheet(package, matcher);
+}
+
 Table _czytaj_xlsx(const std::string& path) {
   try {
     return read_workbook(path);

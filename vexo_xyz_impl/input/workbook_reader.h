@@ -15,6 +15,8 @@
 
 namespace vexo_xyz_impl {
 
+class Package;
+
 /// The most cells that a worksheet may have, long gaps left out; a cell takes 16 bytes. More than a worksheet of the
 /// largest size that is unpacked has room for, unless its cells are empty.
 inline constexpr std::size_t kMostCells = std::size_t{1} << 25U;
@@ -25,6 +27,9 @@ inline constexpr std::size_t kMostColumns = std::size_t{1} << 20U;
 /// Zero-based column of a cell reference ("C7" is 2); empty when it does not begin with a letter A to Z. Fails with
 /// OverflowError for a column that no integer holds.
 [[nodiscard]] std::optional<std::uint64_t> _kol_nr(std::string_view ref);
+
+/// The member that is read: the worksheet whose name sorts first; empty when there is none.
+[[nodiscard]] std::string_view worksheet_read(const Package& package);
 
 /// The rows of the workbook at `path`, none when it holds no worksheet. Fails as `Package` does (package.h), and with
 /// MemoryError, naming the cell, when there are more than `kMostCells` or `kMostColumns`.

@@ -1,0 +1,170 @@
+#include "intake/worksheet.h"
+
+#include <charconv>
+#include <optional>
+#include <system_error>
+
+#include "vexo_xyz_impl/failure.h"
+#include "vexo_xyz_impl/input/workbook_reader.h"
+#include "vexo_xyz_impl/table/numbers.h"
+#include "vexo_xyz_impl/text/utf8.h"
+
+namespace intake {
+namespace {
+
+std::optional<std::size_t> whole_number(std::string_view text) {
+  std::size_t number = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+  return error == std::errc() && end == text.data() + text.size() ? std::optional(number) : std::nullopt;
+}
+
+std::optional<std::size_t> column_of(std::string_view reference, std::size_t row) {
+  std::optional<std::uint64_t> column;
+  try {
+    column = vexo_xyz_impl::_kol_nr(reference);
+  } catch (const vexo_xyz_impl::OverflowError&) {
+    column = UINT64_MAX;
+  }
+  if (column && *column >= vexo_xyz_impl::kMostColumns) {
+    throw vexo_xyz_impl::MemoryError("row " + std::to_string(row) + ": a row may have " +
+                                     std::to_string(vexo_xyz_impl::kMostColumns) +
+                                     " columns; delete what stands beyond them");
+  }
+  return column;
+}
+
+// A date that is stored as a text: its time stands behind a letter.
+void show_date_as_text(std::string& text, std::size_t begin) {
+  const std::size_t letter = text.find('T', begin);
+  if (letter == std::string::npos) return;
+  text[letter] = ' ';
+  if (std::string_view(text).substr(letter) == " 00:00:00") text.resize(letter);
+}
+
+}  // namespace
+
+const WorksheetRow* Worksheet::next() {
+  if (!parser_.run()) return nullptr;
+  const std::string_view text(text_);
+  for (std::size_t i = 0; i < row_.cells.size(); ++i) {
+    const std::size_t end = i + 1 < begins_.size() ? begins_[i + 1] : text.size();
+    if (row_.cells[i].text.empty()) row_.cells[i].text = text.substr(begins_[i], end - begins_[i]);
+  }
+  return &row_;
+}
+
+int Worksheet::start(int parent, const XmlElement& element) {
+  const std::string_view name = element.name;
+  switch (parent) {
+    case kDocument:
+      return kSheet;
+    case kSheet:
+      return name == "sheetData" ? kData : kIgnored;
+    case kData:
+      if (name != "row") return kIgnored;
+      begin_row(element);
+      return kRow;
+    case kRow:
+      if (name != "c") return kIgnored;
+      begin_cell(element.attributes);
+      return kCell;
+    case kCell:
+      has_formula_ |= name == "f";
+      if (name == "v") return kValue;
+      return name == "is" ? kInline : kIgnored;
+    case kInline:
+      if (name == "r") return kRun;
+      return name == "t" ? kText : kIgnored;
+    case kRun:
+      return name == "t" ? kText : kIgnored;
+    default:
+      return kIgnored;
+  }
+}
+
+void Worksheet::begin_row(const XmlElement& element) {
+  row_.number = whole_number(element.attributes["r"]).value_or(row_.number + 1);
+  const std::string_view hidden = element.attributes["hidden"];
+  row_.hidden = hidden == "1" || hidden == "true";
+  row_.prefixed = element.prefixed;
+  row_.cells.clear();
+  text_.clear();
+  begins_.clear();
+  next_column_ = 0;
+}
+
+void Worksheet::begin_cell(const XmlAttributes& attributes) {
+  const auto column = column_of(attributes["r"], row_.number);
+  WorksheetCell& cell = row_.cells.emplace_back();
+  cell.column = column.value_or(next_column_);
+  cell.without_reference = !column;
+  next_column_ = cell.column + 1;
+  begins_.push_back(text_.size());
+
+  const std::string_view type = attributes["t"];
+  type_ = type.empty() || type == "n" ? Type::number
+          : type == "s"               ? Type::shared
+          : type == "b"               ? Type::boolean
+          : type == "d"               ? Type::date
+          : type == "e"               ? Type::error
+                                      : Type::text;
+  form_ = type_ == Type::number ? context_.formats.of_style(attributes["s"]) : ShownAs::number;
+  has_formula_ = has_value_ = false;
+}
+
+void Worksheet::characters(int state, std::string_view text, bool entity) {
+  if (state != kValue && state != kText) return;
+  text_.append(text);
+  has_value_ = true;
+  row_.cells.back().entity |= entity;
+}
+
+bool Worksheet::end(int state) {
+  if (state == kCell) end_cell();
+  has_value_ |= state == kValue && type_ == Type::text;  // a formula's empty text is a value
+  return state == kRow;
+}
+
+void Worksheet::end_cell() {
+  WorksheetCell& cell = row_.cells.back();
+  const std::size_t begin = begins_.back();
+  const auto stored = [&] { return std::string_view(text_).substr(begin); };
+  cell.formula_without_value = has_formula_ && !has_value_;
+  switch (type_) {
+    case Type::shared: {
+      const auto item = context_.strings.find(stored());
+      text_.resize(begin);
+      if (item) cell.text = item->text;
+      cell.entity = item && item->written_with_entities;
+      break;
+    }
+    case Type::text:
+      if (stored().find("_x") != std::string_view::npos)
+        text_.replace(begin, std::string::npos, without_escapes(stored()));
+      break;
+    case Type::boolean:
+      if (has_value_)
+        text_.replace(begin, std::string::npos, stored() == "0" || stored() == "false" ? "FALSE" : "TRUE");
+      break;
+    case Type::date:
+      cell.date = has_value_;
+      show_date_as_text(text_, begin);
+      break;
+    case Type::number:
+      if (form_ != ShownAs::number) show_number(cell);
+      break;
+    case Type::error:
+      break;
+  }
+}
+
+void Worksheet::show_number(WorksheetCell& cell) {
+  const std::size_t begin = begins_.back();
+  const auto number = vexo_xyz_impl::parse_number(std::string_view(text_).substr(begin));
+  const auto shown = number ? date_text(*number, form_, context_.dates_from_1904) : std::nullopt;
+  if (!shown) return;
+  cell.date = true;
+  text_.replace(begin, std::string::npos, *shown);
+}
+
+}  // namespace intake
