@@ -239,9 +239,9 @@ Decision by_content(const TableShape& shape) {
   const bool unique = !labels || 2 * shape.columns.front().distinct >= shape.columns.front().filled;
   const bool height_clear =
       behind == 0 || (behind == 1 && numeric[skipped + 2] == b + 1 && may_be_height(shape, a, b, b + 1));
-  const bool clear = adjacent && same_kind && starts_clearly && unique && height_clear && shape.rows > 1 &&
-                     !may_be_degrees(shape, a, b);
+  const bool clear = adjacent && same_kind && starts_clearly && unique && height_clear && shape.rows > 1;
   decision.verdict = clear ? Verdict::clear : Verdict::unclear;
+  if (may_be_degrees(shape, a, b)) decision.verdict = Verdict::maybe_degrees;
   return decision;
 }
 
@@ -280,7 +280,9 @@ Verdict judged(const TableShape& shape, const Roles& roles) {
   if (sexagesimal(coordinates[0]) && sexagesimal(coordinates[1])) return Verdict::sexagesimal;
   if (angle(coordinates[0]) && angle(coordinates[1])) return Verdict::degrees;
   if (shape.projection == Projection::geographic && is_within(shape, coordinates[0], 180.0)) return Verdict::degrees;
-  return are_degrees(shape, coordinates[0], coordinates[1]) ? Verdict::degrees : Verdict::clear;
+  if (are_degrees(shape, coordinates[0], coordinates[1])) return Verdict::degrees;
+  const bool named = names_a_coordinate(header_name(shape.names[coordinates[0]]).named);
+  return !named && may_be_degrees(shape, coordinates[0], coordinates[1]) ? Verdict::maybe_degrees : Verdict::clear;
 }
 
 std::optional<std::size_t> pair_column(const TableShape& shape, const Roles* roles) {
