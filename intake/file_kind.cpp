@@ -109,7 +109,9 @@ bool any_begins(const std::vector<std::string_view>& names, std::string_view beg
 
 FileKind kind_of_package(const std::string& path) {
   Package package(path);
-  const auto mentions = [](const std::string& text, std::string_view word) { return text.find(word) != text.npos; };
+  const auto mentions = [](const std::string& text, std::string_view word) {
+    return text.find(word) != std::string::npos;
+  };
   const std::string declared = text_of(package, "mimetype") + text_of(package, "META-INF/manifest.xml");
   if (mentions(declared, "opendocument.spreadsheet") || mentions(declared, "sun.xml.calc")) return FileKind::ods;
   const std::string types = text_of(package, "[Content_Types].xml");

@@ -34,8 +34,11 @@ class StringTable final : public XmlHandler {
       throw vexo_xyz_impl::MemoryError("too many texts in the workbook; keep the points alone in it");
     }
     const std::size_t begin = ends.empty() ? 0 : ends.back();
-    if (text.find("_x", begin) != std::string::npos)
-      text.replace(begin, std::string::npos, without_escapes(text.substr(begin)));
+    if (text.find("_x", begin) != std::string::npos) {
+      const std::string plain = without_escapes(std::string_view(text).substr(begin));
+      text.resize(begin);
+      text += plain;
+    }
     ends.push_back(text.size());
     entities.push_back(std::exchange(entity_, false));
     return false;

@@ -1,5 +1,6 @@
 #include "intake/worksheet.h"
 
+#include <algorithm>
 #include <charconv>
 #include <optional>
 #include <system_error>
@@ -34,11 +35,12 @@ std::optional<std::size_t> column_of(std::string_view reference, std::size_t row
 }
 
 // A date that is stored as a text: its time stands behind a letter.
-void show_date_as_text(std::string& text, std::size_t begin) {
-  const std::size_t letter = text.find('T', begin);
-  if (letter == std::string::npos) return;
-  text[letter] = ' ';
-  if (std::string_view(text).substr(letter) == " 00:00:00") text.resize(letter);
+std::string date_as_text(std::string_view stored) {
+  const std::size_t letter = std::min(stored.size(), stored.find('T'));
+  const std::string_view time = stored.substr(letter);
+  std::string text(stored.substr(0, letter));
+  if (time.size() > 1 && time != "T00:00:00") text.append(" ").append(time.substr(1));
+  return text;
 }
 
 }  // namespace
@@ -127,44 +129,44 @@ bool Worksheet::end(int state) {
 
 void Worksheet::end_cell() {
   WorksheetCell& cell = row_.cells.back();
-  const std::size_t begin = begins_.back();
-  const auto stored = [&] { return std::string_view(text_).substr(begin); };
+  const std::string_view stored = std::string_view(text_).substr(begins_.back());
   cell.formula_without_value = has_formula_ && !has_value_;
+  if (!has_value_) return;
   switch (type_) {
     case Type::shared: {
-      const auto item = context_.strings.find(stored());
-      text_.resize(begin);
+      const auto item = context_.strings.find(stored);
       if (item) cell.text = item->text;
       cell.entity = item && item->written_with_entities;
+      show({});
       break;
     }
     case Type::text:
-      if (stored().find("_x") != std::string_view::npos)
-        text_.replace(begin, std::string::npos, without_escapes(stored()));
+      if (stored.find("_x") != std::string_view::npos) show(without_escapes(stored));
       break;
     case Type::boolean:
-      if (has_value_)
-        text_.replace(begin, std::string::npos, stored() == "0" || stored() == "false" ? "FALSE" : "TRUE");
+      show(stored == "0" || stored == "false" ? "FALSE" : "TRUE");
       break;
     case Type::date:
-      cell.date = has_value_;
-      show_date_as_text(text_, begin);
+      cell.date = true;
+      show(date_as_text(stored));
       break;
     case Type::number:
-      if (form_ != ShownAs::number) show_number(cell);
+      if (form_ == ShownAs::number) break;
+      if (const auto number = vexo_xyz_impl::parse_number(stored)) {
+        const auto date = date_text(*number, form_, context_.dates_from_1904);
+        cell.date = date.has_value();
+        if (date) show(*date);
+      }
       break;
     case Type::error:
       break;
   }
 }
 
-void Worksheet::show_number(WorksheetCell& cell) {
-  const std::size_t begin = begins_.back();
-  const auto number = vexo_xyz_impl::parse_number(std::string_view(text_).substr(begin));
-  const auto shown = number ? date_text(*number, form_, context_.dates_from_1904) : std::nullopt;
-  if (!shown) return;
-  cell.date = true;
-  text_.replace(begin, std::string::npos, *shown);
+// In the place of what is stored for the cell that ends.
+void Worksheet::show(const std::string& text) {
+  text_.resize(begins_.back());
+  text_ += text;
 }
 
 }  // namespace intake

@@ -57,7 +57,7 @@ class Worksheet final : private XmlHandler {
   void begin_row(const XmlElement& element);
   void begin_cell(const XmlAttributes& attributes);
   void end_cell();
-  void show_number(WorksheetCell& cell);
+  void show(const std::string& text);
 
   const SheetContext& context_;
   WorksheetRow row_;

@@ -17,10 +17,10 @@ std::string_view rows_of(std::string_view sheet) {
   return sheet.substr(begin, sheet.rfind("</sheetData>") - begin);
 }
 
+// As the first one has; where there is none there is no row either, or none that is seen.
 bool cells_have_references(std::string_view rows) {
-  const std::size_t cell = rows.find("<c ");
-  return cell == kNone ? rows.find("<c>") == kNone
-                       : rows.substr(cell, rows.find('>', cell) - cell).find(" r=\"") != kNone;
+  const std::size_t cell = rows.find("<c");
+  return cell != kNone && rows.substr(cell, rows.find('>', cell) - cell).find(" r=\"") != kNone;
 }
 
 // A formula's value stands behind it, in the same cell.

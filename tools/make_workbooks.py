@@ -3,7 +3,8 @@
     make_workbooks.py FOLDER
 
 FOLDER/expected.json lists them with their rows, or with the kind of failure and pieces of its text, worked out by hand
-from the patterns that pick a worksheet's cells.
+from the patterns that pick a worksheet's cells. FOLDER/seen.json lists whole workbooks with what a person sees in them,
+FOLDER/kinds.json files with the kind that they are by their bytes.
 """
 import io
 import json
@@ -194,6 +195,144 @@ PACKAGES = {  # a package and its rows; or None, the kind of failure, and pieces
 }
 
 
+def part(root, content, encoding="utf-8"):
+    return f'<?xml version="1.0" encoding="{encoding}"?>\n<{root} xmlns:r="r">{content}</{root}>'.encode(encoding)
+
+
+def rels(*targets):  # identifier, type and target of each
+    return part("Relationships", "".join(f'<Relationship Id="{i}" Type="http://x/relationships/{t}" Target="{target}"/>'
+                                         for i, t, target in targets))
+
+
+def sheet_xml(*rows, prefix="", encoding="utf-8"):
+    return part(prefix + "worksheet", f"<{prefix}sheetData>{''.join(rows)}</{prefix}sheetData>", encoding)
+
+
+def whole_book(sheets, strings="", styles="", book="", main="xl/workbook.xml"):
+    """Of each sheet: the tab's name, its other attributes, the target of its relationship, its XML."""
+    tabs = "".join(f'<sheet name="{tab}" {more} r:id="i{i}"/>' for i, (tab, more, *_) in enumerate(sheets))
+    related = [(f"i{i}", "worksheet", target) for i, (_, _, target, _) in enumerate(sheets)]
+    related += [("s", "sharedStrings", "texts.xml")] * bool(strings) + [("y", "styles", "/xl/looks.xml")] * bool(styles)
+    folder, name = main.rsplit("/", 1)
+    members = [("_rels/.rels", rels(("m", "officeDocument", main))), (f"{folder}/_rels/{name}.rels", rels(*related)),
+               (main, part("workbook", f"{book}<sheets>{tabs}</sheets>"))]
+    members += [(f"{folder}/texts.xml", part("sst", strings))] * bool(strings)
+    members += [("xl/looks.xml", part("styleSheet", styles))] * bool(styles)
+    return package(*members, *((target[1:] if target[0] == "/" else f"{folder}/{target}".replace("book/../D", "d"), xml)
+                               for _, _, target, xml in sheets))
+
+
+def one_sheet(*rows, strings="", styles="", **how):
+    return whole_book([("S", "", "worksheets/sheet1.xml", sheet_xml(*rows, **how))], strings, styles)
+
+
+def styled(reference, value, style):
+    return f'<c r="{reference}" s="{style}"><v>{value}</v></c>'
+
+
+FORMATS = {  # a code, what it makes of 45413.5, and whether that is a date
+    "General": "45413.5", "0.00": "45413.5", "#,##0.00\\ [$zł-415]": "45413.5", '0.0" m"': "45413.5",
+    "0.00E+00": "45413.5",
+    "dd.mm.yyyy": "2024-05-01", "[$-415]d\\ mmm;@": "2024-05-01", "mmm yy": "2024-05-01", "h:mm": "12:00:00",
+    "yyyy-mm-dd hh:mm": "2024-05-01 12:00:00", "[h]:mm:ss": "1089924:00:00", '"day" 0': "45413.5", "[Red]0": "45413.5",
+    "mm:ss.0": "12:00:00", "AM/PM h": "12:00:00"}
+STYLES = ("<numFmts>" + "".join(f'<numFmt numFmtId="{164 + i}" formatCode="{code.replace(chr(34), "&quot;")}"/>'
+                                for i, code in enumerate(FORMATS)) + '</numFmts><cellStyleXfs><xf numFmtId="14"/>'
+          '</cellStyleXfs><cellXfs><xf/>' + "".join(f'<xf numFmtId="{164 + i}"/>' for i in range(len(FORMATS))) +
+          '<xf numFmtId="14"/><xf numFmtId="22"/></cellXfs>')
+DAY, MOMENT = len(FORMATS) + 1, len(FORMATS) + 2  # styles that have no code
+DAYS = {"1": "1900-01-01", "59": "1900-02-28", "60": "1900-02-29", "61": "1900-03-01", "45413.999999": "2024-05-01",
+        "-1": "-1", "2958465": "9999-12-31", "2958466": "2958466", "5788467.12": "5788467.12"}
+TWO_TABS = [("Notes", "", "worksheets/sheet1.xml", sheet_xml(row(A))),
+            ("Points", "", "worksheets/sheet2.xml", sheet_xml(row(B)))]
+SEEN = {  # a workbook; the tab seen first, the one imported; rows by their numbers; flaws by their rows
+    "first tab": (whole_book(TWO_TABS), "Notes", "Notes", {1: ["a"]}),
+    "active tab": (whole_book(TWO_TABS, book='<bookViews><workbookView activeTab="1"/></bookViews>'),
+                   "Points", "Notes", {1: ["", "b"]}),
+    "hidden tab": (whole_book([("Old", 'state="veryHidden"', *TWO_TABS[0][2:]), TWO_TABS[1]]), "Points", "Old",
+                   {1: ["", "b"]}),
+    "all hidden": (whole_book([("Old", 'state="hidden"', *TWO_TABS[0][2:])]), None, "Old", {}),
+    "names of its own": (whole_book([("P &amp; Q", "", "../Data/cells.XML", sheet_xml(row(A)))], main="book/main.xml"),
+                         "P & Q", None, {1: ["a"]}),
+    "absolute target": (whole_book([("P", "", "/xl/worksheets/sheet1.xml", sheet_xml(row(A)))]), "P", "P", {1: ["a"]}),
+    "no list of sheets": (package((SHEET, sheet_xml(row(A)))), "sheet1", "sheet1", {1: ["a"]}),
+    "prefixes": (one_sheet('<x:row r="3"><x:c r="B3"><x:f>1</x:f><x:v>7</x:v></x:c></x:row>', prefix="x:"), "S", "S",
+                 {3: ["", "7"]}, {"prefixed": [3]}),
+    "UTF-16": (one_sheet(row(A), encoding="utf-16"), "S", "S", {1: ["a"]}),
+    "without references": (one_sheet("<row><c><v>1</v></c><c/><c><v>2</v></c></row>", '<row r="7"></row>',
+                                     '<row><c r="B8"><v>3</v></c><c><v>4</v></c></row>'), "S", "S",
+                           {1: ["1", "", "2"], 8: ["", "3", "4"]}, {"cells_without_reference": [1, 8]}),
+    "texts": (one_sheet(
+        row(cells("01234", "s")), '<row r="2">' + cells([7, ""], "s") + "</row>",
+        '<row r="3">' + INLINE + "<is><r><t>a</t></r><r><t> b </t></r></is></c>" +
+        cell("B1", "x_x000D_y_x005F_", "str") + cell("C1", 1, "b") + cell("D1", "#N/A", "e") + "</row>",
+        strings="<si><t>Nr</t></si><si/><si><r><t>r</t></r><r><t>&amp;s</t></r><rPh><t>x</t></rPh></si>"
+                "<si><t>&#243;</t></si><si><t> ą </t></si>"), "S", "S",
+        {1: ["Nr", "", "r&s", "ó", "ą"], 3: ["a b", "x\ry_", "TRUE", "#N/A"]}, {"entities": [1]}),
+    "digits": (one_sheet(row(cells(["5788467.120", "1E-3", "0.30000000000000004", "-0", "1e+20"]))), "S", "S",
+               {1: ["5788467.120", "1E-3", "0.30000000000000004", "-0", "1e+20"]}),
+    "formats": (one_sheet(row(*(styled(f"{chr(70 + i)}1", 45413.5, i + 1) for i in range(len(FORMATS)))),
+                          styles=STYLES), "S", "S", {1: [""] * 5 + [*FORMATS.values()]}),
+    "days": (one_sheet(row(*(styled(f"{chr(70 + i)}1", day, DAY) for i, day in enumerate(DAYS))), styles=STYLES),
+             "S", "S", {1: [""] * 5 + [*DAYS.values()]}),
+    "dates from 1904": (whole_book([("S", "", "s.xml", sheet_xml(row(styled("A1", "43951.5", MOMENT))))], styles=STYLES,
+                                   book='<workbookPr date1904="1"/>'), "S", None, {1: ["2024-05-01 12:00:00"]},
+                        {"dates": [1]}),
+    "dates as texts": (one_sheet(row(cell("A1", "2024-05-01T00:00:00", "d"), cell("E1", "2024-05-01T07:30:00", "d"))),
+                       "S", "S", {1: ["2024-05-01", "", "", "", "2024-05-01 07:30:00"]}, {"dates": [1]}),
+    "formulas that have values and not": (one_sheet(
+        '<row r="2"><c r="A2"><f>1</f><v>1</v></c></row>',
+        '<row r="4"><c r="A4"><f>1</f><v></v></c><c r="B4"><v>2</v></c></row>',
+        '<row r="5"><c r="A5" t="str"><f>1</f><v></v></c></row><row r="6"><c r="A6"><f>1</f></c></row>'), "S", "S",
+        {2: ["1"], 4: ["", "2"]}, {"formulas_without_value": [4, 6]}),
+    "hidden rows": (one_sheet('<row r="2" hidden="1"><c r="A2"><v>1</v></c></row>', '<row r="3" hidden="1"/>',
+                              '<row r="4" hidden="0"><c r="A4"><v>2</v></c></row>'), "S", "S", {2: ["1"], 4: ["2"]},
+                    {"hidden_rows": [2]}),
+    "not well-formed": (one_sheet(row(A), "<row>"), "S", "S", "ParseError"),
+    "entities of its own": (whole_book([("S", "", "s.xml", b'<!DOCTYPE x [<!ENTITY a "b">]><x/>')]), "S", None,
+                            "ParseError"),
+    "a bomb": (whole_book([("S", "", "s.xml", bytes(20 << 20))]), "S", None, "BadZipFile"),
+    "wide rows": (one_sheet(*[row(cell("BABAB1", "x"))] * 40), "S", "S", "MemoryError"),
+    "a column too far": (one_sheet(row(cell("ZZZZZZ9", "x"))), "S", "S", "MemoryError"),
+}
+
+def compound_file(*names):
+    """With a directory of those streams, which begins in the second sector and goes on in the fourth."""
+    entries = [name.encode("utf-16-le").ljust(64, b"\0") + struct.pack("<H", 2 * len(name) + 2) + bytes(62)
+               for name in names]
+    header = bytes.fromhex("D0CF11E0A1B11AE1") + bytes(22) + struct.pack("<H", 9) + bytes(16) + struct.pack("<I", 1)
+    table = struct.pack("<4I", 0xFFFFFFFD, 3, 0xFFFFFFFE, 0xFFFFFFFE).ljust(512, b"\xff")
+    directory = b"".join(entries).ljust(1024, b"\0")
+    return header.ljust(76, b"\0") + bytes(4) + b"\xff" * 432 + table + directory[:512] + bytes(512) + directory[512:]
+
+
+TYPES = "[Content_Types].xml"
+GRID = b"NCOLS 3\r\nNROWS 1\r\nXLLCENTER 0\r\nYLLCENTER 0\r\nCELLSIZE 5\r\n1 2 3\r\n"
+POINTS = b"BM1;5788467.12;7501234.5;100.1\r\n" * 3
+KINDS = {  # files by their kinds
+    "text": [POINTS, b"\xef\xbb\xbf" + POINTS, POINTS.replace(b";", b" ") * 900, b"0\n1\nSECTION\n", POINTS + bytes(2),
+             b"1;2;3\n" + b"1 " * 150, "AC1;Łąka;1\n".encode("cp1250"), b"ncols 5\n1;2;3\n"],
+    "workbook": [book(row(A)), whole_book(TWO_TABS), 
+                 package((TYPES, '<Override ContentType="a/vnd.openxmlformats-x.spreadsheetml.sheet.main+xml"/>'))],
+    "ods": [package(("mimetype", "application/vnd.oasis.opendocument.spreadsheet"), ("content.xml", "<x/>"))],
+    "xlsb": [package(("xl/workbook.bin", b""), ("xl/worksheets/sheet1.bin", b""))],
+    "encrypted": [compound_file("Root Entry", "DataSpaces", "x", "y", "EncryptionInfo")],
+    "old_xls": [compound_file("Root Entry", "Workbook"), compound_file("x")[:600], b"\x09\x08\x10\x00" + bytes(40)],
+    "zip": [package(("points.csv", POINTS)), package(), b"\x1f\x8b\x08" + bytes(30)],
+    "dxf": [b"  0\r\nSECTION\r\n", b"999\nx\n  0\nSECTION\n", b"AutoCAD Binary DXF\r\n\x1a\0"],
+    "dwg": [b"AC1032" + bytes(20)],
+    "pdf": [b"%PDF-1.7\n"],
+    "image": [b"\x89PNG\r\n\x1a\n", b"\xff\xd8\xff\xe0", b"II*\0" + bytes(9), b"GIF89a", b"RIFF1234WEBPVP8 ",
+              b"BM" + struct.pack("<IIIIII", 1000, 0, 54, 40, 9, 9)],
+    "utf16": ["\ufeffNr;1;2\n".encode("utf-16-le"), POINTS.decode().encode("utf-16-be"),
+              "Łąka;1;2;3\n".encode("utf-16-le")],
+    "raster": [GRID, GRID.lower(), b"north: 5\nsouth: 1\neast: 3\nwest: 1\nrows: 2\ncols: 2\n1 2\n", b"DSAA\n2 2\n",
+               (b"1.5 " * 200 + b"\n") * 9, b"2,3," * 40_000],
+    "empty": [b"", b" \r\n\t", b"\xef\xbb\xbf"],
+    "unreadable": [GOOD[:len(GOOD) // 2], b"\x7fELF" + bytes(range(200)) * 9],
+}
+
+
 def main(folder):
     books = {name: (book(sheet, THREE), rows) for name, (sheet, rows) in SHEETS.items()}
     books |= {name: (book(row(cells(range(len(made)), "s")), items), [made]) for name, (items, made) in ITEMS.items()}
@@ -203,6 +342,17 @@ def main(folder):
         (folder / f"{name}.xlsx").write_bytes(data)
     expected = [{"name": name, "rows": rows, "failure": failure} for name, (_, rows, *failure) in books.items()]
     (folder / "expected.json").write_text(json.dumps(expected), "utf-8")
+    seen = []
+    for name, (data, first, imported, rows, *flaws) in SEEN.items():
+        (folder / f"seen {name}.xlsx").write_bytes(data)
+        failure, rows = (rows, {}) if isinstance(rows, str) else (None, rows)
+        seen.append({"name": f"seen {name}", "first": first, "imported": imported, "failure": failure,
+                     "rows": [[number, cells] for number, cells in rows.items()], "flaws": (flaws or [{}])[0]})
+    (folder / "seen.json").write_text(json.dumps(seen), "utf-8")
+    kinds = [(f"{kind} {i}", kind, data) for kind, files in KINDS.items() for i, data in enumerate(files, 1)]
+    for name, _, data in kinds:
+        (folder / name).write_bytes(data)
+    (folder / "kinds.json").write_text(json.dumps([[name, kind] for name, kind, _ in kinds]), "utf-8")
 
 
 if __name__ == "__main__":

@@ -11,6 +11,8 @@ namespace {
 using vexo_xyz_impl::Cell;
 using vexo_xyz_impl::Row;
 
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
 // How often `byte` stands in the text, and for which of these `counts(place)` holds.
 template <class Counts>
 std::size_t count_bytes(std::string_view text, char byte, Counts counts) {
@@ -43,6 +45,15 @@ bool is_comment(std::string_view line) {
   return trimmed.starts_with('#') || trimmed.starts_with("//");
 }
 
+bool is_blank(std::string_view line) {
+  while (!line.empty()) {
+    const std::string_view piece = line.substr(0, line.find_first_of(";\t"));
+    if (!vexo_xyz_impl::text::trim(piece).empty()) return false;
+    line.remove_prefix(std::min(piece.size() + 1, line.size()));
+  }
+  return true;
+}
+
 // Of the lines that are whole in `between`, what stands between the rows on both its sides, those that are comments.
 std::size_t comments_in(std::string_view between) {
   std::size_t comments = 0;
@@ -61,7 +72,6 @@ LineCounts count_lines(std::string_view text, std::span<const Row> rows) {
   LineCounts counts;
   counts.lines = line_count(text);
   if (counts.lines == rows.size()) return counts;
-  constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
   const char* after = text.data() + (text.starts_with(kByteOrderMark) ? kByteOrderMark.size() : 0);  // the row before
   const auto count_up_to = [&](const char* place) {
     counts.comments += comments_in({after, static_cast<std::size_t>(place - after)});
@@ -75,6 +85,19 @@ LineCounts count_lines(std::string_view text, std::span<const Row> rows) {
   count_up_to(end);
   counts.blank = counts.lines - rows.size() - counts.comments;
   return counts;
+}
+
+std::vector<Line> lines_with_rows(std::string_view text) {
+  std::vector<Line> lines;
+  if (text.starts_with(kByteOrderMark)) text.remove_prefix(kByteOrderMark.size());
+  for (std::size_t number = 1; !text.empty(); ++number) {
+    const std::size_t end = std::min(text.find_first_of("\r\n"), text.size());
+    const std::string_view line = text.substr(0, end);
+    if (!is_comment(line) && !is_blank(line)) lines.push_back({number, line});
+    const bool crlf = text.substr(end).starts_with("\r\n");
+    text.remove_prefix(std::min(end + (crlf ? 2 : 1), text.size()));
+  }
+  return lines;
 }
 
 std::size_t LineFinder::line_of(const char* place) {

@@ -58,10 +58,8 @@ Axes axes_of(const ImportSeen& seen) {
   return seen.axes.swap ? Axes::swap : Axes::keep;
 }
 
-// Of an import that failed after all the points were no points: none is in a drawing.
-void take_points_back(Account& account, const ImportSeen& seen, Places& places) {
-  for (std::size_t i = 0; i < seen.read.punkty.size() && account.points > 0; ++i, --account.points)
-    account.skipped.push_back({places.line_of_point(i), Why::not_imported, std::string(seen.read.punkty[i].nr)});
+void append(std::vector<Doubt>& doubts, std::vector<Doubt> more) {
+  std::move(more.begin(), more.end(), std::back_inserter(doubts));
 }
 
 }  // namespace
@@ -93,8 +91,8 @@ void ImportWatcher::ended(const ImportSeen& seen) {
   findings_.axes = axes_of(seen);
   if (places_ && findings_.outcome == Outcome::imported) {
     Evidence evidence{seen, findings_.account, *places_, header_};
-    auto doubts = doubts_of_import(evidence);
-    std::move(doubts.begin(), doubts.end(), std::back_inserter(findings_.doubts));
+    append(findings_.doubts, doubts_of_import(evidence));
+    if (seen.loaded.typ == vexo_xyz_impl::FileType::xlsx) append(findings_.doubts, doubts_of_workbook(seen, *places_));
   }
   findings_.reason = reason_of(seen, findings_);
   places_.reset();

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <exception>
 #include <fstream>
 #include <optional>
 #include <string>
@@ -11,6 +12,7 @@
 #include "intake/encoding.h"
 #include "intake/file_kind.h"
 #include "intake/raster.h"
+#include "intake/workbook.h"
 #include "vexo_xyz_impl/messages.h"
 #include "vexo_xyz_impl/table/numbers.h"
 
@@ -76,6 +78,22 @@ std::optional<std::size_t> line_of_odd_row(const ImportSeen& seen) {
   return Places(seen).line_of_row(static_cast<std::size_t>(odd - rows.begin()));
 }
 
+// Whether the user was asked about the columns, and left it open.
+bool was_asked(const ImportSeen& seen) { return !seen.verdict.fmt && !seen.verdict.dane.empty(); }
+
+// The reason of a workbook of which no row was read.
+Reason reason_without_rows(const std::string& path) {
+  try {
+    intake::Workbook workbook(path);
+    const intake::Sheet* const sheet = workbook.seen_first();
+    intake::Record record;
+    const bool has_values = sheet != nullptr && workbook.records(*sheet)->next(record);
+    return named(has_values ? "cells_unreadable" : "empty");
+  } catch (const std::exception&) {
+    return named("unreadable");
+  }
+}
+
 Reason reason_of_text(const ImportSeen& seen) {
   const std::vector<char> text = beginning_of(seen.path);
   const std::string_view beginning(text.data(), text.size());
@@ -89,8 +107,7 @@ Reason reason_of_text(const ImportSeen& seen) {
   }
   if (dialect.mixed) return named("mixed_separators");
   if (dialect.quoted) return named("quoted");
-  const bool was_asked = seen.loaded.rows && !seen.verdict.dane.empty();
-  return was_asked ? Reason{} : named("no_numbers");
+  return was_asked(seen) ? Reason{} : named("no_numbers");
 }
 
 // Whether what was imported is to be looked at all the same.
@@ -139,13 +156,17 @@ std::string_view kind_code(FileKind kind) {
 }
 
 Reason reason_of(const ImportSeen& seen, const Findings& findings) {
+  const bool had_points = !seen.read.punkty.empty();
+  if (had_points && findings.outcome != Outcome::imported) return {};  // the doubts say what was the matter with them
   if (!is_suspicious(seen, findings)) return {};
   const FileKind kind = intake::file_kind(seen.path);
   if (const std::string_view code = kind_code(kind); !code.empty()) return named(code);
   if (kind == FileKind::text) return reason_of_text(seen);
   if (findings.outcome == Outcome::imported) return {};
-  const bool no_rows = !seen.loaded.rows || findings.account.rows == 0;
-  return named(no_rows ? "cells_unreadable" : "no_numbers");
+  if (seen.loaded.rows && findings.account.rows > 0) return was_asked(seen) ? Reason{} : named("no_numbers");
+  if (seen.failure && (seen.failure->kind == "MemoryError" || seen.failure->kind == "OverflowError"))
+    return {"unreadable", T("konsola.powod_ponad_miare")};
+  return reason_without_rows(seen.path);
 }
 
 bool can_be_prepared(const Reason& reason) {

@@ -170,6 +170,14 @@ std::span<const Text> doubt_texts() {
        "formule fără rezultat salvat: %d (rândurile %s). Deschideți registrul în programul de calcul și salvați-l din "
        "nou.",
        "formulas without a stored value: %d (rows %s). Open the workbook in a spreadsheet program and save it again."},
+      {"konsola.watp_komorki", "ds",  // rows
+       "wiersze z komórkami, których zapis tu się pomija: %d (wiersze %s). Wszystkie odczytuje vexo-xyz prepare PLIK.",
+       "Zeilen mit Zellen in einer Schreibweise, die hier nicht gelesen wird: %d (Zeilen %s). Alle liest vexo-xyz "
+       "prepare "
+       "DATEI.",
+       "rânduri cu celule într-o scriere care aici nu se citește: %d (rândurile %s). Toate sunt citite de vexo-xyz "
+       "prepare FIȘIER.",
+       "rows with cells in a spelling that is not read here: %d (rows %s). vexo-xyz prepare FILE reads them all."},
       {"konsola.watp_data", "ds",  // rows
        "daty tam, gdzie powinny być numery lub współrzędne: %d (wiersze %s). Sformatuj kolumnę jako tekst lub: "
        "vexo-xyz "
