@@ -142,6 +142,7 @@ Decision by_names(const TableShape& shape) {
         continue;
       }
       std::vector<std::optional<Column>> choices;
+      choices.reserve(heights.size() + 1);
       for (const Candidate& height : heights) choices.emplace_back(height.column);
       if (heights.size() != 1) choices.emplace_back(std::nullopt);
       for (const auto& height : choices) {

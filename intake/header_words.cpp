@@ -293,9 +293,9 @@ Named combined(const std::vector<Named>& said) {
 
 }  // namespace
 
-bool is_unit(std::string_view raw) {
+bool is_unit(std::string_view word) {
   std::string unit;
-  for (const char c : text::trim(raw)) {
+  for (const char c : text::trim(word)) {
     if (c != '[' && c != ']' && c != '(' && c != ')' && c != '.' && c != ' ') unit += text::ascii_lower(c);
   }
   return !unit.empty() && among(kUnits, unit);

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <map>
-#include <optional>
 #include <unordered_set>
 
 #include "intake/cell_number.h"
@@ -125,41 +124,41 @@ bool is_header_of(const std::vector<std::string>& cells) {
 
 // The header nearest to the data: a line of known names, else a line of words as wide as the rows right above them.
 void take_header(TableShape& shape, const Sample& head) {
-  for (auto row = head.rbegin(); row != head.rend(); ++row) {
-    if (!is_header_of(row->cells)) continue;
-    shape.header_line = row->line;
-    shape.names = row->cells;
-    return;
+  auto header = std::find_if(head.rbegin(), head.rend(), [](const Kept& row) { return is_header_of(row.cells); });
+  if (header == head.rend()) {
+    header = std::find_if(head.rbegin(), head.rend(), [](const Kept& row) {
+      return std::any_of(row.cells.begin(), row.cells.end(),
+                         [](const std::string& cell) { return !cell.empty() && !is_unit(cell); });
+    });
+    if (header == head.rend() || header->cells.size() != shape.width || shape.width < 3) return;
+    if (std::any_of(header->cells.begin(), header->cells.end(), is_value)) return;
   }
-  for (auto row = head.rbegin(); row != head.rend(); ++row) {
-    const bool are_units = std::all_of(row->cells.begin(), row->cells.end(),
-                                       [](const std::string& cell) { return cell.empty() || is_unit(cell); });
-    if (are_units) continue;
-    const bool are_words = std::none_of(row->cells.begin(), row->cells.end(), is_value);
-    if (row->cells.size() == shape.width && are_words && shape.width > 2) {
-      shape.header_line = row->line;
-      shape.names = row->cells;
+  shape.header_line = header->line;
+  shape.names = header->cells;
+}
+
+// The names in a comment, parted like the data or by blanks.
+std::vector<std::string> commented_names(std::string_view comment, std::size_t width) {
+  for (const std::string_view separators : {"\t", ";", ",", "|", " \t"}) {
+    std::vector<std::string> cells;
+    for (std::string_view rest = comment; !rest.empty();) {
+      const std::size_t end = std::min(rest.find_first_of(separators), rest.size());
+      const std::string_view cell = text::trim(rest.substr(0, end));
+      if (!cell.empty() || separators.size() == 1) cells.emplace_back(cell);
+      rest.remove_prefix(std::min(end + 1, rest.size()));
     }
-    return;
+    if (cells.size() + 1 >= width && cells.size() <= width + 1 && is_header_of(cells)) return cells;
   }
+  return {};
 }
 
 void take_commented_header(TableShape& shape, const std::vector<std::pair<std::size_t, std::string_view>>& comments) {
-  for (auto comment = comments.rbegin(); comment != comments.rend(); ++comment) {
-    for (const std::string_view separators : {"\t", ";", ",", "|", " \t"}) {
-      std::vector<std::string> cells;
-      std::string_view rest = comment->second;
-      while (!rest.empty()) {
-        const std::size_t end = std::min(rest.find_first_of(separators), rest.size());
-        const std::string_view cell = text::trim(rest.substr(0, end));
-        if (!cell.empty() || separators.size() == 1) cells.emplace_back(cell);
-        rest.remove_prefix(std::min(end + 1, rest.size()));
-      }
-      if (cells.size() + 1 < shape.width || cells.size() > shape.width + 1 || !is_header_of(cells)) continue;
-      shape.header_line = comment->first;
-      shape.names = std::move(cells);
-      return;
-    }
+  for (std::size_t i = comments.size(); i-- > 0;) {
+    auto names = commented_names(comments[i].second, shape.width);
+    if (names.empty()) continue;
+    shape.header_line = comments[i].first;
+    shape.names = std::move(names);
+    return;
   }
 }
 
