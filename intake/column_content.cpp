@@ -24,11 +24,6 @@ bool is_belt_of_latitude(const ColumnContent& column) {
 
 }  // namespace
 
-CellKind kind_of(const ColumnContent& column) {
-  if (column.is_numeric()) return CellKind::number;
-  return 10 * column.numbers <= column.filled ? CellKind::text : CellKind::any;
-}
-
 bool is_within(const TableShape& shape, std::size_t column, double bound) {
   return shape.columns[column].numbers > 0 && size_of(shape.columns[column]) <= bound;
 }
