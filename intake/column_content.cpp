@@ -28,6 +28,8 @@ bool is_within(const TableShape& shape, std::size_t column, double bound) {
   return shape.columns[column].numbers > 0 && size_of(shape.columns[column]) <= bound;
 }
 
+double greatest_size(const TableShape& shape, std::size_t column) { return size_of(shape.columns[column]); }
+
 bool are_degrees(const TableShape& shape, std::size_t a, std::size_t b) {
   const ColumnContent& first = shape.columns[a];
   const ColumnContent& second = shape.columns[b];

@@ -10,6 +10,9 @@ namespace intake {
 /// Whether all numbers of a column lie between -bound and bound; false without numbers.
 [[nodiscard]] bool is_within(const TableShape& shape, std::size_t column, double bound);
 
+/// The greatest of a column's numbers, signs aside.
+[[nodiscard]] double greatest_size(const TableShape& shape, std::size_t column);
+
 /// Whether two columns evidently hold decimal degrees: many decimals, and a latitude that stays in some belt of the
 /// earth, as local metres, which begin near zero, do not.
 [[nodiscard]] bool are_degrees(const TableShape& shape, std::size_t a, std::size_t b);
