@@ -52,7 +52,7 @@ std::string_view key_of(FileStep step) {
 }  // namespace
 
 std::string failure_text(const std::system_error& failure) {
-  const std::string reason = reason_of(failure.code());
+  std::string reason = reason_of(failure.code());
   const auto* const of_file = dynamic_cast<const FileFailure*>(&failure);
   if (of_file == nullptr) return reason;
   return vexo_xyz_impl::filled(key_of(of_file->step()), {std::string_view(reason)});

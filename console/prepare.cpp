@@ -12,6 +12,7 @@
 #include "console/files.h"
 #include "console/prepare_log.h"
 #include "console/report/reasons.h"
+#include "intake/column_content.h"
 #include "intake/columns.h"
 #include "intake/foreign_table.h"
 #include "intake/pair_records.h"
@@ -84,12 +85,13 @@ class Preparation {
   PrepareResult run() {
     if (output_is_refused()) return {kFailure, {}};
     const intake::FileKind kind = intake::file_kind(options_.file);
-    table_ = intake::open_table(options_.file, kind);
+    table_ = intake::open_table(options_.file, kind, options_.sheet);
     if (!table_) {
       const std::string_view code = kind_code(kind);
       say("konsola.powod", {T("konsola.powod_" + std::string(code.empty() ? "unreadable" : code))});
       return {kind == intake::FileKind::unreadable || code.empty() ? kFailure : kNothingImported, {}};
     }
+    if (!sheet_is_there()) return {code_, {}};
     const auto roles = decided_roles();
     if (!roles) return {code_, {}};
     return written(*roles);
@@ -100,6 +102,19 @@ class Preparation {
     print(filled(key, {values.begin(), values.end()}));
   }
   void print(std::string_view text) { out_ << shown_text(text) << std::flush; }
+
+  // Of a workbook the sheet is told where there are several.
+  bool sheet_is_there() {
+    std::string all;
+    for (const std::string& sheet : table_->sheets) all += (all.empty() ? "" : ", ") + sheet;
+    if (table_->records == nullptr) {
+      say("konsola.prep_bez_arkusza", {all});
+      code_ = options_.sheet ? kUsage : kNothingImported;
+      return false;
+    }
+    if (table_->sheets.size() > 1) say("konsola.prep_arkusz", {table_->sheet, all});
+    return true;
+  }
 
   std::optional<Roles> refused(ExitCode code) {
     code_ = code;
@@ -144,6 +159,9 @@ class Preparation {
         say("konsola.prep_kolumny",
             {told(decision.proposals.front().roles), T(ground_key(decision.proposals.front().ground))});
         return decision.proposals.front().roles;
+      case Verdict::maybe_degrees:
+        say("konsola.prep_moze_stopnie");
+        return chosen(decision);
       case Verdict::unclear:
         return chosen(decision);
       case Verdict::degrees:
@@ -177,7 +195,8 @@ class Preparation {
 
   bool are_degrees(const Roles& roles) {
     const Verdict verdict = intake::judged(shape_, roles);
-    if (verdict == Verdict::clear) return false;
+    if (verdict == Verdict::maybe_degrees) say("konsola.prep_moze_stopnie");
+    if (verdict == Verdict::clear || verdict == Verdict::maybe_degrees) return false;
     if (verdict == Verdict::sexagesimal) {
       say("konsola.powod", {T("konsola.powod_dms")});
     } else {
@@ -209,8 +228,7 @@ class Preparation {
     while (const auto typed = lines_.read_line(without_control_characters(T("konsola.prep_wybor")), Completion::none)) {
       const std::string answer(vexo_xyz_impl::text::trim(*typed));
       const auto roles = meant(decision, answer);
-      if (roles && are_degrees(*roles)) return refused(kNothingImported);
-      if (roles) return roles;
+      if (roles) return are_degrees(*roles) ? refused(kNothingImported) : roles;
       say("konsola.prep_zly_wybor", {answer});
       if (lines_.at_end()) break;
     }
@@ -240,13 +258,8 @@ class Preparation {
     form.missing_height = options_.missing_height;
     form.header_line = shape_.header_line;
     form.first_data_line = shape_.first_data_line;
-    // Between blanks a value that is missing moves those behind it; only where the next is no number does it show.
-    const bool is_blank_separated = table_->dialect && table_->dialect->separator == ' ';
-    const auto last = std::find_if(roles.rbegin(), roles.rend(), [](Role role) { return role != Role::other; });
-    const auto behind = static_cast<std::size_t>(roles.rend() - last);
-    if (is_blank_separated && table_->dialect->places.empty() && behind < shape_.width &&
-        shape_.columns[behind].is_numeric()) {
-      form.least_cells = shape_.width;
+    if (table_->dialect && table_->dialect->separator == ' ' && table_->dialect->places.empty()) {
+      for (const intake::ColumnContent& column : shape_.columns) form.kinds.push_back(intake::kind_of(column));
     }
     return form;
   }
@@ -314,7 +327,7 @@ class Preparation {
   [[nodiscard]] std::string repeating(const Roles& roles, const std::filesystem::path& output) const {
     std::string command = "vexo-xyz prepare " + quoted(options_.file) + " -o " + quoted(output.string()) +
                           " --columns " + intake::spelled(roles);
-    if (options_.sheet) command += " --sheet " + quoted(*options_.sheet);
+    if (options_.sheet || table_->sheets.size() > 1) command += " --sheet " + quoted(table_->sheet);
     if (options_.missing_height == intake::MissingHeight::zero) command += " --missing-height zero";
     return command;
   }
@@ -332,7 +345,13 @@ class Preparation {
 }  // namespace
 
 PrepareResult prepare(const PrepareOptions& options, LineSource& lines, std::ostream& out) {
-  return Preparation(options, lines, out).run();
+  try {
+    return Preparation(options, lines, out).run();
+  } catch (const vexo_xyz_impl::Failure& failure) {
+    const std::string text = filled("konsola.prep_blad_odczytu", {failure.kind(), std::string_view(failure.what())});
+    out << shown_text(text) << std::flush;
+    return {kFailure, {}};
+  }
 }
 
 ExitCode run_prepare(const PrepareOptions& options, const Choice& choice, LineSource& lines, std::ostream& out) {

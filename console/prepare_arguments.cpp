@@ -1,6 +1,6 @@
 #include "console/prepare_arguments.h"
 
-#include <map>
+#include <string>
 
 namespace console {
 namespace {
@@ -43,11 +43,14 @@ CLI::App* declare_prepare(CLI::App& app, PrepareArguments& arguments) {
   prepare->add_option("--sheet", options.sheet, "Sheet of a workbook. Default: the one that is seen first")
       ->type_name("NAME");
   prepare
-      ->add_option("--missing-height", options.missing_height,
-                   "What becomes of a row without a height where others have one: 'skip', the default, or 'zero'")
+      ->add_option_function<std::string>(
+          "--missing-height",
+          [&options](const std::string& what) {
+            options.missing_height = what == "zero" ? MissingHeight::zero : MissingHeight::skip;
+          },
+          "What becomes of a row without a height where others have one: 'skip', the default, or 'zero'")
       ->type_name("WHAT")
-      ->transform(CLI::CheckedTransformer(
-          std::map<std::string, MissingHeight>{{"skip", MissingHeight::skip}, {"zero", MissingHeight::zero}}));
+      ->check(CLI::IsMember({"skip", "zero"}));
   prepare->add_flag("--force", options.force, "Replace the file given by -o, and its log, if they exist");
   declare_choice(*prepare, arguments.choice);
   return prepare;

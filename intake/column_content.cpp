@@ -12,14 +12,22 @@ constexpr double kLeastLatitude = 10.0;     // degrees; below it coordinates may
 double size_of(const ColumnContent& column) { return std::max(std::abs(column.least), std::abs(column.greatest)); }
 
 bool mostly_fine(const ColumnContent& column) { return 10 * column.fine >= 8 * column.numbers; }
+bool mostly_finest(const ColumnContent& column) { return 10 * column.finest >= 8 * column.numbers; }
 
+// Away from zero, and narrow unless the decimals are finer than any metre's.
 bool is_belt_of_latitude(const ColumnContent& column) {
   const double least = std::min(std::abs(column.least), std::abs(column.greatest));
-  return size_of(column) <= 90.0 && least >= kLeastLatitude && (column.least > 0) == (column.greatest > 0) &&
-         2.0 * (column.greatest - column.least) <= size_of(column);
+  const bool is_one_sided = least >= kLeastLatitude && (column.least > 0) == (column.greatest > 0);
+  const bool is_narrow = 2.0 * (column.greatest - column.least) <= size_of(column);
+  return size_of(column) <= 90.0 && is_one_sided && (is_narrow || mostly_finest(column));
 }
 
 }  // namespace
+
+CellKind kind_of(const ColumnContent& column) {
+  if (column.is_numeric()) return CellKind::number;
+  return 10 * column.numbers <= column.filled ? CellKind::text : CellKind::any;
+}
 
 bool is_within(const TableShape& shape, std::size_t column, double bound) {
   return shape.columns[column].numbers > 0 && size_of(shape.columns[column]) <= bound;
@@ -36,7 +44,8 @@ bool are_degrees(const TableShape& shape, std::size_t a, std::size_t b) {
 bool may_be_degrees(const TableShape& shape, std::size_t a, std::size_t b) {
   const bool sized = is_within(shape, a, 180.0) && is_within(shape, b, 180.0);
   const bool has_latitude = is_within(shape, a, 90.0) || is_within(shape, b, 90.0);
-  return sized && has_latitude && !shape.columns[a].is_whole() && !shape.columns[b].is_whole();
+  const bool any_latitude = size_of(shape.columns[a]) >= kLeastLatitude || size_of(shape.columns[b]) >= kLeastLatitude;
+  return sized && has_latitude && any_latitude && !shape.columns[a].is_whole() && !shape.columns[b].is_whole();
 }
 
 bool is_numbering(const TableShape& shape, std::size_t column) {
@@ -51,10 +60,10 @@ bool is_numbering(const TableShape& shape, std::size_t column) {
 
 bool may_be_height(const TableShape& shape, std::size_t a, std::size_t b, std::size_t column) {
   const ColumnContent& height = shape.columns[column];
-  if (!height.is_numeric() || size_of(height) > kGreatestHeight || (height.is_constant() && shape.rows > 2))
-    return false;
+  if (!height.is_numeric() || size_of(height) > kGreatestHeight) return false;
   const bool coordinates_whole = shape.columns[a].is_whole() && shape.columns[b].is_whole();
-  return coordinates_whole || !height.is_whole();
+  // A level site has one height, written like the coordinates; a zone or a count is whole.
+  return (coordinates_whole && !height.is_constant()) || 2 * height.whole < height.numbers;
 }
 
 }  // namespace intake

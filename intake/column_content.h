@@ -3,9 +3,13 @@
 
 #include <cstddef>
 
+#include "intake/prepared_file.h"
 #include "intake/table_shape.h"
 
 namespace intake {
+
+/// What nearly all cells of a column are.
+[[nodiscard]] CellKind kind_of(const ColumnContent& column);
 
 /// Whether all numbers of a column lie between -bound and bound; false without numbers.
 [[nodiscard]] bool is_within(const TableShape& shape, std::size_t column, double bound);

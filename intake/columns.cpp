@@ -52,7 +52,8 @@ NamedColumns names_of(const TableShape& shape) {
     if (names_a_coordinate(name.named)) {
       const bool angle = content.sexagesimal > 0;
       const bool zeros = content.is_constant() && content.least == 0.0 && shape.rows > 1;
-      if (content.filled == 0 || (2 * content.numbers < content.filled && !angle)) name.named = Named::other_value;
+      if (content.filled == 0) name.named = Named::other_value;
+      if (2 * content.numbers < content.filled && !angle) name.named = Named::unknown;
       if (zeros && name.named != Named::height) name.named = Named::other_value;
     }
     named.names.push_back(name);
@@ -101,7 +102,11 @@ std::optional<Column> number_by_name(const TableShape& shape, const NamedColumns
     return Column{0};  // what programs put before their first named column
   }
   const auto numbers = named.of(Named::number);
-  return numbers.empty() ? std::nullopt : std::optional(numbers.front().column);
+  if (!numbers.empty()) return numbers.front().column;
+  // A first column of texts that are told apart, whatever its name.
+  const ColumnContent& first = shape.columns.front();
+  const bool are_labels = first.numbers == 0 && first.filled == shape.rows && 10 * first.distinct >= 9 * first.filled;
+  return are_labels && named.names.front().named == Named::unknown ? std::optional(Column{0}) : std::nullopt;
 }
 
 // A column right behind the coordinates that might be a height, were its name understood.
@@ -112,12 +117,21 @@ bool hides_a_height(const TableShape& shape, const NamedColumns& named, Pair pai
   return content.is_numeric() && !content.is_whole() && !content.is_constant();
 }
 
+// Of X, Y, Z side by side the Z is the height, whatever else has a height's name.
+void keep_bare_z(const TableShape& shape, const std::vector<Pair>& pairs, std::vector<Candidate>& heights) {
+  if (pairs.size() != 1) return;
+  const Column behind = std::max(pairs.front().first, pairs.front().second) + 1;
+  const bool is_bare = behind < shape.width && (shape.names[behind] == "Z" || shape.names[behind] == "z");
+  if (is_bare) std::erase_if(heights, [behind](const Candidate& height) { return height.column != behind; });
+}
+
 Decision by_names(const TableShape& shape) {
   const NamedColumns named = names_of(shape);
   const auto axes = pairs_of(plainest(named.of(Named::easting)), plainest(named.of(Named::northing)));
   const auto order = pairs_of(plainest(named.of(Named::x)), plainest(named.of(Named::y)));
   const auto angles = pairs_of(named.of(Named::longitude), named.of(Named::latitude));
-  const auto heights = plainest(named.of(Named::height));
+  auto heights = named.of(Named::height);
+  keep_bare_z(shape, order, heights);
   const auto number = number_by_name(shape, named);
 
   Decision decision;
@@ -219,14 +233,15 @@ Decision by_content(const TableShape& shape) {
   if (are_degrees(shape, a, b)) return {Verdict::degrees, {}};
 
   const bool adjacent = b == a + 1 && a == (numbered ? 1U : 0U);
-  const bool same_kind = shape.columns[a].is_whole() == shape.columns[b].is_whole();
-  const bool starts_clearly = numbered || !shape.columns[a].is_whole() || numeric.size() == 2;
+  const auto mostly_whole = [&](Column i) { return 2 * shape.columns[i].whole >= shape.columns[i].numbers; };
+  const bool same_kind = mostly_whole(a) == mostly_whole(b);
+  const bool starts_clearly = numbered || !mostly_whole(a) || numeric.size() == 2;
   const bool unique = !labels || 2 * shape.columns.front().distinct >= shape.columns.front().filled;
   const bool height_clear =
       behind == 0 || (behind == 1 && numeric[skipped + 2] == b + 1 && may_be_height(shape, a, b, b + 1));
-  const bool clear = adjacent && same_kind && starts_clearly && unique && height_clear && shape.rows > 1 &&
-                     !may_be_degrees(shape, a, b);
+  const bool clear = adjacent && same_kind && starts_clearly && unique && height_clear && shape.rows > 1;
   decision.verdict = clear ? Verdict::clear : Verdict::unclear;
+  if (may_be_degrees(shape, a, b)) decision.verdict = Verdict::maybe_degrees;
   return decision;
 }
 
@@ -265,7 +280,9 @@ Verdict judged(const TableShape& shape, const Roles& roles) {
   if (sexagesimal(coordinates[0]) && sexagesimal(coordinates[1])) return Verdict::sexagesimal;
   if (angle(coordinates[0]) && angle(coordinates[1])) return Verdict::degrees;
   if (shape.projection == Projection::geographic && is_within(shape, coordinates[0], 180.0)) return Verdict::degrees;
-  return are_degrees(shape, coordinates[0], coordinates[1]) ? Verdict::degrees : Verdict::clear;
+  if (are_degrees(shape, coordinates[0], coordinates[1])) return Verdict::degrees;
+  const bool named = names_a_coordinate(header_name(shape.names[coordinates[0]]).named);
+  return !named && may_be_degrees(shape, coordinates[0], coordinates[1]) ? Verdict::maybe_degrees : Verdict::clear;
 }
 
 std::optional<std::size_t> pair_column(const TableShape& shape, const Roles* roles) {

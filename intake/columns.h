@@ -30,6 +30,7 @@ struct Proposal {
 enum class Verdict {
   clear,           ///< the first proposal holds
   unclear,         ///< a person must choose
+  maybe_degrees,   ///< the same, and the numbers may be degrees by their size
   degrees,         ///< decimal degrees, which are no drawing coordinates
   sexagesimal,     ///< degrees, minutes and seconds
   no_coordinates,  ///< no two columns of numbers
@@ -42,7 +43,8 @@ struct Decision {
 
 [[nodiscard]] Decision decide(const TableShape& shape);
 
-/// What forbids roles that a person gave: degrees by name or by their values; `clear` when nothing does.
+/// What forbids roles that a person gave: degrees by name or by their values; `maybe_degrees` is for a
+/// warning, `clear` when there is nothing to say.
 [[nodiscard]] Verdict judged(const TableShape& shape, const Roles& roles);
 
 /// The column that holds both coordinates, "389301,508713": by its name or the points of both; or, with `roles`, when

@@ -1,6 +1,7 @@
 #include "intake/foreign_table.h"
 
 #include "intake/text_records.h"
+#include "intake/workbook.h"
 #include "vexo_xyz_impl/input/file_bytes.h"
 
 namespace intake {
@@ -22,13 +23,28 @@ std::optional<ForeignTable> open_text(const std::string& path) {
   return table;
 }
 
+ForeignTable open_workbook(const std::string& path, const std::optional<std::string>& sheet) {
+  Workbook workbook(path);
+  ForeignTable table;
+  for (const Sheet& seen : workbook.sheets())
+    if (!seen.hidden) table.sheets.push_back(seen.name);
+  const Sheet* const wanted = sheet ? workbook.named(*sheet) : workbook.seen_first();
+  if (wanted == nullptr || wanted->member.empty()) return table;
+  table.sheet = wanted->name;
+  table.records = workbook.records(*wanted);
+  return table;
+}
+
 }  // namespace
 
-std::optional<ForeignTable> open_table(const std::string& path, FileKind kind) {
+std::optional<ForeignTable> open_table(const std::string& path, FileKind kind,
+                                       const std::optional<std::string>& sheet) {
   switch (kind) {
     case FileKind::text:
     case FileKind::utf16:
       return open_text(path);
+    case FileKind::workbook:
+      return open_workbook(path, sheet);
     default:
       return std::nullopt;
   }

@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "intake/cell_number.h"
 #include "vexo_xyz_impl/table/numbers.h"
 #include "vexo_xyz_impl/text/ascii.h"
 #include "vexo_xyz_impl/text/utf8.h"
@@ -65,11 +66,13 @@ constexpr auto kVocabulary = std::to_array<Vocabulary>({
      " date datum data dataora time zeit czas ora godzina uhrzeit timestamp utc datetime created year rok jahr an "
      "anul month day dzien tag created modified "},
     {Named::other_value,
-     " dip azimuth azymut azimut strike plunge polarity roll pitch yaw omega kappa heading kierunek richtung direction "
+     " dip azimuth azymut azimut strike plunge polarity depth tiefe level floor roll pitch yaw omega kappa heading "
+     "kierunek richtung direction "
      "length dlugoscm dist distance odleglosc entfernung strecke distanta chainage hektometr kilometraz glebokosc area "
      "pole flaeche flache suprafata powierzchnia image img pixel px py u v row col column rows cols zeile spalte line "
      "line2 sample radius promien diff delta dx dy dz dh nx ny nz gx gy gz vx vy vz vn ve vu qx qy qz qw rx ry rz red "
-     "green blue intensity returnnumber scale skala massstab weight wt wag speed predkosc porosity permeability ai "
+     "green blue intensity returnnumber scale skala massstab weight wt wag speed predkosc porosity permeability perm "
+     "facies lithology ai normalx normaly normalz "
      "value val wert wartosc valoare hi hr hz v_angle vertical horizontal angle kat winkel unghi temperature temp "
      "count from to ncols nrows xllcorner yllcorner cellsize nodata xllcenter yllcenter "},
 });
@@ -348,7 +351,7 @@ bool is_header(std::span<const std::string_view> cells) {
   for (const std::string_view cell : cells) {
     if (cell.empty()) continue;
     ++filled;
-    if (vexo_xyz_impl::parse_number(cell)) {
+    if (vexo_xyz_impl::parse_number(cell) || is_sexagesimal(cell)) {
       ++numbers;
       continue;
     }

@@ -58,8 +58,9 @@ std::string shown(const Record& record) {
 // What the importer's reader would take for a separator, a line's end or a comment's sign.
 bool needs_change(std::string_view number) {
   const bool is_comment = number.starts_with('#') || number.starts_with("//");
-  return is_comment || std::any_of(number.begin(), number.end(),
-                                   [](char c) { return c == ';' || (static_cast<unsigned char>(c) < 0x20); });
+  return is_comment || number.ends_with(':') || std::any_of(number.begin(), number.end(), [](char c) {
+           return c == ';' || (static_cast<unsigned char>(c) < 0x20);
+         });
 }
 
 std::string changed(std::string_view number) {
@@ -67,6 +68,7 @@ std::string changed(std::string_view number) {
     number.remove_prefix(number.starts_with('#') ? 1 : 2);
     number = text::trim(number);
   }
+  while (number.ends_with(':')) number.remove_suffix(1);  // "P1: 481367 5782936"
   std::string kept(number);
   for (char& c : kept) {
     if (c == ';') c = ',';
@@ -126,7 +128,12 @@ class Writer {
     const auto& cells = record.cells;
     const std::size_t filled = record.cells.size();
     if (record.line == form_.header_line) return RowNote::no_coordinate;
-    if (filled < places_.needed || filled < form_.least_cells) return RowNote::too_few_cells;
+    if (filled < places_.needed) return RowNote::too_few_cells;
+    bool lacks_height = places_.height >= filled;
+    if (filled < form_.kinds.size() && !fits(cells, kNowhere)) {
+      if (filled + 1 != form_.kinds.size() || !fits(cells, places_.height)) return RowNote::too_few_cells;
+      lacks_height = true;
+    }
     append_point_number(record);
     for (const std::size_t place : places_.coordinates) {
       piece_ += ';';
@@ -136,7 +143,7 @@ class Writer {
     }
     if (places_.height != kNowhere) {
       piece_ += ';';
-      if (places_.height >= filled || !append_number(piece_, cells[places_.height])) {
+      if (lacks_height || !append_number(piece_, cells[places_.height])) {
         if (form_.missing_height == MissingHeight::skip) return RowNote::no_height;
         piece_ += '0';
         row_note_ = RowNote::height_set_to_zero;
@@ -144,6 +151,16 @@ class Writer {
     }
     piece_ += '\n';
     return std::nullopt;
+  }
+
+  // Whether the cells are of their columns' kinds, a cell missing before the column `gap`.
+  [[nodiscard]] bool fits(const std::vector<std::string_view>& cells, std::size_t gap) const {
+    for (std::size_t i = 0; i < cells.size(); ++i) {
+      const CellKind kind = form_.kinds[i >= gap ? i + 1 : i];
+      const bool is_number = number_form(cells[i]) != NumberForm::none;
+      if (kind != CellKind::any && is_number != (kind == CellKind::number)) return false;
+    }
+    return true;
   }
 
   void append_point_number(const Record& record) {

@@ -16,13 +16,18 @@ namespace intake {
 
 enum class MissingHeight { skip, zero };
 
+/// What a column holds in nearly all rows.
+enum class CellKind { any, number, text };
+
 /// What is made of the records.
 struct PreparedForm {
   Roles roles;  ///< with both coordinates; without a number the points are counted
   MissingHeight missing_height = MissingHeight::skip;
   std::size_t header_line = 0;      ///< 0 without a header
   std::size_t first_data_line = 0;  ///< what stands before it and holds no point belongs to the head
-  std::size_t least_cells = 0;      ///< a row of fewer does not tell which of its columns is missing
+  /// Between blanks a value that is missing moves those behind it: what a row of fewer cells must hold, column by
+  /// column, to be taken as one that ends early or lacks its height. Empty where cells do not move.
+  std::vector<CellKind> kinds;
 };
 
 /// Why a row gives no point, or what was done to it.

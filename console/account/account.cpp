@@ -71,6 +71,10 @@ void add_left_out(Account& account, const ImportSeen& seen, Places& places) {
   }
 }
 
+void sort_by_line(std::vector<RowWithoutPoint>& rows) {
+  std::stable_sort(rows.begin(), rows.end(), [](const auto& a, const auto& b) { return a.line < b.line; });
+}
+
 void add_refused(Account& account, const ImportSeen& seen, Places& places) {
   const auto& punkty = seen.read.punkty;
   const auto& rows = seen.loaded.rows->rows();
@@ -98,8 +102,9 @@ std::size_t Places::line_of_row(std::size_t row) {
 
 std::size_t Places::line_of_point(std::size_t point) {
   const bool rows_forgotten = seen_.loaded.rows->size() == 0;
-  if (is_text_ && rows_forgotten) return finder_.line_of(seen_.read.punkty[point].nr.data());
-  return line_of_row(row_of_point(point));
+  if (!is_text_ || !rows_forgotten) return line_of_row(row_of_point(point));
+  if (has_number(*seen_.verdict.fmt)) return finder_.line_of(seen_.read.punkty[point].nr.data());
+  return lines_with_rows(seen_.loaded.rows->text())[row_of_point(point)].number;
 }
 
 Account account_of(const ImportSeen& seen, Places& places) {
@@ -110,10 +115,23 @@ Account account_of(const ImportSeen& seen, Places& places) {
                                line.cells_needed != 0 ? Why::too_few_columns : Why::no_number, row_text(line.cells)});
   }
   add_refused(account, seen, places);
-  std::stable_sort(account.skipped.begin(), account.skipped.end(),
-                   [](const auto& a, const auto& b) { return a.line < b.line; });
+  sort_by_line(account.skipped);
   account.points = account.rows - account.left_out.size() - account.skipped.size();
   return account;
+}
+
+void take_points_back(Account& account, const ImportSeen& seen, const Places& places) {
+  std::vector<Line> lines;
+  if (is_text(seen)) lines = lines_with_rows(seen.loaded.rows->text());
+  for (std::size_t i = 0; i < seen.read.punkty.size(); ++i) {
+    const PointRecord& point = seen.read.punkty[i];
+    if (!is_sound(Position{point.x, point.y, point.z})) continue;  // counted before
+    const std::size_t row = places.row_of_point(i);
+    const Line line = is_text(seen) ? lines[row] : Line{row + 1, point.nr};
+    account.skipped.push_back({line.number, Why::not_imported, row_text(Row(std::span(&line.text, 1)))});
+  }
+  sort_by_line(account.skipped);
+  account.points = 0;
 }
 
 Account account_without_points(const ImportSeen& seen) {

@@ -67,6 +67,9 @@ class Places {
 /// The account of an import whose rows were taken apart just now.
 [[nodiscard]] Account account_of(const vexo_xyz_impl::ImportSeen& seen, Places& places);
 
+/// Corrects the account of an import that failed after it was taken: no point is in a drawing.
+void take_points_back(Account& account, const vexo_xyz_impl::ImportSeen& seen, const Places& places);
+
 /// The account of an import that made no points: each row with the reason it would have had, or that nothing was
 /// imported.
 [[nodiscard]] Account account_without_points(const vexo_xyz_impl::ImportSeen& seen);

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <span>
 #include <string_view>
+#include <vector>
 
 #include "vexo_xyz_impl/input/row.h"
 
@@ -18,6 +19,15 @@ struct LineCounts {
 
 /// Counts the lines of the text that `rows` were read of, in its order. Lines without a row are comments or blank.
 [[nodiscard]] LineCounts count_lines(std::string_view text, std::span<const vexo_xyz_impl::Row> rows);
+
+/// A line of a text, without its end.
+struct Line {
+  std::size_t number = 0;
+  std::string_view text;
+};
+
+/// The lines that give rows, for when the rows are forgotten: all but comments and blank ones.
+[[nodiscard]] std::vector<Line> lines_with_rows(std::string_view text);
 
 /// Finds the line of places in a text. Places asked for in rising order cost one pass over the text in all.
 class LineFinder {

@@ -62,12 +62,6 @@ void append(std::vector<Doubt>& doubts, std::vector<Doubt> more) {
   std::move(more.begin(), more.end(), std::back_inserter(doubts));
 }
 
-// Of an import that failed after all the points were no points: none is in a drawing.
-void take_points_back(Account& account, const ImportSeen& seen, Places& places) {
-  for (std::size_t i = 0; i < seen.read.punkty.size() && account.points > 0; ++i, --account.points)
-    account.skipped.push_back({places.line_of_point(i), Why::not_imported, std::string(seen.read.punkty[i].nr)});
-}
-
 }  // namespace
 
 void ImportWatcher::rows_taken_apart(const ImportSeen& seen) {
@@ -122,6 +116,7 @@ std::string ImportWatcher::beside_reading(vexo_xyz_impl::host::AxisOrder order, 
 void print_findings(const Findings& findings) {
   if (findings.outcome == Outcome::imported) print_account(findings.account);
   for (const Doubt& doubt : findings.doubts) vexo_xyz_impl::print("konsola.watpliwosc", {std::string_view(doubt.text)});
+  if (!findings.reason.code.empty()) vexo_xyz_impl::print("konsola.powod", {std::string_view(findings.reason.text)});
 }
 
 }  // namespace console

@@ -156,12 +156,16 @@ std::string_view kind_code(FileKind kind) {
 }
 
 Reason reason_of(const ImportSeen& seen, const Findings& findings) {
+  const bool had_points = !seen.read.punkty.empty();
+  if (had_points && findings.outcome != Outcome::imported) return {};  // the doubts say what was the matter with them
   if (!is_suspicious(seen, findings)) return {};
   const FileKind kind = intake::file_kind(seen.path);
   if (const std::string_view code = kind_code(kind); !code.empty()) return named(code);
   if (kind == FileKind::text) return reason_of_text(seen);
   if (findings.outcome == Outcome::imported) return {};
   if (seen.loaded.rows && findings.account.rows > 0) return was_asked(seen) ? Reason{} : named("no_numbers");
+  if (seen.failure && (seen.failure->kind == "MemoryError" || seen.failure->kind == "OverflowError"))
+    return {"unreadable", T("konsola.powod_ponad_miare")};
   return reason_without_rows(seen.path);
 }
 

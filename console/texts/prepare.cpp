@@ -7,6 +7,22 @@ std::span<const Text> prepare_texts() {
   static constexpr auto kTexts = std::to_array<Text>({
       {"konsola.prep_kolumny", "ss",  // roles, what they were told from
        "Kolumny: %s (%s)\n", "Spalten: %s (%s)\n", "Coloane: %s (%s)\n", "Columns: %s (%s)\n"},
+      {"konsola.prep_arkusz", "ss",  // sheet, all sheets
+       "Arkusz: %s (w skoroszycie: %s; inny podaje --sheet)\n",
+       "Blatt: %s (in der Mappe: %s; ein anderes mit --sheet)\n", "Foaia: %s (în registru: %s; alta cu --sheet)\n",
+       "Sheet: %s (in the workbook: %s; --sheet names another)\n"},
+      {"konsola.prep_bez_arkusza", "s",  // sheets
+       "W skoroszycie nie ma takiego arkusza z komórkami. Arkusze: %s\n",
+       "Die Mappe hat kein solches Blatt mit Zellen. Blätter: %s\n",
+       "Registrul nu are o asemenea foaie cu celule. Foi: %s\n",
+       "The workbook has no such sheet with cells. Sheets: %s\n"},
+      {"konsola.prep_blad_odczytu", "ss",  // kind of failure, its text
+       "Nie można odczytać pliku: %s: %s\n", "Die Datei ist nicht lesbar: %s: %s\n",
+       "Fișierul nu poate fi citit: %s: %s\n", "The file cannot be read: %s: %s\n"},
+      {"konsola.prep_moze_stopnie", "", "Liczby mogą być też stopniami, których rysunek nie przyjmie.\n",
+       "Die Zahlen könnten auch Grad sein, mit denen eine Zeichnung nichts anfängt.\n",
+       "Numerele pot fi și grade, pe care desenul nu le folosește.\n",
+       "The numbers may be degrees as well, which are no drawing coordinates.\n"},
       {"konsola.prep_z_nazw", "", "z nazw w nagłówku", "nach den Namen im Kopf", "după numele din antet",
        "from the names in the header"},
       {"konsola.prep_z_ukladu", "", "z linii układu współrzędnych nad danymi",

@@ -120,6 +120,12 @@ std::span<const Text> reason_texts() {
        "the workbook holds no cells in the spelling that is read here. Use vexo-xyz prepare FILE, or save the "
        "worksheet as "
        "CSV."},
+      {"konsola.powod_ponad_miare", "",
+       "skoroszyt jest większy, niż tu się czyta. Zostaw w nim tylko punkty lub zapisz arkusz jako CSV.",
+       "Die Arbeitsmappe ist größer, als hier gelesen wird. Bitte nur die Punkte darin lassen oder das Blatt als CSV "
+       "speichern.",
+       "registrul este mai mare decât se citește aici. Lăsați în el numai punctele sau salvați foaia ca CSV.",
+       "the workbook is larger than is read here. Keep the points alone in it, or save the worksheet as CSV."},
       {"konsola.powod_empty", "", "plik jest pusty.", "Die Datei ist leer.", "fișierul este gol.",
        "the file is empty."},
       {"konsola.powod_no_numbers", "",

@@ -11,6 +11,7 @@ import zipfile
 HERE = pathlib.Path(__file__).resolve().parent
 sys.path[:0] = [str(HERE), str(HERE / "vexo_xyz")]
 
+import vexo_miejsca
 import vexo_xyz_impl
 from pygcad.stand_in import session
 
@@ -36,3 +37,4 @@ workbook_of(lines, workbook)
 from_text, from_workbook = entities_of(survey), entities_of(workbook)
 assert len(from_text) == 2 * (len(lines) - 1), session.shown  # a point and its number for each line below the header
 assert from_workbook == from_text, session.shown
+assert vexo_miejsca.najblizsze_miejsce(52.23, 21.01)[0] == "Warszawa"
