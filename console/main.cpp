@@ -36,6 +36,7 @@ struct Arguments {
   std::string file;
   std::string output;
   bool force = false;
+  bool prepare_too = false;
   std::string report;
   std::string first_column;
   std::string axes;
@@ -55,6 +56,8 @@ void declare(CLI::App& app, Arguments& arguments) {
                  "Write what came of the import: every row without a point, every doubt; JSON where the name ends with "
                  ".json, else text")
       ->type_name("OUT.txt|OUT.json");
+  app.add_flag("--prepare", arguments.prepare_too,
+               "Make a file that is not read as it stands into one that is (see 'prepare'), and import that, unasked");
   app.add_option("--first-column", arguments.first_column,
                  "What the first column holds, should the file not tell: 'number' or 'coordinate'")
       ->type_name("WHAT")
@@ -68,8 +71,12 @@ void declare(CLI::App& app, Arguments& arguments) {
   console::declare_choice(app, arguments.choice);
 }
 
+bool at_a_terminal() { return isatty(STDIN_FILENO) != 0 && isatty(STDOUT_FILENO) != 0; }
+
 console::SessionOptions options_of(const CLI::App& app, const Arguments& arguments) {
   console::SessionOptions options;
+  options.prepare = arguments.prepare_too;
+  options.interactive = at_a_terminal();
   if (app.count("FILE") > 0) options.file = arguments.file;
   if (app.count("-o") > 0) options.output = arguments.output;
   options.force = arguments.force;
@@ -95,8 +102,7 @@ void use_utf8_locale() {
 }
 
 std::unique_ptr<console::LineSource> typed_lines() {
-  const bool terminal = isatty(STDIN_FILENO) != 0 && isatty(STDOUT_FILENO) != 0;
-  return terminal ? console::lines_of_terminal(std::cout) : console::lines_of_stream(std::cin, std::cout);
+  return at_a_terminal() ? console::lines_of_terminal(std::cout) : console::lines_of_stream(std::cin, std::cout);
 }
 
 int run(int argc, char** argv) {

@@ -7,9 +7,12 @@
 #include "console/dxf/dxf_writer.h"
 #include "console/failure_text.h"
 #include "console/files.h"
+#include "console/prepare.h"
+#include "console/report/reasons.h"
 #include "console/report/report_file.h"
 #include "vexo_xyz_impl/command/module.h"
 #include "vexo_xyz_impl/command/questions.h"
+#include "vexo_xyz_impl/input/declared_columns.h"
 #include "vexo_xyz_impl/messages.h"
 #include "vexo_xyz_impl/notices.h"
 
@@ -27,6 +30,8 @@ std::string_view code_page_of(std::string_view market) { return market == "DE" ?
 
 Session::Session(SessionOptions options, LineSource& lines, std::ostream& out)
     : options_(std::move(options)),
+      lines_(lines),
+      out_(out),
       dialogue_(lines, out, database_.drawing().variables, options_.file, options_.answers),
       siblings_(family(database_, options_.choice)),
       entered_({{dialogue_, database_, siblings_, nullptr, this, &watcher_}, vexo_xyz_impl::bind_siblings(siblings_)}) {
@@ -38,13 +43,22 @@ void Session::command(std::string_view local_name, std::string_view /*global_nam
   if (local_name == vexo_xyz_impl::kCommandName) import_ = std::move(function);
 }
 
+// Whether the path names what points are read from, as the user chose it or as it was made of that.
+bool Session::is_file_of_points(const std::filesystem::path& path) const {
+  const auto is_same = [&path](const std::filesystem::path& points) {
+    std::error_code ignored;
+    return std::filesystem::equivalent(path, points, ignored);
+  };
+  return is_same(vexo_xyz_impl::clean_path(options_.file.value_or(dialogue_.path()))) || is_same(source()) ||
+         is_same(dialogue_.path());
+}
+
 // Whether the drawing may not have the name asked for, the user told: an existing file is replaced only when that is
 // asked for, and the file of points never.
 bool Session::output_is_refused() {
   if (!options_.output) return false;
-  const std::string source = options_.file.value_or(dialogue_.path());
   std::error_code ignored;
-  if (std::filesystem::equivalent(*options_.output, vexo_xyz_impl::clean_path(source), ignored)) {
+  if (is_file_of_points(*options_.output)) {
     say("konsola.plik_zrodlowy", {options_.output->string()});
     return true;
   }
@@ -72,11 +86,9 @@ void Session::warn_of_unknown_market() {
 bool Session::report_is_refused() {
   if (!options_.report) return false;
   std::error_code ignored;
-  const std::filesystem::path source = vexo_xyz_impl::clean_path(options_.file.value_or(dialogue_.path()));
-  const bool is_source = std::filesystem::equivalent(*options_.report, source, ignored);
   const bool is_drawing = options_.output && options_.report->lexically_normal() == options_.output->lexically_normal();
   const auto status = std::filesystem::status(*options_.report, ignored);
-  if (is_source) {
+  if (is_file_of_points(*options_.report)) {
     say("konsola.plik_zrodlowy", {options_.report->string()});
   } else if (is_drawing || (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status))) {
     say("konsola.raport_blad", {options_.report->string(), vexo_xyz_impl::T("konsola.powod_nie_plik")});
@@ -92,9 +104,40 @@ ExitCode Session::run() {
   return save_report(import_and_save());
 }
 
-ExitCode Session::import_and_save() {
+CommandOutcome Session::import_once() {
   const CommandOutcome outcome = import_();
   print_findings(watcher_.findings());
+  return outcome;
+}
+
+// Whether a file that gave no points is to be made into one that does; if so, it is, and stands ready to be imported.
+bool Session::prepares_instead() {
+  if (database_.drawing().entity_count() > 0 || !can_be_prepared(watcher_.findings().reason)) return false;
+  if (!options_.prepare) {
+    if (!options_.interactive) return false;
+    if (!dialogue_.confirms("konsola.prompt_przygotuj")) return false;
+  }
+  const std::filesystem::path file = source();
+  PrepareOptions options;
+  options.file = file.string();
+  const PrepareResult prepared = prepare(options, lines_, out_);
+  if (prepared.code != kImported) return false;
+  prepared_from_ = file;
+  // What was told of the axes is the file's order, which the prepared one no longer has where it knows E and N.
+  const auto declared = vexo_xyz_impl::declared_columns(prepared.output.string());
+  if (declared && declared->east_north) options_.axes.reset();
+  dialogue_.choose_file(prepared.output.string());
+  return true;
+}
+
+// The file that the user chose, whatever it was made into.
+std::filesystem::path Session::source() const {
+  return prepared_from_ ? *prepared_from_ : std::filesystem::path(vexo_xyz_impl::clean_path(dialogue_.path()));
+}
+
+ExitCode Session::import_and_save() {
+  CommandOutcome outcome = import_once();
+  if (prepares_instead()) outcome = import_once();
   for (const std::string_view option : dialogue_.unused_options()) say("konsola.opcja_zbedna", {std::string(option)});
   if (outcome == CommandOutcome::failed) {
     if (database_.drawing().entity_count() > 0) say("konsola.nie_zapisano", {});
@@ -109,8 +152,7 @@ ExitCode Session::import_and_save() {
 
 ExitCode Session::save() {
   if (output_is_refused()) return kFailure;  // a path that was typed is known only now
-  const std::string wanted = options_.output ? options_.output->string()
-                                             : drawing_name(vexo_xyz_impl::clean_path(dialogue_.path()), 1).string();
+  const std::string wanted = options_.output ? options_.output->string() : drawing_name(source(), 1).string();
   try {
     say("konsola.zapisano", {write_drawing().string()});
     return kImported;
@@ -134,8 +176,8 @@ ExitCode Session::save_report(ExitCode so_far) {
 }
 
 std::filesystem::path Session::write_drawing() {
-  const std::filesystem::path source = vexo_xyz_impl::clean_path(dialogue_.path());
-  AtomicFile file(options_.output ? options_.output->parent_path() : source.parent_path());
+  const std::filesystem::path points = source();
+  AtomicFile file(options_.output ? options_.output->parent_path() : points.parent_path());
   const std::string market =
       vexo_xyz_impl::host::load_sibling<vexo_xyz_impl::host::Market>(siblings_, "vexo_rynek")->rynek();
   write_dxf(database_.drawing(), code_page_of(market), file);
@@ -145,7 +187,7 @@ std::filesystem::path Session::write_drawing() {
     throw FileFailure(FileStep::rename, EEXIST);
   }
   for (int number = 1; number <= kMostNames; ++number) {
-    std::filesystem::path name = drawing_name(source, number);
+    std::filesystem::path name = drawing_name(points, number);
     if (file.commit(name, false)) return name;
   }
   throw FileFailure(FileStep::rename, EEXIST);

@@ -25,6 +25,8 @@ struct SessionOptions {
   std::vector<PreparedAnswer> answers;
   std::optional<vexo_xyz_impl::host::AxisOrder> axes;  ///< which coordinate stands first, told beforehand
   std::optional<std::filesystem::path> report;         ///< where what came of the import is written
+  bool prepare = false;      ///< a file that the importer does not read is made into one that it reads
+  bool interactive = false;  ///< somebody is there to be offered that
 };
 
 /// Exit codes of the program.
@@ -44,16 +46,23 @@ class Session final : private vexo_xyz_impl::host::CommandTable, private vexo_xy
   std::string beside_reading(vexo_xyz_impl::host::AxisOrder order, double share) override {
     return watcher_.beside_reading(order, share);
   }
+  [[nodiscard]] bool is_file_of_points(const std::filesystem::path& path) const;
   [[nodiscard]] bool output_is_refused();
   [[nodiscard]] bool report_is_refused();
   void warn_of_unknown_market();
   ExitCode import_and_save();
+  vexo_xyz_impl::host::CommandOutcome import_once();
+  [[nodiscard]] bool prepares_instead();
+  [[nodiscard]] std::filesystem::path source() const;
   ExitCode save();
   ExitCode save_report(ExitCode so_far);
   std::filesystem::path write_drawing();
   void say(std::string_view key, const std::vector<std::string>& values);
 
   SessionOptions options_;
+  LineSource& lines_;
+  std::ostream& out_;
+  std::optional<std::filesystem::path> prepared_from_;  // the file that the user chose
   Database database_;
   Dialogue dialogue_;
   SiblingRegistry siblings_;

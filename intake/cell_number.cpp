@@ -72,10 +72,12 @@ Spelling spelling_of(std::string_view cell) {
   spelling.plain.append(cell, at, count);
   std::size_t all = count;
   at += count;
+  char grouping = '\0';
   while (count > 0 && at < cell.size()) {
     const bool is_mark = cell[at] == ',' || cell[at] == '.';
     const std::size_t gap = is_mark ? (parts_thousands(cell, at) ? 1 : 0) : gap_at(cell, at);
     if (gap == 0) break;
+    if (is_mark) grouping = cell[at];
     if (all > 3 && all == count) return {};  // the first group has at most three
     count = digits_at(cell, at + gap);
     if (count != 3) return {};
@@ -84,7 +86,7 @@ Spelling spelling_of(std::string_view cell) {
     all += count;
   }
   spelling.form = NumberForm::whole;
-  if (at < cell.size() && (cell[at] == '.' || cell[at] == ',')) {
+  if (at < cell.size() && (cell[at] == '.' || cell[at] == ',') && cell[at] != grouping) {
     spelling.form = cell[at] == '.' ? NumberForm::point : NumberForm::comma;
     const std::size_t fraction = digits_at(cell, at + 1);
     spelling.plain += '.';
@@ -165,6 +167,12 @@ std::size_t pair_break(std::string_view cell) {
     if (fits(first) && fits(second)) return at;
   }
   return std::string_view::npos;
+}
+
+bool is_long_pair(std::string_view cell) {
+  constexpr std::size_t kLong = 4;
+  const std::size_t at = pair_break(cell);
+  return at != std::string_view::npos && at >= kLong && cell.size() - at > kLong;
 }
 
 bool is_pair(std::string_view cell) {

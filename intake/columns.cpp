@@ -130,7 +130,7 @@ Decision by_names(const TableShape& shape) {
   const auto axes = pairs_of(plainest(named.of(Named::easting)), plainest(named.of(Named::northing)));
   const auto order = pairs_of(plainest(named.of(Named::x)), plainest(named.of(Named::y)));
   const auto angles = pairs_of(named.of(Named::longitude), named.of(Named::latitude));
-  auto heights = plainest(named.of(Named::height));
+  auto heights = named.of(Named::height);
   keep_bare_z(shape, order, heights);
   const auto number = number_by_name(shape, named);
 

@@ -66,9 +66,14 @@ struct LineCells {
   Record record;
 };
 
+// Angles are numbers here, and a cell may hold both coordinates.
 std::size_t numbers_among(const std::vector<std::string_view>& cells) {
-  return static_cast<std::size_t>(std::count_if(
-      cells.begin(), cells.end(), [](std::string_view cell) { return number_form(cell) != NumberForm::none; }));
+  std::size_t numbers = 0;
+  for (const std::string_view cell : cells) {
+    if (is_pair(cell) || is_long_pair(cell)) ++numbers;
+    if (number_form(cell) != NumberForm::none || is_pair(cell) || is_sexagesimal(cell)) ++numbers;
+  }
+  return numbers;
 }
 
 SeparatorEvidence evidence_for(char separator, const std::vector<std::string_view>& lines) {

@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "intake/cell_number.h"
 #include "vexo_xyz_impl/table/numbers.h"
 #include "vexo_xyz_impl/text/ascii.h"
 #include "vexo_xyz_impl/text/utf8.h"
@@ -350,7 +351,7 @@ bool is_header(std::span<const std::string_view> cells) {
   for (const std::string_view cell : cells) {
     if (cell.empty()) continue;
     ++filled;
-    if (vexo_xyz_impl::parse_number(cell)) {
+    if (vexo_xyz_impl::parse_number(cell) || is_sexagesimal(cell)) {
       ++numbers;
       continue;
     }

@@ -176,12 +176,6 @@ Projection projection_in(std::string_view line) {
   return projected ? Projection::projected : Projection::none;
 }
 
-std::size_t long_numbers(std::string_view pair) {
-  const std::size_t at = pair_break(pair);
-  if (at == std::string_view::npos) return 0;
-  return at >= 4 && pair.size() - at > 4 ? 1 : 0;
-}
-
 void see_content(TableShape& shape, const Sample& sample, const std::vector<bool>& columns) {
   shape.columns.resize(shape.width);
   std::vector<std::unordered_set<std::string_view>> distinct(shape.width);
@@ -198,7 +192,7 @@ void see_content(TableShape& shape, const Sample& sample, const std::vector<bool
       distinct[i].insert(cell);
       column.sexagesimal += is_sexagesimal(cell) ? 1 : 0;
       column.pairs += is_pair(cell) ? 1 : 0;
-      column.whole_pairs += long_numbers(cell);
+      column.whole_pairs += is_long_pair(cell) ? 1 : 0;
       std::string plain;
       if (!append_number(plain, cell)) continue;
       const double value = vexo_xyz_impl::_num(plain);
@@ -232,7 +226,11 @@ TableShape shape_of(Records& records, const std::vector<std::pair<std::size_t, s
   for (const auto& [line, said] : comments) {
     if (const Projection here = projection_in(said); here != Projection::none) shape.projection = here;
   }
-  if (first == sample.end()) return shape;
+  if (first == sample.end()) {
+    shape.columns.resize(shape.width);
+    shape.names.resize(shape.width);
+    return shape;
+  }
   shape.first_data_line = first->line;
   if (!take_names_by_line(shape, head)) take_header(shape, head);
   if (shape.header_line == 0) take_commented_header(shape, comments);

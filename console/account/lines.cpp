@@ -40,6 +40,8 @@ std::size_t line_count(std::string_view text) {
   return line_ends(text, text.size()) + (unended ? 1 : 0);
 }
 
+bool is_line_end(char c) { return c == '\n' || c == '\r'; }
+
 bool is_comment(std::string_view line) {
   const std::string_view trimmed = vexo_xyz_impl::text::trim(line);
   return trimmed.starts_with('#') || trimmed.starts_with("//");
@@ -54,36 +56,41 @@ bool is_blank(std::string_view line) {
   return true;
 }
 
-// Of the lines that are whole in `between`, what stands between the rows on both its sides, those that are comments.
-std::size_t comments_in(std::string_view between) {
+std::size_t comments_in(std::string_view lines) {
   std::size_t comments = 0;
-  if (between.find_first_of("#/") == std::string_view::npos) return 0;
-  while (!between.empty()) {
-    const std::size_t end = std::min(between.find_first_of("\r\n"), between.size());
-    comments += is_comment(between.substr(0, end)) ? 1 : 0;
-    between.remove_prefix(std::min(end + 1, between.size()));
+  while (!lines.empty()) {
+    const std::size_t end = std::min(lines.find_first_of("\r\n"), lines.size());
+    comments += is_comment(lines.substr(0, end)) ? 1 : 0;
+    lines.remove_prefix(std::min(end + 1, lines.size()));
   }
   return comments;
 }
+
+// Without the beginning of a line behind them.
+std::string_view whole_lines(std::string_view text) { return text.substr(0, text.find_last_of("\r\n") + 1); }
 
 }  // namespace
 
 LineCounts count_lines(std::string_view text, std::span<const Row> rows) {
   LineCounts counts;
-  counts.lines = line_count(text);
-  if (counts.lines == rows.size()) return counts;
-  const char* after = text.data() + (text.starts_with(kByteOrderMark) ? kByteOrderMark.size() : 0);  // the row before
-  const auto count_up_to = [&](const char* place) {
-    counts.comments += comments_in({after, static_cast<std::size_t>(place - after)});
+  const auto add_lines = [&counts](std::string_view lines) {
+    const std::size_t comments = comments_in(lines);
+    counts.comments += comments;
+    counts.blank += line_count(lines) - comments;
   };
+  if (text.starts_with(kByteOrderMark)) text.remove_prefix(kByteOrderMark.size());
+  const char* after = text.data();  // the line of the row before
   const char* const end = text.data() + text.size();
   for (const Row row : rows) {
-    count_up_to(row[0].data());
+    const char* const begin = row[0].data();
+    if (begin != after) add_lines(whole_lines({after, begin}));
     const Cell last = row[row.size() - 1];
-    after = std::find_if(last.data() + last.size(), end, [](char c) { return c == '\n' || c == '\r'; });
+    after = last.data() + last.size();
+    if (after != end && *after != '\n') after = std::find_if(after, end, is_line_end);
+    if (after != end) after += std::string_view(after, end).starts_with("\r\n") ? 2 : 1;
   }
-  count_up_to(end);
-  counts.blank = counts.lines - rows.size() - counts.comments;
+  add_lines({after, end});
+  counts.lines = rows.size() + counts.comments + counts.blank;
   return counts;
 }
 

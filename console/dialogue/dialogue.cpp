@@ -76,6 +76,10 @@ std::pair<PromptStatus, std::string> Dialogue::gcedGetKword(std::string_view pro
     gcutPrintf(std::string(prompt) + *word + "\n");
     return {RTNORM, std::move(*word)};
   }
+  return typed_keyword(prompt);
+}
+
+std::pair<PromptStatus, std::string> Dialogue::typed_keyword(std::string_view prompt) {
   while (true) {
     const auto typed = lines_.read_line(without_control_characters(prompt), Completion::none);
     if (!typed) return {RTCAN, {}};
@@ -85,6 +89,15 @@ std::pair<PromptStatus, std::string> Dialogue::gcedGetKword(std::string_view pro
     if (meant.size() == 1) return {RTNORM, std::move(meant.front())};
     explain(answer, meant.size());
   }
+}
+
+bool Dialogue::confirms(std::string_view prompt_key) {
+  const std::string yes = vexo_xyz_impl::T("konsola.tak");
+  const std::string no = vexo_xyz_impl::T("konsola.nie");
+  keywords_ = {yes, no};
+  const auto [status, word] = typed_keyword(
+      vexo_xyz_impl::filled(prompt_key, {std::string_view(yes), std::string_view(no), std::string_view(yes)}));
+  return status == RTNONE || (status == RTNORM && word == yes);
 }
 
 std::optional<std::string> Dialogue::prepared_word() {

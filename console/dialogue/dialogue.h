@@ -42,6 +42,12 @@ class Dialogue final : public vexo_xyz_impl::host::CommandLine {
   vexo_xyz_impl::host::PromptStatus gcedSetVar(std::string_view name,
                                                const vexo_xyz_impl::host::resbuf& value) override;
 
+  /// The file to be imported next, in the place of the one given or typed.
+  void choose_file(std::string path) { file_ = std::move(path); }
+
+  /// A question of the program's own, answered by yes, which is Enter, or no. Escape and the end of input are no.
+  [[nodiscard]] bool confirms(std::string_view prompt_key);
+
   /// Path of the file that was asked for, given or typed; as the command was told it.
   [[nodiscard]] const std::string& path() const { return path_; }
 
@@ -50,6 +56,7 @@ class Dialogue final : public vexo_xyz_impl::host::CommandLine {
 
  private:
   [[nodiscard]] std::optional<std::string> prepared_word();
+  std::pair<vexo_xyz_impl::host::PromptStatus, std::string> typed_keyword(std::string_view prompt);
   void explain(const std::string& answer, std::size_t matches);
 
   LineSource& lines_;

@@ -116,6 +116,7 @@ std::string ImportWatcher::beside_reading(vexo_xyz_impl::host::AxisOrder order, 
 void print_findings(const Findings& findings) {
   if (findings.outcome == Outcome::imported) print_account(findings.account);
   for (const Doubt& doubt : findings.doubts) vexo_xyz_impl::print("konsola.watpliwosc", {std::string_view(doubt.text)});
+  if (!findings.reason.code.empty()) vexo_xyz_impl::print("konsola.powod", {std::string_view(findings.reason.text)});
 }
 
 }  // namespace console

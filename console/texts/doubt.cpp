@@ -137,12 +137,16 @@ std::span<const Text> doubt_texts() {
        "ori.",
        "points where another point lies already: %d (lines %s). Check whether it was measured twice."},
       {"konsola.watp_przecinek", "ss",  // a number, lines
-       "numery punktów zawierają przecinki („%s”; linie %s): czy kolumny oddzielają przecinki? Odczytaj je: vexo-xyz "
+       "numery punktów zawierają znak, który zapewne oddziela kolumny („%s”; linie %s). Odczytaj je bez niego: "
+       "vexo-xyz "
        "prepare PLIK.",
-       "Punktnummern enthalten Kommas („%s“; Zeilen %s): trennen Kommas die Spalten? Dann: vexo-xyz prepare DATEI.",
-       "numerele punctelor conțin virgule („%s”; liniile %s): coloanele sunt despărțite prin virgule? Atunci: vexo-xyz "
-       "prepare FIȘIER.",
-       "point numbers hold commas (“%s”; lines %s): do commas separate the columns? Then: vexo-xyz prepare FILE."},
+       "Punktnummern enthalten ein Zeichen, das wohl Spalten trennt („%s“; Zeilen %s). Ohne es einlesen: vexo-xyz "
+       "prepare DATEI.",
+       "numerele punctelor conțin un semn care probabil desparte coloanele („%s”; liniile %s). Citiți-le fără el: "
+       "vexo-xyz prepare FIȘIER.",
+       "point numbers hold a mark that seems to separate columns (“%s”; lines %s). Read them without it: vexo-xyz "
+       "prepare "
+       "FILE."},
 
       // Rows
       {"konsola.watp_wiersze", "ds",  // rows, lines

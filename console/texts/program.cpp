@@ -5,6 +5,13 @@ namespace console {
 
 std::span<const Text> program_texts() {
   static constexpr auto kTexts = std::to_array<Text>({
+      {"konsola.prompt_przygotuj", "sss",  // yes, no, default
+       "Przygotować z niego plik, który da się wczytać? [%s/%s] <%s>: ",
+       "Daraus eine Datei machen, die sich einlesen lässt? [%s/%s] <%s>: ",
+       "Se face din el un fișier care poate fi citit? [%s/%s] <%s>: ",
+       "Make a file of it that can be read? [%s/%s] <%s>: "},
+      {"konsola.tak", "", "Tak", "Ja", "Da", "Yes"},
+      {"konsola.nie", "", "Nie", "Nein", "Nu", "No"},
       {"konsola.zle_slowo", "ss",  // answer, words
        "Nie ma takiej odpowiedzi: „%s”. Możliwe: %s (wystarczy początek słowa).\n",
        "Diese Antwort gibt es nicht: „%s“. Möglich: %s (der Wortanfang genügt).\n",

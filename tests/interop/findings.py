@@ -75,6 +75,9 @@ CASES = {
                                   ["comma_in_label"], None, [], []),
     "columns left open": (rows("{n} {x} {y} {z}", points=LOCAL[:2]), [], "nothing", 0, [], None, [], [1, 2]),
     "commas": (rows("{n},{x},{y},{z}"), [], "nothing", 0, [], "comma_separated", list(range(1, 13)), []),
+    "commas, prepared": ("\n".join(["POINT,NORTH,EAST,ELEV"] + [f"{i},{x:.2f},{y:.2f},{z:.2f}" for i, (x, y, z)
+                                                               in enumerate(GRID)]) + "\n", ["--prepare"],
+                         "imported", 12, [], None, [], []),
     "pipes": (rows("{n}|{x}|{y}|{z}"), [], "nothing", 0, [], "pipe_separated", list(range(1, 13)), []),
     "quotes": (rows('"P{n}";"{x}";"{y}";"{z}"'), [], "nothing", 0, [], "quoted", list(range(1, 13)), []),
     "UTF-16": (SOUND.encode("utf-16"), [], "nothing", 0, [], "utf16", None, None),
@@ -110,7 +113,10 @@ def report_of(folder, content, options):
     run = subprocess.run([PROGRAM, source, "-o", folder / "out.dxf", "--force", "--report", report, "--lang", "EN", *options],
                          stdin=subprocess.DEVNULL, capture_output=True, check=False, timeout=60)
     assert run.returncode in (0, 1, 3), run.stderr.decode()
-    return json.loads(report.read_text())
+    found = json.loads(report.read_text())
+    for told in found["doubts"] + [found["reason"]] * (found["reason"] is not None):
+        assert told["text"] in run.stdout.decode(), told
+    return found
 
 
 def check(name, found, case):
