@@ -38,7 +38,7 @@ std::vector<std::string> separators_of(std::span<const Row> rows) {
     }
   }
   std::vector<std::string> names;
-  for (const char mark : found) names.emplace_back(mark == '\t' ? "tab" : mark == ' ' ? "blank" : ";");
+  for (const char mark : found) names.push_back(mark == '\t' ? "tab" : mark == ' ' ? "blank" : ";");
   return names;
 }
 
