@@ -57,6 +57,15 @@ std::span<const Text> doubt_texts() {
        "prüfen.",
        "coloana %d, citită drept cotă (%.3f …), nu poate conține cote în metri. Verificați ordinea coloanelor.",
        "column %d, read as the height (%.3f …), cannot hold heights in metres. Check the order of the columns."},
+      {"konsola.watp_z_male", "df",  // column, first value
+       "kolumna %d, wczytana jako wysokość, zawiera same małe wartości (%.3f …): błędy średnie? Sprawdź, czy to "
+       "wysokość.",
+       "Spalte %d, als Höhe gelesen, enthält nur kleine Werte (%.3f …): mittlere Fehler? Bitte prüfen, ob das eine "
+       "Höhe "
+       "ist.",
+       "coloana %d, citită drept cotă, conține doar valori mici (%.3f …): erori medii? Verificați dacă este o cotă.",
+       "column %d, read as the height, holds small values only (%.3f …): standard errors? Check whether it is a "
+       "height."},
       {"konsola.watp_z_stale", "df",  // column, the value
        "kolumna %d, wczytana jako wysokość, zawiera wszędzie tę samą liczbę całkowitą (%.0f). Sprawdź, czy to "
        "wysokość.",
