@@ -100,8 +100,10 @@ bool Session::report_is_refused() {
 
 ExitCode Session::run() {
   warn_of_unknown_market();
-  if (output_is_refused() || report_is_refused()) return kFailure;  // before any question
-  return save_report(import_and_save());
+  if (report_is_refused()) return kFailure;  // before any question
+  const ExitCode code = output_is_refused() ? kFailure : import_and_save();
+  if (code == kFailure) watcher_.drawing_failed();
+  return save_report(code);
 }
 
 CommandOutcome Session::import_once() {

@@ -75,21 +75,33 @@ bool named_degrees(const std::optional<Header>& header, std::size_t x) {
   return is_angle(header->names[x]) && is_angle(header->names[x + 1]);
 }
 
-// Positions as degrees: on the globe, and a place's rather than a drawing's around its origin.
+bool in_europe(const Range& latitude, const Range& longitude) {
+  return latitude.within(35, 72) && longitude.within(-12, 45);
+}
+
+bool around_the_globe(const Range& latitude, const Range& longitude) {
+  constexpr double kManyDegrees = 60;
+  constexpr double kHalfRound = 200;
+  return latitude.span() > kManyDegrees && longitude.span() > kHalfRound;
+}
+
+// Positions as degrees: on the globe, and a place's rather than a drawing's around its origin. The fewer decimals there
+// are, the more it takes: metres have three, of degrees five are a metre.
 bool look_like_degrees(const Extent& extent, std::span<const Row> dane, std::size_t x) {
-  constexpr double kCountry = 20.0;         // degrees that a survey spans at most
-  constexpr double kPlace = 0.25;           // spread of the degrees of a region
-  constexpr std::size_t kFinestMetres = 4;  // decimals; a tenth of a millimetre
-  const Range& a = extent.x;
-  const Range& b = extent.y;
-  const bool on_globe = (a.within(-180, 180) && b.within(-90, 90)) || (a.within(-90, 90) && b.within(-180, 180));
-  if (!on_globe || a.span() > kCountry || b.span() > kCountry) return false;
-  const bool in_europe = (a.within(35, 72) && b.within(-12, 45)) || (b.within(35, 72) && a.within(-12, 45));
-  const bool one_place = a.spread() < kPlace && b.spread() < kPlace;
-  if (have_decimals(dane, x, kFinestMetres + 1))
-    return one_place || (in_europe && std::min(a.spread(), b.spread()) < kPlace);
-  return in_europe && (one_place || have_decimals(dane, x, kFinestMetres)) && have_decimals(dane, x, 3) &&
-         std::min(a.spread(), b.spread()) < kPlace;
+  constexpr double kPlace = 0.25;   // spread of the degrees of a region
+  constexpr double kCountry = 0.5;  // of a large country
+  const auto& [a, b] = extent;
+  const bool latitude_second = a.within(-180, 180) && b.within(-90, 90);
+  const bool latitude_first = a.within(-90, 90) && b.within(-180, 180);
+  if (!latitude_first && !latitude_second) return false;
+  const double narrower = std::min(a.spread(), b.spread());
+  if (have_decimals(dane, x, 5)) {
+    const bool global = (latitude_first && around_the_globe(a, b)) || (latitude_second && around_the_globe(b, a));
+    return narrower < kCountry || global;
+  }
+  if (!in_europe(a, b) && !in_europe(b, a)) return false;
+  if (have_decimals(dane, x, 4)) return narrower < kCountry;
+  return have_decimals(dane, x, 3) && std::max(a.spread(), b.spread()) < kPlace;
 }
 
 // The middle of the points along one axis, without the outermost fifths of a sample.

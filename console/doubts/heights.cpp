@@ -21,6 +21,8 @@ using vexo_xyz_impl::SkippedLine;
 
 constexpr double kHighest = 12000.0;  // metres, above and below: no point of the Earth's surface, no mine, no trench
 
+constexpr double kTiny = 0.1;  // metres; heights so close above nought are few, standard errors are all so
+
 long long column_shown(const Evidence& evidence) {
   return static_cast<long long>(height_column(*evidence.seen.verdict.fmt)) + 1;
 }
@@ -62,6 +64,7 @@ struct HeightCounts {
   std::size_t like_x_or_y = 0;
   std::size_t beyond_earth = 0;
   std::size_t whole = 0;
+  std::size_t tiny = 0;
   bool all_equal = true;
   bool rise_by_one = true;
 };
@@ -73,6 +76,7 @@ HeightCounts counts_of(std::span<const PointRecord> punkty) {
   for (const PointRecord& point : punkty) {
     counts.like_x_or_y += point.z != 0.0 && (point.z == point.x || point.z == point.y) ? 1 : 0;
     counts.beyond_earth += std::abs(point.z) > kHighest ? 1 : 0;
+    counts.tiny += point.z > 0.0 && point.z < kTiny ? 1 : 0;
     counts.whole += point.z == std::floor(point.z) ? 1 : 0;
     counts.all_equal &= point.z == punkty.front().z;
     counts.rise_by_one &= point.z == before + 1.0;
@@ -92,14 +96,15 @@ bool coordinates_have_decimals(std::span<const PointRecord> punkty) {
 // What the numbers themselves say against their being heights; the key of the text, empty when nothing.
 std::string_view unlike_heights(std::span<const PointRecord> punkty) {
   constexpr std::size_t kFewest = 3;       // of fewer points nothing is the rule
-  constexpr std::size_t kFewestWhole = 5;  // whole numbers happen to a few
+  constexpr std::size_t kFewestAlike = 5;  // whole or tiny numbers happen to a few
   const HeightCounts counts = counts_of(punkty);
   if (counts.points < kFewest) return {};
   if (counts.like_x_or_y * 2 > counts.points) return "konsola.watp_z_jak_xy";
   if (counts.beyond_earth * 2 > counts.points) return "konsola.watp_z_za_duze";
+  if (counts.tiny == counts.points && counts.points >= kFewestAlike) return "konsola.watp_z_male";
   const bool all_whole = counts.whole == counts.points;
   if (all_whole && counts.all_equal && punkty.front().z != 0.0) return "konsola.watp_z_stale";
-  if (!all_whole || counts.points < kFewestWhole || !coordinates_have_decimals(punkty)) return {};
+  if (!all_whole || counts.points < kFewestAlike || !coordinates_have_decimals(punkty)) return {};
   if (counts.rise_by_one) return "konsola.watp_z_licznik";
   constexpr double kMostZones = 60.0;
   const bool few_and_small = std::all_of(

@@ -101,9 +101,9 @@ std::vector<std::size_t> lines_of(Places& places, std::span<const std::size_t> p
   return lines;
 }
 
-// A comma that no label has of itself: at its end, or before a number with decimals.
-bool holds_columns(std::string_view label) {
-  if (label.ends_with(',')) return true;
+// A mark that no label has of itself: a comma or a colon at its end, a comma before a number with decimals.
+bool holds_separator(std::string_view label) {
+  if (label.ends_with(',') || label.ends_with(':')) return true;
   const std::size_t comma = label.find(',');
   return comma != std::string_view::npos && label.find_first_of(",.", comma + 1) != std::string_view::npos;
 }
@@ -142,7 +142,7 @@ std::optional<Doubt> doubt_comma_in_label(Evidence& evidence) {
   if (!has_number(*seen.verdict.fmt)) return std::nullopt;
   std::vector<std::size_t> points;
   for (std::size_t i = 0; i < seen.read.punkty.size(); ++i)
-    if (holds_columns(seen.read.punkty[i].nr)) points.push_back(i);
+    if (holds_separator(seen.read.punkty[i].nr)) points.push_back(i);
   if (points.empty()) return std::nullopt;
   auto lines = lines_of(evidence.places, points);
   const std::string_view label = seen.read.punkty[points.front()].nr;

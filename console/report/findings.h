@@ -23,6 +23,7 @@ enum class Axes { keep, swap, unconfirmed };
 
 struct Findings {
   Outcome outcome = Outcome::nothing;
+  std::string path;                     ///< of the file that was read
   std::string encoding;                 ///< of a text file
   std::vector<std::string> separators;  ///< between its cells: ";", "tab", "blank"
   Account account;

@@ -38,7 +38,7 @@ std::vector<std::string> separators_of(std::span<const Row> rows) {
     }
   }
   std::vector<std::string> names;
-  for (const char mark : found) names.emplace_back(mark == '\t' ? "tab" : mark == ' ' ? "blank" : ";");
+  for (const char mark : found) names.push_back(mark == '\t' ? "tab" : mark == ' ' ? "blank" : ";");
   return names;
 }
 
@@ -82,6 +82,7 @@ void ImportWatcher::ended(const ImportSeen& seen) {
     note_file(findings_, seen);
     findings_.account = account_without_points(seen);
   }
+  findings_.path = seen.path;
   findings_.outcome = outcome_of(seen);
   if (places_ && findings_.outcome == Outcome::failed) take_points_back(findings_.account, seen, *places_);
   if (seen.verdict.fmt) findings_.layout = layout_code(*seen.verdict.fmt);

@@ -20,6 +20,9 @@ class ImportWatcher final : public vexo_xyz_impl::host::ImportWatch {
   /// What the file says for or against a reading of its axes, for when its rows were taken apart: lines for the user.
   [[nodiscard]] std::string beside_reading(vexo_xyz_impl::host::AxisOrder order, double share) const;
 
+  /// The drawing was not saved, or may not be.
+  void drawing_failed() { findings_.outcome = Outcome::failed; }
+
   /// What came of the import that ended last.
   [[nodiscard]] const Findings& findings() const { return findings_; }
 

@@ -107,7 +107,8 @@ Reason reason_of_text(const ImportSeen& seen) {
   }
   if (dialect.mixed) return named("mixed_separators");
   if (dialect.quoted) return named("quoted");
-  return was_asked(seen) ? Reason{} : named("no_numbers");
+  const bool had_points = !seen.read.punkty.empty();
+  return had_points || was_asked(seen) ? Reason{} : named("no_numbers");
 }
 
 // Whether what was imported is to be looked at all the same.

@@ -62,7 +62,7 @@ std::string as_json(const Findings& findings) {
   if (!findings.reason.code.empty()) reason = {{"code", findings.reason.code}, {"text", findings.reason.text}};
   const ordered_json report = {
       {"outcome", name_of(findings.outcome)},
-      {"file", {{"encoding", findings.encoding}, {"separators", findings.separators}}},
+      {"file", {{"path", findings.path}, {"encoding", findings.encoding}, {"separators", findings.separators}}},
       {"account", account_as_json(findings.account)},
       {"layout", {{"code", findings.layout}, {"evidence", findings.evidence}}},
       {"system", system_as_json(findings)},

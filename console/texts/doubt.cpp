@@ -57,6 +57,15 @@ std::span<const Text> doubt_texts() {
        "prüfen.",
        "coloana %d, citită drept cotă (%.3f …), nu poate conține cote în metri. Verificați ordinea coloanelor.",
        "column %d, read as the height (%.3f …), cannot hold heights in metres. Check the order of the columns."},
+      {"konsola.watp_z_male", "df",  // column, first value
+       "kolumna %d, wczytana jako wysokość, zawiera same małe wartości (%.3f …): błędy średnie? Sprawdź, czy to "
+       "wysokość.",
+       "Spalte %d, als Höhe gelesen, enthält nur kleine Werte (%.3f …): mittlere Fehler? Bitte prüfen, ob das eine "
+       "Höhe "
+       "ist.",
+       "coloana %d, citită drept cotă, conține doar valori mici (%.3f …): erori medii? Verificați dacă este o cotă.",
+       "column %d, read as the height, holds small values only (%.3f …): standard errors? Check whether it is a "
+       "height."},
       {"konsola.watp_z_stale", "df",  // column, the value
        "kolumna %d, wczytana jako wysokość, zawiera wszędzie tę samą liczbę całkowitą (%.0f). Sprawdź, czy to "
        "wysokość.",
@@ -137,12 +146,16 @@ std::span<const Text> doubt_texts() {
        "ori.",
        "points where another point lies already: %d (lines %s). Check whether it was measured twice."},
       {"konsola.watp_przecinek", "ss",  // a number, lines
-       "numery punktów zawierają przecinki („%s”; linie %s): czy kolumny oddzielają przecinki? Odczytaj je: vexo-xyz "
+       "numery punktów zawierają znak, który zapewne oddziela kolumny („%s”; linie %s). Odczytaj je bez niego: "
+       "vexo-xyz "
        "prepare PLIK.",
-       "Punktnummern enthalten Kommas („%s“; Zeilen %s): trennen Kommas die Spalten? Dann: vexo-xyz prepare DATEI.",
-       "numerele punctelor conțin virgule („%s”; liniile %s): coloanele sunt despărțite prin virgule? Atunci: vexo-xyz "
-       "prepare FIȘIER.",
-       "point numbers hold commas (“%s”; lines %s): do commas separate the columns? Then: vexo-xyz prepare FILE."},
+       "Punktnummern enthalten ein Zeichen, das wohl Spalten trennt („%s“; Zeilen %s). Ohne es einlesen: vexo-xyz "
+       "prepare DATEI.",
+       "numerele punctelor conțin un semn care probabil desparte coloanele („%s”; liniile %s). Citiți-le fără el: "
+       "vexo-xyz prepare FIȘIER.",
+       "point numbers hold a mark that seems to separate columns (“%s”; lines %s). Read them without it: vexo-xyz "
+       "prepare "
+       "FILE."},
 
       // Rows
       {"konsola.watp_wiersze", "ds",  // rows, lines

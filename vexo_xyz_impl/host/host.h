@@ -14,7 +14,7 @@ struct Host {
   DatabaseServices& database;
   SiblingLoader& siblings;
   HostLock* lock = nullptr;                ///< none: nothing guards the host
-  Foreknowledge* foreknowledge = nullptr;  ///< none: nobody was asked beforehand
+  Foreknowledge* foreknowledge = nullptr;  ///< none: a file is known by its numbers only
   ImportWatch* watch = nullptr;            ///< none: nobody watches imports
 };
 
