@@ -12,7 +12,6 @@
 #include "console/files.h"
 #include "console/prepare_log.h"
 #include "console/report/reasons.h"
-#include "intake/column_content.h"
 #include "intake/columns.h"
 #include "intake/foreign_table.h"
 #include "intake/pair_records.h"
@@ -258,8 +257,10 @@ class Preparation {
     form.missing_height = options_.missing_height;
     form.header_line = shape_.header_line;
     form.first_data_line = shape_.first_data_line;
-    if (table_->dialect && table_->dialect->separator == ' ' && table_->dialect->places.empty()) {
-      for (const intake::ColumnContent& column : shape_.columns) form.kinds.push_back(intake::kind_of(column));
+    if (table_->dialect && table_->dialect->separator == ' ') {
+      form.kinds = shape_.kinds;
+      for (std::size_t i = 0; i < std::min(roles.size(), shape_.width); ++i)
+        if (roles[i] == Role::number) form.kinds[i] = intake::CellKind::any;  // of a point: a text at any time
     }
     return form;
   }

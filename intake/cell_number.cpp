@@ -46,11 +46,6 @@ bool is_plain(std::string_view cell) {
   return digits > 0 && digits < kSurelyFinite;
 }
 
-struct Spelling {
-  NumberForm form = NumberForm::none;
-  std::string plain;
-};
-
 // Whether `mark` comes again, so that it parts thousands.
 bool parts_thousands(std::string_view cell, std::size_t at) {
   const char mark = cell[at];
@@ -58,18 +53,24 @@ bool parts_thousands(std::string_view cell, std::size_t at) {
   return cell.find(mark, at + 1) != std::string_view::npos || cell.find(other, at + 1) != std::string_view::npos;
 }
 
-Spelling spelling_of(std::string_view cell) {
-  Spelling spelling;
+// Nothing is kept of what is spelled: for those who only ask what it is.
+struct Nowhere {
+  void append(std::string_view /*digits*/) {}
+};
+
+// Spells the number part by part; on NumberForm::none some of it may have been appended.
+template <class Out>
+NumberForm spell(Out& out, std::string_view cell) {
   std::size_t at = 0;
   if (cell.starts_with(kMinus)) {
-    spelling.plain = '-';
+    out.append("-");
     at = kMinus.size();
   } else if (!cell.empty() && (cell.front() == '-' || cell.front() == '+')) {
-    spelling.plain = cell.front();
+    out.append(cell.substr(0, 1));
     at = 1;
   }
   std::size_t count = digits_at(cell, at);
-  spelling.plain.append(cell, at, count);
+  out.append(cell.substr(at, count));
   std::size_t all = count;
   at += count;
   char grouping = '\0';
@@ -78,39 +79,39 @@ Spelling spelling_of(std::string_view cell) {
     const std::size_t gap = is_mark ? (parts_thousands(cell, at) ? 1 : 0) : gap_at(cell, at);
     if (gap == 0) break;
     if (is_mark) grouping = cell[at];
-    if (all > 3 && all == count) return {};  // the first group has at most three
+    if (all > 3 && all == count) return NumberForm::none;  // the first group has at most three
     count = digits_at(cell, at + gap);
-    if (count != 3) return {};
-    spelling.plain.append(cell, at + gap, count);
+    if (count != 3) return NumberForm::none;
+    out.append(cell.substr(at + gap, count));
     at += gap + count;
     all += count;
   }
-  spelling.form = NumberForm::whole;
+  NumberForm form = NumberForm::whole;
   if (at < cell.size() && (cell[at] == '.' || cell[at] == ',') && cell[at] != grouping) {
-    spelling.form = cell[at] == '.' ? NumberForm::point : NumberForm::comma;
+    form = cell[at] == '.' ? NumberForm::point : NumberForm::comma;
     const std::size_t fraction = digits_at(cell, at + 1);
-    spelling.plain += '.';
-    spelling.plain.append(cell, at + 1, fraction);
+    out.append(".");
+    out.append(cell.substr(at + 1, fraction));
     all += fraction;
     at += 1 + fraction;
   }
-  if (all == 0) return {};
+  if (all == 0) return NumberForm::none;
   if (at < cell.size() && (cell[at] == 'e' || cell[at] == 'E')) {
     const std::size_t sign = at + 1 < cell.size() && (cell[at + 1] == '-' || cell[at + 1] == '+') ? 1 : 0;
     const std::size_t exponent = digits_at(cell, at + 1 + sign);
-    if (exponent == 0) return {};
-    spelling.plain.append(cell, at, 1 + sign + exponent);
+    if (exponent == 0) return NumberForm::none;
+    out.append(cell.substr(at, 1 + sign + exponent));
     at += 1 + sign + exponent;
   }
-  if (at != cell.size()) return {};
-  return spelling;
+  return at == cell.size() ? form : NumberForm::none;
 }
 
 }  // namespace
 
 NumberForm number_form(std::string_view cell) {
   if (is_plain(cell)) return cell.find('.') == std::string_view::npos ? NumberForm::whole : NumberForm::point;
-  return spelling_of(cell).form;
+  Nowhere nowhere;
+  return spell(nowhere, cell);
 }
 
 bool append_number(std::string& out, std::string_view cell) {
@@ -118,12 +119,13 @@ bool append_number(std::string& out, std::string_view cell) {
     out += cell;
     return true;
   }
-  const Spelling spelling = spelling_of(cell);
-  if (spelling.form == NumberForm::none) return false;
-  const auto value = vexo_xyz_impl::parse_number(spelling.plain);
-  if (!value || !std::isfinite(*value)) return false;
-  out += spelling.plain;
-  return true;
+  const std::size_t before = out.size();
+  if (spell(out, cell) != NumberForm::none) {
+    const auto value = vexo_xyz_impl::parse_number(std::string_view(out).substr(before));
+    if (value && std::isfinite(*value)) return true;
+  }
+  out.resize(before);
+  return false;
 }
 
 std::size_t decimals_of(std::string_view cell) {

@@ -24,14 +24,11 @@ bool is_belt_of_latitude(const ColumnContent& column) {
 
 }  // namespace
 
-CellKind kind_of(const ColumnContent& column) {
-  if (column.is_numeric()) return CellKind::number;
-  return 10 * column.numbers <= column.filled ? CellKind::text : CellKind::any;
-}
-
 bool is_within(const TableShape& shape, std::size_t column, double bound) {
   return shape.columns[column].numbers > 0 && size_of(shape.columns[column]) <= bound;
 }
+
+double greatest_size(const TableShape& shape, std::size_t column) { return size_of(shape.columns[column]); }
 
 bool are_degrees(const TableShape& shape, std::size_t a, std::size_t b) {
   const ColumnContent& first = shape.columns[a];

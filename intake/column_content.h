@@ -3,16 +3,15 @@
 
 #include <cstddef>
 
-#include "intake/prepared_file.h"
 #include "intake/table_shape.h"
 
 namespace intake {
 
-/// What nearly all cells of a column are.
-[[nodiscard]] CellKind kind_of(const ColumnContent& column);
-
 /// Whether all numbers of a column lie between -bound and bound; false without numbers.
 [[nodiscard]] bool is_within(const TableShape& shape, std::size_t column, double bound);
+
+/// The greatest of a column's numbers, signs aside.
+[[nodiscard]] double greatest_size(const TableShape& shape, std::size_t column);
 
 /// Whether two columns evidently hold decimal degrees: many decimals, and a latitude that stays in some belt of the
 /// earth, as local metres, which begin near zero, do not.

@@ -11,7 +11,8 @@ namespace intake {
 namespace {
 
 constexpr std::size_t kMostProposals = 9;
-
+constexpr std::size_t kEnoughToRise = 5;  // rows; fewer rise by chance
+constexpr double kLeastGrid = 20000.0;    // above the pixels of any image
 using Column = std::size_t;
 using Pair = std::pair<Column, Column>;
 
@@ -142,6 +143,7 @@ Decision by_names(const TableShape& shape) {
         continue;
       }
       std::vector<std::optional<Column>> choices;
+      choices.reserve(heights.size() + 1);
       for (const Candidate& height : heights) choices.emplace_back(height.column);
       if (heights.size() != 1) choices.emplace_back(std::nullopt);
       for (const auto& height : choices) {
@@ -158,7 +160,10 @@ Decision by_names(const TableShape& shape) {
   }
   const Roles& first = decision.proposals.front().roles;
   const Pair pair = axes.empty() ? order.front() : axes.front();
-  const bool one_pair = axes.size() + order.size() == 1;
+  // Beside degrees a bare X and Y may be places in an image; of a grid they are only when they are large.
+  const bool is_image = axes.empty() && !angles.empty() && is_within(shape, pair.first, kLeastGrid) &&
+                        is_within(shape, pair.second, kLeastGrid);
+  const bool one_pair = axes.size() + order.size() == 1 && !is_image;
   const bool height_told = heights.size() == 1 || (heights.empty() && !hides_a_height(shape, named, pair));
   decision.verdict = one_pair && height_told ? Verdict::clear : Verdict::unclear;
   if (heights.empty() && hides_a_height(shape, named, pair)) {
@@ -195,6 +200,17 @@ std::optional<Decision> by_projection_line(const TableShape& shape) {
 }
 
 // ---- By content alone
+
+// Of three columns and more that are alike the first two are the coordinates when neither is a decimal numbering or a
+// time, which only rise, and what stands behind them is smaller, as heights are.
+bool looks_like_coordinates_first(const TableShape& shape, Column a, Column b) {
+  const ColumnContent& first = shape.columns[a];
+  const bool only_rises = first.numbers >= kEnoughToRise && first.rising + 1 == first.numbers;
+  const Column behind = b + 1;
+  const bool is_smaller = behind >= shape.width || shape.columns[behind].numbers == 0 ||
+                          greatest_size(shape, behind) < std::min(greatest_size(shape, a), greatest_size(shape, b));
+  return !only_rises && is_smaller;
+}
 
 Decision by_content(const TableShape& shape) {
   std::vector<Column> numeric;
@@ -235,7 +251,8 @@ Decision by_content(const TableShape& shape) {
   const bool adjacent = b == a + 1 && a == (numbered ? 1U : 0U);
   const auto mostly_whole = [&](Column i) { return 2 * shape.columns[i].whole >= shape.columns[i].numbers; };
   const bool same_kind = mostly_whole(a) == mostly_whole(b);
-  const bool starts_clearly = numbered || !mostly_whole(a) || numeric.size() == 2;
+  const bool starts_clearly =
+      numbered || numeric.size() == 2 || (!mostly_whole(a) && looks_like_coordinates_first(shape, a, b));
   const bool unique = !labels || 2 * shape.columns.front().distinct >= shape.columns.front().filled;
   const bool height_clear =
       behind == 0 || (behind == 1 && numeric[skipped + 2] == b + 1 && may_be_height(shape, a, b, b + 1));

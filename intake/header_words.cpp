@@ -34,7 +34,7 @@ constexpr auto kVocabulary = std::to_array<Vocabulary>({
     {Named::height,
      " z h elev elevation elevatie elevacio ele alt altitude altitudine height heights hgt ht hoehe hoehen hohe hohen "
      "wys wysokosc wysokosci rzedna rzedne rz cota cote kota kote niveau hmsl msl nhn npm nap zcoord depth tiefe "
-     "quota inaltime inaltimea altura altitud hnhn hnn hell hort orthoheight level "},
+     "quota inaltime inaltimea altura altitud hnhn hnn hell hort orthoheight up level "},
     {Named::latitude,
      " lat latitude latitudine latitudinea latitud breite breitengrad szerokosc szer phi b geobreite fi lati latdd "
      "latdeg declat "},
@@ -293,9 +293,9 @@ Named combined(const std::vector<Named>& said) {
 
 }  // namespace
 
-bool is_unit(std::string_view raw) {
+bool is_unit(std::string_view word) {
   std::string unit;
-  for (const char c : text::trim(raw)) {
+  for (const char c : text::trim(word)) {
     if (c != '[' && c != ']' && c != '(' && c != ')' && c != '.' && c != ' ') unit += text::ascii_lower(c);
   }
   return !unit.empty() && among(kUnits, unit);

@@ -41,8 +41,8 @@ struct HeaderName {
   return (named >= Named::easting && named <= Named::longitude);
 }
 
-/// Whether `text` is a unit of lengths or angles, with or without brackets.
-[[nodiscard]] bool is_unit(std::string_view text);
+/// Whether `word` is a unit of lengths or angles, with or without brackets.
+[[nodiscard]] bool is_unit(std::string_view word);
 
 /// Whether the cells are names of columns: words, of which enough are known, and hardly a number.
 [[nodiscard]] bool is_header(std::span<const std::string_view> cells);

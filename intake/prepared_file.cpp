@@ -127,7 +127,7 @@ class Writer {
   std::optional<RowNote> append_row(const Record& record) {
     const auto& cells = record.cells;
     const std::size_t filled = record.cells.size();
-    if (record.line == form_.header_line) return RowNote::no_coordinate;
+    if (record.line <= form_.header_line) return RowNote::no_coordinate;
     if (filled < places_.needed) return RowNote::too_few_cells;
     bool lacks_height = places_.height >= filled;
     if (filled < form_.kinds.size() && !fits(cells, kNowhere)) {

@@ -11,13 +11,11 @@
 
 #include "intake/records.h"
 #include "intake/roles.h"
+#include "intake/table_shape.h"
 
 namespace intake {
 
 enum class MissingHeight { skip, zero };
-
-/// What a column holds in nearly all rows.
-enum class CellKind { any, number, text };
 
 /// What is made of the records.
 struct PreparedForm {

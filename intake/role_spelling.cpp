@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <string>
 
@@ -57,7 +58,7 @@ std::optional<Roles> roles_for(const TableShape& shape, std::string_view spelled
 }
 
 std::string spelled(const Roles& roles) {
-  static constexpr std::string_view kSpelled[] = {"nr", "e", "n", "x", "y", "z", "-"};
+  static constexpr std::array<std::string_view, 7> kSpelled = {"nr", "e", "n", "x", "y", "z", "-"};
   std::string all;
   for (const Role role : roles) all += (all.empty() ? "" : ",") + std::string(kSpelled[static_cast<std::size_t>(role)]);
   return all;

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <map>
-#include <optional>
 #include <unordered_set>
 
 #include "intake/cell_number.h"
@@ -97,6 +96,24 @@ bool looks_like_row(const Kept& row, const std::vector<bool>& columns) {
   return due == 0 || 2 * there >= due;
 }
 
+bool is_header_of(const std::vector<std::string>& cells) {
+  const std::vector<std::string_view> views(cells.begin(), cells.end());
+  return is_header(views);
+}
+
+// The first row of data. Titles that hold numbers are few, and the header stands behind them.
+Sample::const_iterator first_row(const Sample& sample, const std::vector<bool>& columns, std::size_t width) {
+  constexpr std::ptrdiff_t kMostTitles = 3;
+  const auto is_row = [&](const Kept& row) {
+    return !is_header_of(row.cells) && looks_like_row(row, columns) && 2 * width_of(row) > width;
+  };
+  const auto first = std::find_if(sample.begin(), sample.end(), is_row);
+  const auto titles_end = first + std::min(kMostTitles, sample.end() - first);
+  const auto header = std::find_if(first, titles_end, [](const Kept& row) { return is_header_of(row.cells); });
+  const auto behind = std::find_if(header, sample.end(), is_row);
+  return header != titles_end && sample.end() - behind > header - first ? behind : first;
+}
+
 std::string joined(const Kept& row) {
   std::string all;
   for (const std::string& cell : row.cells) all += (all.empty() ? "" : " ") + cell;
@@ -118,48 +135,43 @@ bool take_names_by_line(TableShape& shape, const Sample& head) {
   return false;
 }
 
-bool is_header_of(const std::vector<std::string>& cells) {
-  const std::vector<std::string_view> views(cells.begin(), cells.end());
-  return is_header(views);
-}
-
 // The header nearest to the data: a line of known names, else a line of words as wide as the rows right above them.
 void take_header(TableShape& shape, const Sample& head) {
-  for (auto row = head.rbegin(); row != head.rend(); ++row) {
-    if (!is_header_of(row->cells)) continue;
-    shape.header_line = row->line;
-    shape.names = row->cells;
-    return;
+  auto header = std::find_if(head.rbegin(), head.rend(), [](const Kept& row) { return is_header_of(row.cells); });
+  if (header == head.rend()) {
+    header = std::find_if(head.rbegin(), head.rend(), [](const Kept& row) {
+      return std::any_of(row.cells.begin(), row.cells.end(),
+                         [](const std::string& cell) { return !cell.empty() && !is_unit(cell); });
+    });
+    if (header == head.rend() || header->cells.size() != shape.width || shape.width < 3) return;
+    if (std::any_of(header->cells.begin(), header->cells.end(), is_value)) return;
   }
-  for (auto row = head.rbegin(); row != head.rend(); ++row) {
-    const bool are_units = std::all_of(row->cells.begin(), row->cells.end(),
-                                       [](const std::string& cell) { return cell.empty() || is_unit(cell); });
-    if (are_units) continue;
-    const bool are_words = std::none_of(row->cells.begin(), row->cells.end(), is_value);
-    if (row->cells.size() == shape.width && are_words && shape.width > 2) {
-      shape.header_line = row->line;
-      shape.names = row->cells;
+  shape.header_line = header->line;
+  shape.names = header->cells;
+}
+
+// The names in a comment, parted like the data or by blanks.
+std::vector<std::string> commented_names(std::string_view comment, std::size_t width) {
+  for (const std::string_view separators : {"\t", ";", ",", "|", " \t"}) {
+    std::vector<std::string> cells;
+    for (std::string_view rest = comment; !rest.empty();) {
+      const std::size_t end = std::min(rest.find_first_of(separators), rest.size());
+      const std::string_view cell = text::trim(rest.substr(0, end));
+      if (!cell.empty() || separators.size() == 1) cells.emplace_back(cell);
+      rest.remove_prefix(std::min(end + 1, rest.size()));
     }
-    return;
+    if (cells.size() + 1 >= width && cells.size() <= width + 1 && is_header_of(cells)) return cells;
   }
+  return {};
 }
 
 void take_commented_header(TableShape& shape, const std::vector<std::pair<std::size_t, std::string_view>>& comments) {
-  for (auto comment = comments.rbegin(); comment != comments.rend(); ++comment) {
-    for (const std::string_view separators : {"\t", ";", ",", "|", " \t"}) {
-      std::vector<std::string> cells;
-      std::string_view rest = comment->second;
-      while (!rest.empty()) {
-        const std::size_t end = std::min(rest.find_first_of(separators), rest.size());
-        const std::string_view cell = text::trim(rest.substr(0, end));
-        if (!cell.empty() || separators.size() == 1) cells.emplace_back(cell);
-        rest.remove_prefix(std::min(end + 1, rest.size()));
-      }
-      if (cells.size() + 1 < shape.width || cells.size() > shape.width + 1 || !is_header_of(cells)) continue;
-      shape.header_line = comment->first;
-      shape.names = std::move(cells);
-      return;
-    }
+  for (std::size_t i = comments.size(); i-- > 0;) {
+    auto names = commented_names(comments[i].second, shape.width);
+    if (names.empty()) continue;
+    shape.header_line = comments[i].first;
+    shape.names = std::move(names);
+    return;
   }
 }
 
@@ -174,6 +186,20 @@ Projection projection_in(std::string_view line) {
   }
   const bool projected = has("epsg:") || has("+proj=") || (has("wgs84") && has("utm")) || has("projcs[");
   return projected ? Projection::projected : Projection::none;
+}
+
+void see_kinds(TableShape& shape, const Sample& sample, const std::vector<bool>& columns) {
+  std::vector<std::size_t> numbers(shape.width);
+  std::size_t rows = 0;
+  for (const Kept& row : sample) {
+    if (row.line < shape.first_data_line || row.cells.size() != shape.width || !looks_like_row(row, columns)) continue;
+    ++rows;
+    for (std::size_t i = 0; i < shape.width; ++i) numbers[i] += is_number(row.cells[i]) ? 1 : 0;
+  }
+  for (const std::size_t count : numbers) {
+    const bool is_uniform = rows > 0 && (count == 0 || count == rows);
+    shape.kinds.push_back(!is_uniform ? CellKind::any : (count == 0 ? CellKind::text : CellKind::number));
+  }
 }
 
 void see_content(TableShape& shape, const Sample& sample, const std::vector<bool>& columns) {
@@ -216,9 +242,7 @@ TableShape shape_of(Records& records, const std::vector<std::pair<std::size_t, s
   TableShape shape;
   shape.width = commonest_width(sample);
   const std::vector<bool> columns = value_columns(sample, shape.width);
-  const auto first = std::find_if(sample.begin(), sample.end(), [&](const Kept& row) {
-    return !is_header_of(row.cells) && looks_like_row(row, columns) && 2 * width_of(row) > shape.width;
-  });
+  const auto first = first_row(sample, columns, shape.width);
   const Sample head(sample.begin(), first);
   for (const Kept& row : head) {
     if (const Projection said = projection_in(joined(row)); said != Projection::none) shape.projection = said;
@@ -235,6 +259,7 @@ TableShape shape_of(Records& records, const std::vector<std::pair<std::size_t, s
   if (!take_names_by_line(shape, head)) take_header(shape, head);
   if (shape.header_line == 0) take_commented_header(shape, comments);
   shape.width = std::max(shape.width, std::min(shape.names.size(), shape.width + 1));
+  see_kinds(shape, sample, columns);
   see_content(shape, sample, columns);
   shape.names.resize(shape.width);
   return shape;

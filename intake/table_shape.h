@@ -32,6 +32,9 @@ struct ColumnContent {
   [[nodiscard]] bool is_constant() const { return numbers > 0 && least == greatest; }
 };
 
+/// What a column holds in all rows that have as many cells as there are columns.
+enum class CellKind { any, number, text };
+
 /// What a line above the data says of the coordinates' system.
 enum class Projection { none, projected, geographic };
 
@@ -43,6 +46,7 @@ struct TableShape {
   bool names_by_line = false;       ///< a title, a count and one line a name, as geostatistical programs write
   std::vector<std::string> names;   ///< by column, empty ones where there is none
   std::vector<ColumnContent> columns;
+  std::vector<CellKind> kinds;                    ///< by column
   std::vector<std::vector<std::string>> preview;  ///< the first rows of data
   Projection projection = Projection::none;
 };

@@ -8,7 +8,6 @@
 #include <gtest/gtest.h>
 
 #include "intake/cell_number.h"
-#include "intake/column_content.h"
 #include "intake/columns.h"
 #include "intake/dialect.h"
 #include "intake/encoding.h"
@@ -60,8 +59,7 @@ Prepared prepared(string_view bytes, string_view columns, MissingHeight missing 
   const auto roles = roles_for(table.shape, columns);
   if (!roles) return {"no roles", {}};
   PreparedForm form{*roles, missing, table.shape.header_line, table.shape.first_data_line, {}};
-  if (table.dialect.separator == ' ' && table.dialect.places.empty())
-    for (const auto& column : table.shape.columns) form.kinds.push_back(kind_of(column));
+  if (table.dialect.separator == ' ') form.kinds = table.shape.kinds;
   Prepared result;
   result.account = write_prepared(*table.records, form, [&](string_view piece) { result.file += piece; });
   EXPECT_EQ(result.account.records, result.account.points + result.account.head.size() + result.account.left_out)
@@ -115,11 +113,14 @@ TEST(Intake, DecidesWhatIsBeyondDoubtAndAsksElse) {
       {"Wells\n3\nX\nY\nElevation\n38.5 28.5 10.4\n45.5 29.5 11.4\n40.5 27.5 10.9\n", "x,y,z"},
       {"WGS84 UTM 32N\n481367.1 5782936.2 100 447 2067 a.jpg g1\n481396.1 5782940.2 101 2381 544 b.jpg g2\n",
        "e,n,z,-,-,-,nr"},
+      {"Raport 12 34.5\nNr X Y Z\n1 4302.47 3602.07 10.8\n2 4305.68 3598.83 10.9\n3 4301.2 3597.1 10.7\n", "nr,x,y,z"},
       // Content alone.
       {"P1,4302.047,3602.652,10.804\nP2,4305.768,3598.683,10.855\nP3,4300.1,3590.2,10.9\n", "nr,x,y,z"},
       {"1,355776.180,4611015.011,691.055,E I\n2,355773.203,4611028.546,691.055,E\n", "nr,x,y,z,-"},
       {"533599.69 3377146.49 24.39\n533599.65 3377146.32 26.38\n", "x,y,z"},
       {"1,21371517.49,5412572.475\n4,21371571.8,5412578.879\n5,21371631.33,5412536.546\n", "nr,x,y"},
+      {"1.01 100.5 200.5\n1.02 110.5 210.5\n1.03 120.1 190.2\n", "asked"},
+      {"id,lat,lon,x,y\n1,52.1643,20.9817,1200,800.5\n2,52.1644,20.9818,1300,900.5\n", "asked"},
       {"353520\t792430\t179.1\n353525\t792430\t180.4\n353530\t792430\t181.2\n", "asked"},
       {"1 8560.93 18052.57 864.96 -90.14 2.68\n2 8651.11 18656.99 858.63 -90.18 -2.36\n", "asked"},
       {"3664940.500 1409153.590 5009571.170\n3664940.510 1409153.580 5009571.167\n", "asked"},
@@ -261,6 +262,8 @@ TEST(Intake, WritesWhatTheImporterReads) {
        "# columns: number;E;N;Z\n1;52000.5;21000.5;3\n2;52001.5;21001.5;4\n"},
       {"a,xy\nr,\"389301,508713\"\ns,\"390229,512013\"\n", "nr,x,y",
        "# columns: number;X;Y\nr;389301;508713\ns;390229;512013\n"},
+      {"Nr X Y Z kod\n1 1.5 2.5 3.5\n2 1.5 2.5 3.5\n", "nr,x,y,z",
+       "# columns: number;X;Y;Z\n1;1.5;2.5;3.5\n2;1.5;2.5;3.5\n"},
       {"P1: 481367 5782936 100\nP2: 481396 5782940 100\n", "nr,e,n,z",
        "# columns: number;E;N;Z\nP1;481367;5782936;100\nP2;481396;5782940;100\n"},
       {"No;East;North\n7;1.5;2.5\n8;2.5;3.5\n", "n=3,e=EAST,nr=No", "# columns: number;E;N\n7;1.5;2.5\n8;2.5;3.5\n"},
