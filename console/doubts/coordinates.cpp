@@ -35,6 +35,7 @@ struct Range {
 struct Extent {
   Range x;
   Range y;
+  Range z;
 };
 
 bool is_finite(const PointRecord& point) {
@@ -47,6 +48,7 @@ Extent extent_of(std::span<const PointRecord> punkty) {
     if (!is_finite(point)) continue;
     extent.x.take(point.x);
     extent.y.take(point.y);
+    extent.z.take(point.z);
   }
   return extent;
 }
@@ -85,15 +87,26 @@ bool around_the_globe(const Range& latitude, const Range& longitude) {
   return latitude.span() > kManyDegrees && longitude.span() > kHalfRound;
 }
 
+// Whether heights span far more than the points do in plan: metres over degrees.
+bool rise_beyond_their_extent(const Extent& extent) {
+  constexpr double kSteep = 10.0;
+  constexpr double kAwayFromOrigin = 5.0;  // a hole bored at the origin of its own system is steep too
+  const double in_plan = std::max(extent.x.span(), extent.y.span());
+  const double away = std::max(std::abs(extent.x.high), std::abs(extent.y.high));
+  return in_plan > 0.0 && extent.z.span() > kSteep * in_plan && away > kAwayFromOrigin;
+}
+
 // Positions as degrees: on the globe, and a place's rather than a drawing's around its origin. The fewer decimals there
 // are, the more it takes: metres have three, of degrees five are a metre.
 bool look_like_degrees(const Extent& extent, std::span<const Row> dane, std::size_t x) {
   constexpr double kPlace = 0.25;   // spread of the degrees of a region
   constexpr double kCountry = 0.5;  // of a large country
-  const auto& [a, b] = extent;
+  const Range& a = extent.x;
+  const Range& b = extent.y;
   const bool latitude_second = a.within(-180, 180) && b.within(-90, 90);
   const bool latitude_first = a.within(-90, 90) && b.within(-180, 180);
   if (!latitude_first && !latitude_second) return false;
+  if (have_decimals(dane, x, 3) && rise_beyond_their_extent(extent)) return true;
   const double narrower = std::min(a.spread(), b.spread());
   if (have_decimals(dane, x, 5)) {
     const bool global = (latitude_first && around_the_globe(a, b)) || (latitude_second && around_the_globe(b, a));

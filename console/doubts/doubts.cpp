@@ -2,6 +2,7 @@
 
 #include <array>
 #include <span>
+#include <string>
 #include <utility>
 
 namespace console {
@@ -21,6 +22,32 @@ constexpr std::array<DoubtFunction, 3> kOfImport = {
     doubt_repeated_number,
 };
 
+struct Names {
+  std::size_t row;  // the first that holds them
+  std::vector<std::string_view> cells;
+};
+
+// The lowest of the rows above the data that has as many names as there are columns.
+std::optional<Names> names_in_a_line(std::span<const Row> above, std::size_t columns) {
+  for (std::size_t row = above.size(); row > 0; --row) {
+    if (above[row - 1].size() != columns) continue;
+    std::vector<std::string_view> cells(above[row - 1].begin(), above[row - 1].end());
+    if (intake::is_header(cells)) return Names{row - 1, std::move(cells)};
+  }
+  return std::nullopt;
+}
+
+// A name a line, their count in the line above them: geostatistical programs write so.
+std::optional<Names> names_in_lines(std::span<const Row> above, std::size_t columns) {
+  if (above.size() <= columns) return std::nullopt;
+  const std::size_t first = above.size() - columns;
+  if (above[first - 1].size() != 1 || above[first - 1][0] != std::to_string(columns)) return std::nullopt;
+  std::vector<std::string_view> cells;
+  for (const Row row : above.subspan(first)) cells.push_back(row[0]);
+  if (!intake::is_header(cells)) return std::nullopt;
+  return Names{first, std::move(cells)};
+}
+
 std::vector<Doubt> all_of(std::span<const DoubtFunction> functions, Evidence& evidence) {
   std::vector<Doubt> doubts;
   for (const DoubtFunction function : functions)
@@ -33,18 +60,13 @@ std::vector<Doubt> all_of(std::span<const DoubtFunction> functions, Evidence& ev
 std::optional<Header> header_of(const ImportSeen& seen, Places& places) {
   const auto& dane = seen.verdict.dane;
   if (dane.empty()) return std::nullopt;
-  const std::size_t columns = dane.front().size();
-  std::size_t row = places.row_of_data(0);
-  while (row > 0) {  // all that stand above the first data row were left out
-    const Row above = seen.loaded.rows->rows()[--row];
-    if (above.size() != columns) continue;
-    const std::vector<std::string_view> cells(above.begin(), above.end());
-    if (!intake::is_header(cells)) continue;
-    Header header{places.line_of_row(row), cells, {}};
-    for (const std::string_view cell : cells) header.names.push_back(intake::header_name(cell).named);
-    return header;
-  }
-  return std::nullopt;
+  const auto above = std::span(seen.loaded.rows->rows()).first(places.row_of_data(0));
+  const auto found = names_in_a_line(above, dane.front().size());
+  const auto names = found ? found : names_in_lines(above, dane.front().size());
+  if (!names) return std::nullopt;
+  Header header{places.line_of_row(names->row), names->cells, {}};
+  for (const std::string_view cell : names->cells) header.names.push_back(intake::header_name(cell).named);
+  return header;
 }
 
 std::vector<Doubt> doubts_of_rows(Evidence& evidence) { return all_of(kOfRows, evidence); }

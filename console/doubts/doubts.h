@@ -59,8 +59,8 @@ using DoubtFunction = std::optional<Doubt> (*)(Evidence&);
 /// Doubts about the whole import, for when it has ended.
 [[nodiscard]] std::vector<Doubt> doubts_of_import(Evidence& evidence);
 
-/// Doubts about a workbook that points were read from.
-[[nodiscard]] std::vector<Doubt> doubts_of_workbook(const vexo_xyz_impl::ImportSeen& seen, Places& places);
+/// Doubts about a workbook that was read, for when its import has ended; `places` null when no points were made.
+[[nodiscard]] std::vector<Doubt> doubts_of_workbook(const vexo_xyz_impl::ImportSeen& seen, Places* places);
 
 /// Columns of the layout, 0 for the first of the file.
 [[nodiscard]] inline std::size_t x_column(vexo_xyz_impl::Layout fmt) { return has_number(fmt) ? 1 : 0; }

@@ -60,7 +60,7 @@ std::vector<std::size_t> not_seen(const intake::Flaws& flaws) {
 
 }  // namespace
 
-std::vector<Doubt> doubts_of_workbook(const ImportSeen& seen, Places& places) {
+std::vector<Doubt> doubts_of_workbook(const ImportSeen& seen, Places* places) {
   std::vector<Doubt> doubts;
   try {
     intake::Workbook workbook(seen.path);
@@ -75,7 +75,7 @@ std::vector<Doubt> doubts_of_workbook(const ImportSeen& seen, Places& places) {
     }
   } catch (const std::exception&) {  // NOLINT(bugprone-empty-catch): the importer read what a parser does not
   }
-  add_rows(doubts, "entity", "konsola.watp_encja", rows_with_entities(seen, places));
+  if (places != nullptr) add_rows(doubts, "entity", "konsola.watp_encja", rows_with_entities(seen, *places));
   return doubts;
 }
 

@@ -71,9 +71,12 @@ void ImportWatcher::rows_taken_apart(const ImportSeen& seen) {
   findings_.account = account_of(seen, *places_);
   header_ = header_of(seen, *places_);
   named_axes_ = header_ ? named_axes(*header_, *seen.verdict.fmt) : std::nullopt;
-  if (seen.read.punkty.empty()) return;
   Evidence evidence{seen, findings_.account, *places_, header_};
-  findings_.doubts = doubts_of_rows(evidence);
+  if (!seen.read.punkty.empty()) {
+    findings_.doubts = doubts_of_rows(evidence);
+  } else if (auto doubt = doubt_height(evidence)) {
+    findings_.doubts.push_back(std::move(*doubt));
+  }
 }
 
 void ImportWatcher::ended(const ImportSeen& seen) {
@@ -93,8 +96,9 @@ void ImportWatcher::ended(const ImportSeen& seen) {
   if (places_ && findings_.outcome == Outcome::imported) {
     Evidence evidence{seen, findings_.account, *places_, header_};
     append(findings_.doubts, doubts_of_import(evidence));
-    if (seen.loaded.typ == vexo_xyz_impl::FileType::xlsx) append(findings_.doubts, doubts_of_workbook(seen, *places_));
   }
+  if (seen.loaded.typ == vexo_xyz_impl::FileType::xlsx && seen.loaded.rows)
+    append(findings_.doubts, doubts_of_workbook(seen, places_ ? &*places_ : nullptr));
   findings_.reason = reason_of(seen, findings_);
   places_.reset();
   header_.reset();

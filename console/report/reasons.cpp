@@ -94,7 +94,8 @@ Reason reason_without_rows(const std::string& path) {
   }
 }
 
-Reason reason_of_text(const ImportSeen& seen) {
+// `has_doubts`: what is amiss is told already.
+Reason reason_of_text(const ImportSeen& seen, bool has_doubts) {
   const std::vector<char> text = beginning_of(seen.path);
   const std::string_view beginning(text.data(), text.size());
   if (is_in_minutes(beginning)) return named("dms");
@@ -108,7 +109,7 @@ Reason reason_of_text(const ImportSeen& seen) {
   if (dialect.mixed) return named("mixed_separators");
   if (dialect.quoted) return named("quoted");
   const bool had_points = !seen.read.punkty.empty();
-  return had_points || was_asked(seen) ? Reason{} : named("no_numbers");
+  return had_points || was_asked(seen) || has_doubts ? Reason{} : named("no_numbers");
 }
 
 // Whether what was imported is to be looked at all the same.
@@ -162,9 +163,10 @@ Reason reason_of(const ImportSeen& seen, const Findings& findings) {
   if (!is_suspicious(seen, findings)) return {};
   const FileKind kind = intake::file_kind(seen.path);
   if (const std::string_view code = kind_code(kind); !code.empty()) return named(code);
-  if (kind == FileKind::text) return reason_of_text(seen);
+  if (kind == FileKind::text) return reason_of_text(seen, !findings.doubts.empty());
   if (findings.outcome == Outcome::imported) return {};
-  if (seen.loaded.rows && findings.account.rows > 0) return was_asked(seen) ? Reason{} : named("no_numbers");
+  if (seen.loaded.rows && findings.account.rows > 0)
+    return was_asked(seen) || !findings.doubts.empty() ? Reason{} : named("no_numbers");
   if (seen.failure && (seen.failure->kind == "MemoryError" || seen.failure->kind == "OverflowError"))
     return {"unreadable", T("konsola.powod_ponad_miare")};
   return reason_without_rows(seen.path);
