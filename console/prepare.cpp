@@ -1,7 +1,6 @@
 #include "console/prepare.h"
 
 #include <algorithm>
-#include <charconv>
 #include <ostream>
 #include <system_error>
 #include <utility>
@@ -10,34 +9,27 @@
 #include "console/dialogue/shown_text.h"
 #include "console/failure_text.h"
 #include "console/files.h"
+#include "console/prepare_columns.h"
 #include "console/prepare_log.h"
 #include "console/report/reasons.h"
 #include "intake/columns.h"
 #include "intake/foreign_table.h"
-#include "intake/pair_records.h"
+#include "intake/seen_table.h"
 #include "vexo_xyz_impl/command/module.h"
 #include "vexo_xyz_impl/messages.h"
-#include "vexo_xyz_impl/text/utf8.h"
 
 namespace console {
 namespace {
 
-using intake::Decision;
-using intake::Ground;
 using intake::NotedRow;
 using intake::PreparedAccount;
-using intake::Role;
 using intake::Roles;
 using intake::RowNote;
-using intake::TableShape;
-using intake::Verdict;
 using vexo_xyz_impl::filled;
 using vexo_xyz_impl::T;
-using vexo_xyz_impl::TemplateValue;
 
-constexpr int kMostNames = 10000;        // prepared files of one name in one folder
-constexpr std::size_t kLinesNamed = 5;   // of each kind of rows left out
-constexpr std::size_t kCellsShown = 12;  // of a row in a question
+constexpr int kMostNames = 10000;       // prepared files of one name in one folder
+constexpr std::size_t kLinesNamed = 5;  // of each kind of rows left out
 
 std::filesystem::path log_of(std::filesystem::path output) { return output += ".log"; }
 
@@ -60,22 +52,6 @@ std::string quoted(const std::string& word) {
   return in_quotes + "'";
 }
 
-std::string_view ground_key(Ground ground) {
-  switch (ground) {
-    case Ground::names:
-      return "konsola.prep_z_nazw";
-    case Ground::projection_line:
-      return "konsola.prep_z_ukladu";
-    case Ground::labels:
-      return "konsola.prep_z_etykiet";
-    case Ground::numbering:
-      return "konsola.prep_z_numeracji";
-    case Ground::order:
-      break;
-  }
-  return "konsola.prep_z_kolejnosci";
-}
-
 class Preparation {
  public:
   Preparation(const PrepareOptions& options, LineSource& lines, std::ostream& out)
@@ -90,10 +66,12 @@ class Preparation {
       say("konsola.powod", {T("konsola.powod_" + std::string(code.empty() ? "unreadable" : code))});
       return {kind == intake::FileKind::unreadable || code.empty() ? kFailure : kNothingImported, {}};
     }
-    if (!sheet_is_there()) return {code_, {}};
-    const auto roles = decided_roles();
-    if (!roles) return {code_, {}};
-    return written(*roles);
+    if (!sheet_is_there()) return {options_.sheet ? kUsage : kNothingImported, {}};
+    const auto by_position = options_.columns ? intake::roles_of(*options_.columns) : std::nullopt;
+    const intake::SeenTable seen(*table_, by_position ? &*by_position : nullptr);
+    const ChosenColumns columns = choose_columns(seen, options_.columns, lines_, out_);
+    if (!columns.roles) return {columns.code, {}};
+    return written(seen, *columns.roles);
   }
 
  private:
@@ -108,16 +86,10 @@ class Preparation {
     for (const std::string& sheet : table_->sheets) all += (all.empty() ? "" : ", ") + sheet;
     if (table_->records == nullptr) {
       say("konsola.prep_bez_arkusza", {all});
-      code_ = options_.sheet ? kUsage : kNothingImported;
       return false;
     }
     if (table_->sheets.size() > 1) say("konsola.prep_arkusz", {table_->sheet, all});
     return true;
-  }
-
-  std::optional<Roles> refused(ExitCode code) {
-    code_ = code;
-    return std::nullopt;
   }
 
   bool output_is_refused() {
@@ -138,140 +110,13 @@ class Preparation {
     return false;
   }
 
-  // The records with the column that holds both coordinates as two.
-  void see_shape(const Roles* roles) {
-    records_ = table_->records.get();
-    shape_ = intake::shape_of(*records_, table_->comments);
-    const auto both = intake::pair_column(shape_, roles);
-    if (!both) return;
-    parted_.emplace(*records_, *both);
-    records_ = &*parted_;
-    shape_ = intake::shape_of(*records_, table_->comments);
-  }
-
-  std::optional<Roles> decided_roles() {
-    if (options_.columns) return given_roles();
-    see_shape(nullptr);
-    const Decision decision = intake::decide(shape_);
-    switch (decision.verdict) {
-      case Verdict::clear:
-        say("konsola.prep_kolumny",
-            {told(decision.proposals.front().roles), T(ground_key(decision.proposals.front().ground))});
-        return decision.proposals.front().roles;
-      case Verdict::maybe_degrees:
-        say("konsola.prep_moze_stopnie");
-        return chosen(decision);
-      case Verdict::unclear:
-        return chosen(decision);
-      case Verdict::degrees:
-        say("konsola.prep_stopnie");
-        break;
-      case Verdict::sexagesimal:
-        say("konsola.powod", {T("konsola.powod_dms")});
-        break;
-      case Verdict::no_coordinates:
-        say("konsola.prep_bez_wspolrzednych");
-        break;
-    }
-    return refused(kNothingImported);
-  }
-
-  std::optional<Roles> given_roles() {
-    const auto by_position = intake::roles_of(*options_.columns);
-    see_shape(by_position ? &*by_position : nullptr);
-    auto roles = intake::roles_for(shape_, *options_.columns);
-    if (!roles) {
-      std::string names;
-      for (std::size_t i = 0; i < shape_.width; ++i) {
-        names += (i == 0 ? "" : ", ") + std::to_string(i + 1);
-        if (!shape_.names[i].empty()) names += " " + shape_.names[i];
-      }
-      say("konsola.prep_zle_kolumny", {*options_.columns, names});
-      return refused(kUsage);
-    }
-    return are_degrees(*roles) ? refused(kNothingImported) : roles;
-  }
-
-  bool are_degrees(const Roles& roles) {
-    const Verdict verdict = intake::judged(shape_, roles);
-    if (verdict == Verdict::maybe_degrees) say("konsola.prep_moze_stopnie");
-    if (verdict == Verdict::clear || verdict == Verdict::maybe_degrees) return false;
-    if (verdict == Verdict::sexagesimal) {
-      say("konsola.powod", {T("konsola.powod_dms")});
-    } else {
-      say("konsola.prep_stopnie");
-    }
-    return true;
-  }
-
-  // "nr = POINT, n = NORTH", or the roles alone where there are no names.
-  [[nodiscard]] std::string told(const Roles& roles) const {
-    std::string all;
-    for (std::size_t i = 0; i < roles.size(); ++i) {
-      if (roles[i] == Role::other) continue;
-      all += (all.empty() ? "" : ", ") + intake::spelled({roles[i]}) + " = ";
-      all += i < shape_.names.size() && !shape_.names[i].empty() ? shape_.names[i] : std::to_string(i + 1);
-    }
-    return all;
-  }
-
-  std::optional<Roles> chosen(const Decision& decision) {
-    say("konsola.prep_pytanie");
-    if (shape_.header_line != 0) print(row_text(shape_.names));
-    for (const auto& row : shape_.preview) print(row_text(row));
-    say("konsola.prep_mozliwe");
-    for (std::size_t i = 0; i < decision.proposals.size(); ++i) {
-      const Roles& roles = decision.proposals[i].roles;
-      print("  " + std::to_string(i + 1) + ": " + intake::spelled(roles) + "  (" + told(roles) + ")\n");
-    }
-    while (const auto typed = lines_.read_line(without_control_characters(T("konsola.prep_wybor")), Completion::none)) {
-      const std::string answer(vexo_xyz_impl::text::trim(*typed));
-      const auto roles = meant(decision, answer);
-      if (roles) return are_degrees(*roles) ? refused(kNothingImported) : roles;
-      say("konsola.prep_zly_wybor", {answer});
-      if (lines_.at_end()) break;
-    }
-    say("konsola.prep_bez_wyboru", {"--columns " + intake::spelled(decision.proposals.front().roles)});
-    return refused(kNothingImported);
-  }
-
-  [[nodiscard]] std::optional<Roles> meant(const Decision& decision, const std::string& answer) const {
-    std::size_t number = 0;
-    const auto [end, error] = std::from_chars(answer.data(), answer.data() + answer.size(), number);
-    if (error == std::errc() && end == answer.data() + answer.size()) {
-      const bool is_listed = number >= 1 && number <= decision.proposals.size();
-      return is_listed ? std::optional(decision.proposals[number - 1].roles) : std::nullopt;
-    }
-    return intake::roles_for(shape_, answer);
-  }
-
-  static std::string row_text(const std::vector<std::string>& cells) {
-    std::string text = "  ";
-    for (std::size_t i = 0; i < std::min(cells.size(), kCellsShown); ++i) text += (i == 0 ? "" : " | ") + cells[i];
-    return text + (cells.size() > kCellsShown ? " | ...\n" : "\n");
-  }
-
-  [[nodiscard]] intake::PreparedForm form_of(const Roles& roles) const {
-    intake::PreparedForm form;
-    form.roles = roles;
-    form.missing_height = options_.missing_height;
-    form.header_line = shape_.header_line;
-    form.first_data_line = shape_.first_data_line;
-    if (table_->dialect && table_->dialect->separator == ' ') {
-      form.kinds = shape_.kinds;
-      for (std::size_t i = 0; i < std::min(roles.size(), shape_.width); ++i)
-        if (roles[i] == Role::number) form.kinds[i] = intake::CellKind::any;  // of a point: a text at any time
-    }
-    return form;
-  }
-
-  PrepareResult written(const Roles& roles) {
-    std::filesystem::path output;
+  PrepareResult written(const intake::SeenTable& seen, const Roles& roles) {
+    std::filesystem::path writing = options_.file;  // for the message of a failure
     try {
-      output = options_.output ? *options_.output : free_name(options_.file);
+      const std::filesystem::path output = writing = options_.output ? *options_.output : free_name(options_.file);
       AtomicFile file(output.parent_path());
-      const PreparedAccount account =
-          intake::write_prepared(*records_, form_of(roles), [&file](std::string_view piece) { file.write(piece); });
+      const PreparedAccount account = intake::write_prepared(seen.records(), seen.form(roles, options_.missing_height),
+                                                             [&file](std::string_view piece) { file.write(piece); });
       if (account.points == 0) {
         tell(account);
         say("konsola.prep_bez_punktow");
@@ -284,11 +129,12 @@ class Preparation {
       }
       say("konsola.prep_zapisano", output.string(), account.points);
       tell(account);
+      writing = log_of(output);
       write_log(output, account);
       say("konsola.prep_powtorz", {repeating(roles, output)});
       return {kImported, output};
     } catch (const std::system_error& failure) {
-      say("konsola.prep_blad_zapisu", {output.string(), failure_text(failure)});
+      say("konsola.prep_blad_zapisu", {writing.string(), failure_text(failure)});
       return {kFailure, {}};
     }
   }
@@ -336,11 +182,7 @@ class Preparation {
   const PrepareOptions& options_;
   LineSource& lines_;
   std::ostream& out_;
-  ExitCode code_ = kNothingImported;
   std::optional<intake::ForeignTable> table_;
-  std::optional<intake::PairRecords> parted_;
-  intake::Records* records_ = nullptr;
-  TableShape shape_;
 };
 
 }  // namespace

@@ -12,6 +12,7 @@ namespace {
 namespace text = vexo_xyz_impl::text;
 
 constexpr std::size_t kSurelyFinite = 200;  // digits; no more than these can pass the greatest double
+constexpr double kNoValue = 1e15;           // what is as large, 1E31 mostly, stands for a value that is missing
 constexpr std::string_view kMinus = "\xE2\x88\x92";
 
 constexpr bool is_digit(char c) { return c >= '0' && c <= '9'; }
@@ -122,7 +123,7 @@ bool append_number(std::string& out, std::string_view cell) {
   const std::size_t before = out.size();
   if (spell(out, cell) != NumberForm::none) {
     const auto value = vexo_xyz_impl::parse_number(std::string_view(out).substr(before));
-    if (value && std::isfinite(*value)) return true;
+    if (value && std::abs(*value) < kNoValue) return true;
   }
   out.resize(before);
   return false;

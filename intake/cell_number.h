@@ -14,8 +14,8 @@ enum class NumberForm { none, whole, point, comma };
 
 [[nodiscard]] NumberForm number_form(std::string_view cell);
 
-/// Appends the number that `cell` spells as the importer reads it; false, with nothing appended, when it is none or not
-/// finite.
+/// Appends the number that `cell` spells as the importer reads it; false, with nothing appended, when it is none, not
+/// finite or so large that it stands for none, as 1E31 does.
 [[nodiscard]] bool append_number(std::string& out, std::string_view cell);
 
 /// Digits behind the mark of a plain number.

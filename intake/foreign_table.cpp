@@ -7,22 +7,6 @@
 namespace intake {
 namespace {
 
-std::optional<ForeignTable> open_text(const std::string& path) {
-  auto bytes = vexo_xyz_impl::all_bytes(path);
-  if (!bytes) return std::nullopt;
-  DecodedText decoded_text = decoded(std::move(*bytes));
-  ForeignTable table;
-  table.encoding = decoded_text.encoding;
-  table.text = std::move(decoded_text.utf8);
-  const std::string_view utf8(table.text.data(), table.text.size());
-  table.dialect = dialect_of(utf8);
-  auto records = std::make_unique<TextRecords>(utf8, *table.dialect);
-  table.comments = records->leading_comments();
-  table.lines = records.get();
-  table.records = std::move(records);
-  return table;
-}
-
 ForeignTable open_workbook(const std::string& path, const std::optional<std::string>& sheet) {
   Workbook workbook(path);
   ForeignTable table;
@@ -37,12 +21,27 @@ ForeignTable open_workbook(const std::string& path, const std::optional<std::str
 
 }  // namespace
 
+ForeignTable text_table(std::vector<char> bytes) {
+  DecodedText decoded_text = decoded(std::move(bytes));
+  ForeignTable table;
+  table.encoding = decoded_text.encoding;
+  table.text = std::move(decoded_text.utf8);
+  const std::string_view utf8(table.text.data(), table.text.size());
+  table.dialect = dialect_of(utf8);
+  auto records = std::make_unique<TextRecords>(utf8, *table.dialect);
+  table.comments = records->leading_comments();
+  table.lines = records.get();
+  table.records = std::move(records);
+  return table;
+}
+
 std::optional<ForeignTable> open_table(const std::string& path, FileKind kind,
                                        const std::optional<std::string>& sheet) {
   switch (kind) {
     case FileKind::text:
     case FileKind::utf16:
-      return open_text(path);
+      if (auto bytes = vexo_xyz_impl::all_bytes(path)) return text_table(std::move(*bytes));
+      return std::nullopt;
     case FileKind::workbook:
       return open_workbook(path, sheet);
     default:

@@ -29,6 +29,9 @@ struct ForeignTable {
   std::vector<std::string> sheets;  ///< all of a workbook that a person can see, in the order of tabs
 };
 
+/// The table in a text's bytes.
+[[nodiscard]] ForeignTable text_table(std::vector<char> bytes);
+
 /// The table in the file at `path`, whose kind is `kind`: a text or a workbook, of which `sheet` is read, else the one
 /// that a person sees first. Empty when it cannot be read, or is of a kind that holds no table. Fails as `Workbook`.
 [[nodiscard]] std::optional<ForeignTable> open_table(const std::string& path, FileKind kind,

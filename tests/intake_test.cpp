@@ -1,5 +1,4 @@
 // Foreign tables of points: what is decided of them, and the file that is made of them.
-#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -11,10 +10,9 @@
 #include "intake/columns.h"
 #include "intake/dialect.h"
 #include "intake/encoding.h"
+#include "intake/foreign_table.h"
 #include "intake/header_words.h"
-#include "intake/pair_records.h"
-#include "intake/prepared_file.h"
-#include "intake/table_shape.h"
+#include "intake/seen_table.h"
 #include "intake/text_records.h"
 
 namespace {
@@ -31,21 +29,9 @@ string utf8_of(string_view bytes) {
 // A table as the program sees it, from its text on.
 struct Table {
   explicit Table(string_view bytes, const Roles* roles = nullptr)
-      : text(utf8_of(bytes)), dialect(dialect_of(text)), whole(text, dialect), records(&whole) {
-    shape = shape_of(whole, whole.leading_comments());
-    const auto both = pair_column(shape, roles);
-    if (!both) return;
-    parted = std::make_unique<PairRecords>(whole, *both);
-    records = parted.get();
-    shape = shape_of(*records, whole.leading_comments());
-  }
-
-  string text;
-  Dialect dialect;
-  TextRecords whole;
-  std::unique_ptr<PairRecords> parted;
-  Records* records;
-  TableShape shape;
+      : table(text_table({bytes.begin(), bytes.end()})), seen(table, roles) {}
+  ForeignTable table;
+  SeenTable seen;
 };
 
 struct Prepared {
@@ -56,22 +42,22 @@ struct Prepared {
 Prepared prepared(string_view bytes, string_view columns, MissingHeight missing = MissingHeight::skip) {
   const auto by_position = roles_of(columns);
   Table table(bytes, by_position ? &*by_position : nullptr);
-  const auto roles = roles_for(table.shape, columns);
+  const auto roles = roles_for(table.seen.shape(), columns);
   if (!roles) return {"no roles", {}};
-  PreparedForm form{*roles, missing, table.shape.header_line, table.shape.first_data_line, {}};
-  if (table.dialect.separator == ' ') form.kinds = table.shape.kinds;
   Prepared result;
-  result.account = write_prepared(*table.records, form, [&](string_view piece) { result.file += piece; });
-  EXPECT_EQ(result.account.records, result.account.points + result.account.head.size() + result.account.left_out)
-      << bytes;
-  EXPECT_EQ(table.whole.lines() - table.whole.comments() - table.whole.blank() >= result.account.records, true);
+  result.account = write_prepared(table.seen.records(), table.seen.form(*roles, missing),
+                                  [&](string_view piece) { result.file += piece; });
+  const PreparedAccount& account = result.account;
+  EXPECT_EQ(account.records, account.points + account.head.size() + account.left_out) << bytes;
+  const TextRecords& lines = *table.table.lines;
+  EXPECT_GE(lines.lines(), lines.comments() + lines.blank() + account.records) << bytes;
   return result;
 }
 
 // What is decided without being told: the roles when they are clear, else the verdict.
 string decided(string_view bytes) {
   const Table table(bytes);
-  const Decision decision = decide(table.shape);
+  const Decision decision = decide(table.seen.shape());
   switch (decision.verdict) {
     case Verdict::clear:
       return spelled(decision.proposals.front().roles);
@@ -230,6 +216,7 @@ TEST(Intake, CopiesNumbersDigitForDigit) {
       {"86.711.1", ""},
       {"nan", ""},
       {"1e999", ""},
+      {"1E31", ""},
       {"12.5m", ""},
       {"1,2,3", ""},
       {"", ""},

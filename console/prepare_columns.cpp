@@ -1,0 +1,172 @@
+#include "console/prepare_columns.h"
+
+#include <algorithm>
+#include <charconv>
+#include <ostream>
+#include <string_view>
+#include <system_error>
+#include <utility>
+#include <vector>
+
+#include "console/dialogue/shown_text.h"
+#include "intake/columns.h"
+#include "vexo_xyz_impl/messages.h"
+#include "vexo_xyz_impl/text/utf8.h"
+
+namespace console {
+namespace {
+
+using intake::Decision;
+using intake::Ground;
+using intake::Role;
+using intake::Roles;
+using intake::TableShape;
+using intake::Verdict;
+using vexo_xyz_impl::filled;
+using vexo_xyz_impl::T;
+
+constexpr std::size_t kCellsShown = 12;  // of a row in a question
+
+std::string_view ground_key(Ground ground) {
+  switch (ground) {
+    case Ground::names:
+      return "konsola.prep_z_nazw";
+    case Ground::projection_line:
+      return "konsola.prep_z_ukladu";
+    case Ground::labels:
+      return "konsola.prep_z_etykiet";
+    case Ground::numbering:
+      return "konsola.prep_z_numeracji";
+    case Ground::order:
+      break;
+  }
+  return "konsola.prep_z_kolejnosci";
+}
+
+class Choosing {
+ public:
+  Choosing(const TableShape& shape, LineSource& lines, std::ostream& out) : shape_(shape), lines_(lines), out_(out) {}
+
+  ChosenColumns decided() {
+    const Decision decision = intake::decide(shape_);
+    switch (decision.verdict) {
+      case Verdict::clear:
+        say("konsola.prep_kolumny",
+            {told(decision.proposals.front().roles), T(ground_key(decision.proposals.front().ground))});
+        return {decision.proposals.front().roles};
+      case Verdict::maybe_degrees:
+      case Verdict::unclear:
+        return chosen(decision);
+      case Verdict::degrees:
+        say("konsola.prep_stopnie");
+        break;
+      case Verdict::sexagesimal:
+        say("konsola.powod", {T("konsola.powod_dms")});
+        break;
+      case Verdict::no_coordinates:
+        say("konsola.prep_bez_wspolrzednych");
+        break;
+    }
+    return {};
+  }
+
+  ChosenColumns given(const std::string& columns) {
+    const auto roles = intake::roles_for(shape_, columns);
+    if (!roles) {
+      std::string names;
+      for (std::size_t i = 0; i < shape_.width; ++i) {
+        names += (i == 0 ? "" : ", ") + std::to_string(i + 1);
+        if (!shape_.names[i].empty()) names += " " + shape_.names[i];
+      }
+      say("konsola.prep_zle_kolumny", {columns, names});
+      return {std::nullopt, kUsage};
+    }
+    return are_degrees(*roles) ? ChosenColumns() : ChosenColumns{roles};
+  }
+
+ private:
+  void say(std::string_view key, const std::vector<std::string>& values = {}) {
+    print(filled(key, {values.begin(), values.end()}));
+  }
+  void print(std::string_view text) { out_ << shown_text(text) << std::flush; }
+
+  void warn_of_degrees() {
+    if (!std::exchange(is_warned_, true)) say("konsola.prep_moze_stopnie");
+  }
+
+  // Tells what is against the roles; whether that forbids them.
+  bool are_degrees(const Roles& roles) {
+    const Verdict verdict = intake::judged(shape_, roles);
+    if (verdict == Verdict::maybe_degrees) warn_of_degrees();
+    if (verdict == Verdict::clear || verdict == Verdict::maybe_degrees) return false;
+    if (verdict == Verdict::sexagesimal) {
+      say("konsola.powod", {T("konsola.powod_dms")});
+    } else {
+      say("konsola.prep_stopnie");
+    }
+    return true;
+  }
+
+  // "nr = POINT, n = NORTH", or the roles alone where there are no names.
+  [[nodiscard]] std::string told(const Roles& roles) const {
+    std::string all;
+    for (std::size_t i = 0; i < roles.size(); ++i) {
+      if (roles[i] == Role::other) continue;
+      all += (all.empty() ? "" : ", ") + intake::spelled({roles[i]}) + " = ";
+      all += i < shape_.names.size() && !shape_.names[i].empty() ? shape_.names[i] : std::to_string(i + 1);
+    }
+    return all;
+  }
+
+  ChosenColumns chosen(const Decision& decision) {
+    if (decision.verdict == Verdict::maybe_degrees) warn_of_degrees();
+    say("konsola.prep_pytanie");
+    if (shape_.header_line != 0) print(row_text(shape_.names));
+    for (const auto& row : shape_.preview) print(row_text(row));
+    say("konsola.prep_mozliwe");
+    for (std::size_t i = 0; i < decision.proposals.size(); ++i) {
+      const Roles& roles = decision.proposals[i].roles;
+      print("  " + std::to_string(i + 1) + ": " + intake::spelled(roles) + "  (" + told(roles) + ")\n");
+    }
+    while (const auto typed = lines_.read_line(without_control_characters(T("konsola.prep_wybor")), Completion::none)) {
+      const std::string answer(vexo_xyz_impl::text::trim(*typed));
+      const auto roles = meant(decision, answer);
+      if (roles) return are_degrees(*roles) ? ChosenColumns() : ChosenColumns{roles};
+      say("konsola.prep_zly_wybor", {answer});
+      if (lines_.at_end()) break;
+    }
+    say("konsola.prep_bez_wyboru", {"--columns " + intake::spelled(decision.proposals.front().roles)});
+    return {};
+  }
+
+  [[nodiscard]] std::optional<Roles> meant(const Decision& decision, const std::string& answer) const {
+    std::size_t number = 0;
+    const auto [end, error] = std::from_chars(answer.data(), answer.data() + answer.size(), number);
+    if (error == std::errc() && end == answer.data() + answer.size()) {
+      const bool is_listed = number >= 1 && number <= decision.proposals.size();
+      return is_listed ? std::optional(decision.proposals[number - 1].roles) : std::nullopt;
+    }
+    return intake::roles_for(shape_, answer);
+  }
+
+  static std::string row_text(const std::vector<std::string>& cells) {
+    std::string text = "  ";
+    for (std::size_t i = 0; i < std::min(cells.size(), kCellsShown); ++i) text += (i == 0 ? "" : " | ") + cells[i];
+    return text + (cells.size() > kCellsShown ? " | ...\n" : "\n");
+  }
+
+  const TableShape& shape_;
+  LineSource& lines_;
+  std::ostream& out_;
+  bool is_warned_ = false;
+};
+
+}  // namespace
+
+ChosenColumns choose_columns(const intake::SeenTable& table, const std::optional<std::string>& columns,
+                             LineSource& lines, std::ostream& out) {
+  Choosing choosing(table.shape(), lines, out);
+  return columns ? choosing.given(*columns) : choosing.decided();
+}
+
+}  // namespace console
