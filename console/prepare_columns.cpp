@@ -97,8 +97,13 @@ class Choosing {
   // Tells what is against the roles; whether that forbids them.
   bool are_degrees(const Roles& roles) {
     const Verdict verdict = intake::judged(shape_, roles);
-    if (verdict == Verdict::maybe_degrees) warn_of_degrees();
-    if (verdict == Verdict::clear || verdict == Verdict::maybe_degrees) return false;
+    if (verdict == Verdict::clear) return false;
+    if (verdict == Verdict::maybe_degrees) {
+      // No grid's eastings and northings are that small; metres of a local system may be.
+      const bool are_of_a_grid = std::find(roles.begin(), roles.end(), Role::easting) != roles.end();
+      are_of_a_grid ? say("konsola.prep_stopnie_zamiast_siatki") : warn_of_degrees();
+      return are_of_a_grid;
+    }
     if (verdict == Verdict::sexagesimal) {
       say("konsola.powod", {T("konsola.powod_dms")});
     } else {

@@ -70,6 +70,19 @@ std::span<const Text> prepare_texts() {
        "coloanele fișierului: %s\n",
        "--columns %s does not fit: two coordinates are needed (e,n or x,y), each role at most once; columns of the "
        "file: %s\n"},
+      {"konsola.prep_stopnie_zamiast_siatki", "",
+       "Liczby są za małe na współrzędne E i N siatki państwowej: to zapewne stopnie, których rysunek nie przyjmie. "
+       "Jeśli "
+       "są to metry układu lokalnego, nazwij kolumny x i y. Nic nie zapisano.\n",
+       "Die Zahlen sind zu klein für E und N eines Landesnetzes: wohl Grad, mit denen eine Zeichnung nichts anfängt. "
+       "Sind "
+       "es Meter eines örtlichen Netzes, bitte die Spalten x und y nennen. Nichts wurde geschrieben.\n",
+       "Numerele sunt prea mici pentru E și N ale unei rețele naționale: probabil grade, pe care desenul nu le "
+       "folosește. "
+       "Dacă sunt metri ai unui sistem local, numiți coloanele x și y. Nu s-a scris nimic.\n",
+       "The numbers are too small for E and N of a national grid: degrees, it seems, which are no drawing coordinates. "
+       "If "
+       "they are metres of a local system, call the columns x and y. Nothing was written.\n"},
       {"konsola.prep_stopnie", "",
        "Współrzędne podano w stopniach, a rysunek wymaga współrzędnych płaskich w metrach: najpierw je przelicz. Nic "
        "nie zapisano.\n",
