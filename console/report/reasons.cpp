@@ -94,8 +94,14 @@ Reason reason_without_rows(const std::string& path) {
   }
 }
 
-// `has_doubts`: what is amiss is told already.
-Reason reason_of_text(const ImportSeen& seen, bool has_doubts) {
+// Of rows of which none gave a point: no numbers where two are due, or only the height's missing, which is doubted.
+Reason reason_of_rows(const ImportSeen& seen, const Findings& findings) {
+  if (!seen.read.punkty.empty() || was_asked(seen)) return {};
+  if (findings.doubts.empty()) return named("no_numbers");
+  return {"no_numbers", T("konsola.powod_bez_wysokosci")};
+}
+
+Reason reason_of_text(const ImportSeen& seen, const Findings& findings) {
   const std::vector<char> text = beginning_of(seen.path);
   const std::string_view beginning(text.data(), text.size());
   if (is_in_minutes(beginning)) return named("dms");
@@ -108,8 +114,7 @@ Reason reason_of_text(const ImportSeen& seen, bool has_doubts) {
   }
   if (dialect.mixed) return named("mixed_separators");
   if (dialect.quoted) return named("quoted");
-  const bool had_points = !seen.read.punkty.empty();
-  return had_points || was_asked(seen) || has_doubts ? Reason{} : named("no_numbers");
+  return reason_of_rows(seen, findings);
 }
 
 // Whether what was imported is to be looked at all the same.
@@ -163,10 +168,9 @@ Reason reason_of(const ImportSeen& seen, const Findings& findings) {
   if (!is_suspicious(seen, findings)) return {};
   const FileKind kind = intake::file_kind(seen.path);
   if (const std::string_view code = kind_code(kind); !code.empty()) return named(code);
-  if (kind == FileKind::text) return reason_of_text(seen, !findings.doubts.empty());
+  if (kind == FileKind::text) return reason_of_text(seen, findings);
   if (findings.outcome == Outcome::imported) return {};
-  if (seen.loaded.rows && findings.account.rows > 0)
-    return was_asked(seen) || !findings.doubts.empty() ? Reason{} : named("no_numbers");
+  if (seen.loaded.rows && findings.account.rows > 0) return reason_of_rows(seen, findings);
   if (seen.failure && (seen.failure->kind == "MemoryError" || seen.failure->kind == "OverflowError"))
     return {"unreadable", T("konsola.powod_ponad_miare")};
   return reason_without_rows(seen.path);

@@ -141,6 +141,14 @@ std::span<const Text> reason_texts() {
        "in no row do coordinates stand in the first columns. If they stand in others, name these: vexo-xyz prepare "
        "FILE "
        "--columns …"},
+      {"konsola.powod_bez_wysokosci", "",
+       "w żadnym wierszu nie ma liczby tam, gdzie powinna być wysokość. Wskaż kolumny: vexo-xyz prepare PLIK --columns "
+       "…",
+       "In keiner Zeile steht eine Zahl, wo die Höhe stehen sollte. Bitte Spalten angeben: vexo-xyz prepare DATEI "
+       "--columns …",
+       "în niciun rând nu există un număr unde ar trebui să fie cota. Indicați coloanele: vexo-xyz prepare FIȘIER "
+       "--columns …",
+       "in no row does a number stand where the height is due. Name the columns: vexo-xyz prepare FILE --columns …"},
       {"konsola.powod_unreadable", "",
        "pliku nie można odczytać: nie istnieje, jest uszkodzony, nie wolno go czytać albo nie jest zwykłym plikiem. "
        "Sprawdź ścieżkę lub pobierz plik ponownie.",

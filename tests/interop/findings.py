@@ -58,7 +58,7 @@ CASES = {
                            "imported", 9, [], None, [], []),
     "one whole number as height": (rows("P{n};{x};{y};33"), [], "imported", 12, ["height"], None, [], []),
     "heights of nought": (rows("P{n};{x};{y};0"), [], "imported", 12, [], None, [], []),
-    "no number as height, ever": (rows("P{n};{x};{y};{z}*"), [], "nothing", 0, ["height"], None, [], list(range(1, 13))),
+    "no number as height, ever": (rows("P{n};{x};{y};{z}*"), [], "nothing", 0, ["height"], "no_numbers", [], list(range(1, 13))),
     "a name a line": ("Ore\n4\nHole\nX\nY\nGrade\n" + rows("P{n} {x} {y} {z}"), [], "imported", 12, ["height"], None,
                       list(range(1, 7)), []),
     "height repeats the easting": (rows("P{n};{x};{y};{y}"), [], "imported", 12, ["height"], None, [], []),
