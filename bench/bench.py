@@ -367,6 +367,18 @@ def workbook(bench):
                     max(run.peak for run in results[programs[0].name]) / unpacked, 3, 2) + "\n")
 
 
+def prepare(bench):
+    """a table separated by commas into the file that is imported without a question: time, against ogr2ogr"""
+    path = f"labelled_{bench.points}.csv"
+    programs = [Program("vexo-xyz prepare", f"vexo-xyz prepare {path} -o out_prepared.csv --force"),
+                Program("ogr2ogr to semicolons", f"ogr2ogr -f CSV -lco SEPARATOR=SEMICOLON out_gdal.csv {path}", slow=True)]
+    megabytes = os.path.getsize(bench.made(path)) / 1e6
+    bench.show(f"## A table of {bench.points:,} rows separated by commas, {megabytes:.0f} MB\n\n")
+    results = bench.in_turn(programs)
+    bench.show(comparison(results, [(programs[0].name, "ogr2ogr to semicolons", "wall", 0.2)]))
+    bench.show(goal("CPU time a MB", 1e3 * median(run.cpu for run in results[programs[0].name]) / megabytes, 10, 1, " ms") + "\n")
+
+
 def script(bench):
     """the module's own share of an import in the CAD host's scripting layer"""
     points = bench.points // 10
@@ -381,7 +393,7 @@ def script(bench):
     bench.show(goal("the module's own share beside the strict stand-in, siblings and the cost of calling included", share, 12, 1, " %") + "\n")
 
 
-SECTIONS = {section.__name__: section for section in (whole, growth, phases, micro, workbook, script)}
+SECTIONS = {section.__name__: section for section in (whole, growth, phases, micro, workbook, prepare, script)}
 
 
 def arguments():

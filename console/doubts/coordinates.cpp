@@ -14,7 +14,6 @@ namespace console {
 namespace {
 
 using vexo_xyz_impl::filled;
-using vexo_xyz_impl::Layout;
 using vexo_xyz_impl::PointRecord;
 using vexo_xyz_impl::Row;
 

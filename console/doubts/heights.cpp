@@ -16,7 +16,6 @@ namespace {
 using vexo_xyz_impl::filled;
 using vexo_xyz_impl::parse_number;
 using vexo_xyz_impl::PointRecord;
-using vexo_xyz_impl::Row;
 using vexo_xyz_impl::SkippedLine;
 
 constexpr double kHighest = 12000.0;  // metres, above and below: no point of the Earth's surface, no mine, no trench

@@ -37,8 +37,9 @@ std::vector<std::string> separators_of(std::span<const Row> rows) {
       before = cell;
     }
   }
-  std::vector<std::string> names;
-  for (const char mark : found) names.push_back(mark == '\t' ? "tab" : mark == ' ' ? "blank" : ";");
+  std::vector<std::string> names(found.size());
+  std::transform(found.begin(), found.end(), names.begin(),
+                 [](char mark) { return mark == '\t' ? "tab" : mark == ' ' ? "blank" : ";"; });
   return names;
 }
 
