@@ -73,6 +73,8 @@ CASES = {
     "one place, two numbers": (SOUND + SOUND.splitlines()[4].replace("P5", "Q5") + "\n", [], "imported", 13,
                                ["same_place"], None, [], []),
     "far away": (SOUND + "P13;58012.34;75012.34;1.5\n", [], "imported", 13, ["far_away"], None, [], []),
+    "rows the other way round": (SOUND + "P13;7501240.1;5801240.2;101.5\nP14;7501250.1;5801230.2;101.5\n", [], "imported",
+                                 14, ["far_away"], None, [], []),
     "axes left open": (rows("K{n};{x};{y};{z}", points=[(5590430.2 + i, 5588360.9 + 3 * i, 389.4) for i in range(9)]), [],
                        "imported", 9, ["axes_unconfirmed"], None, [], []),
     "axes told": (rows("K{n};{x};{y};{z}", points=[(5590430.2 + i, 5588360.9 + 3 * i, 389.4) for i in range(9)]),
