@@ -36,6 +36,7 @@ Roles roles_with(const TableShape& shape, std::optional<Column> number, Pair pai
                  std::optional<Column> height) {
   Roles roles(shape.width, Role::other);
   if (number) roles[*number] = Role::number;
+  if (!axes_known && pair.second < pair.first) std::swap(pair.first, pair.second);  // a bare Y, X: the file's order
   roles[pair.first] = axes_known ? Role::easting : Role::x;
   roles[pair.second] = axes_known ? Role::northing : Role::y;
   if (height) roles[*height] = Role::height;

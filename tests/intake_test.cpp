@@ -277,6 +277,7 @@ TEST(Intake, WritesWhatTheImporterReads) {
        "# columns: number;X;Y\nr;389301;508713\ns;390229;512013\n"},
       {"Nr X Y Z kod\n1 1.5 2.5 3.5\n2 1.5 2.5 3.5\n", "nr,x,y,z",
        "# columns: number;X;Y;Z\n1;1.5;2.5;3.5\n2;1.5;2.5;3.5\n"},
+      {"a;5.5;6.5\nb;7.5;8.5\n", "nr,y,x", "# columns: number;X;Y\na;5.5;6.5\nb;7.5;8.5\n"},
       {"P1: 481367 5782936 100\nP2: 481396 5782940 100\n", "nr,e,n,z",
        "# columns: number;E;N;Z\nP1;481367;5782936;100\nP2;481396;5782940;100\n"},
       {"No;East;North\n7;1.5;2.5\n8;2.5;3.5\n", "n=3,e=EAST,nr=No", "# columns: number;E;N\n7;1.5;2.5\n8;2.5;3.5\n"},
