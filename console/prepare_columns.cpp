@@ -146,7 +146,7 @@ class Choosing {
   ChosenColumns chosen(const Decision& decision) {
     if (decision.verdict == Verdict::maybe_degrees) warn_of_degrees();
     say("konsola.prep_pytanie");
-    if (shape_.header_line != 0) print(row_text(shape_.names));
+    if (shape_.header_line != 0) print(row_text(shape_.loose_names.empty() ? shape_.names : shape_.loose_names));
     for (const auto& row : shape_.preview) print(row_text(row));
     say("konsola.prep_mozliwe");
     for (std::size_t i = 0; i < decision.proposals.size(); ++i) {

@@ -263,6 +263,25 @@ Decision by_content(const TableShape& shape) {
   return decision;
 }
 
+// Names of all columns but the first, which numbers or labels the rows: as statistics programs write them.
+bool name_a_column_less(const TableShape& shape) {
+  if (shape.loose_names.size() + 1 != shape.width) return false;
+  const ColumnContent& first = shape.columns.front();
+  return is_numbering(shape, 0) || (first.numbers == 0 && first.filled == shape.rows);
+}
+
+void propose_names_behind_the_first(const TableShape& shape, Decision& decision) {
+  TableShape moved = shape;
+  moved.names = shape.loose_names;
+  moved.names.insert(moved.names.begin(), std::string());
+  auto named = by_names(moved).proposals;
+  for (const Proposal& made : decision.proposals) {
+    const auto same = [&](const Proposal& other) { return other.roles == made.roles; };
+    if (std::none_of(named.begin(), named.end(), same)) named.push_back(made);
+  }
+  decision.proposals = std::move(named);
+}
+
 }  // namespace
 
 Decision decide(const TableShape& shape) {
@@ -275,6 +294,7 @@ Decision decide(const TableShape& shape) {
       decision = std::move(*by_line);
     } else {
       decision = by_content(shape);
+      if (name_a_column_less(shape)) propose_names_behind_the_first(shape, decision);
       // Names that say nothing may say so in a language that is not known here.
       if (shape.header_line != 0 && decision.verdict == Verdict::clear) decision.verdict = Verdict::unclear;
     }

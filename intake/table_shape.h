@@ -45,14 +45,19 @@ struct TableShape {
   std::size_t first_data_line = 0;  ///< 0 without data
   bool names_by_line = false;       ///< a title, a count and one line a name, as geostatistical programs write
   std::vector<std::string> names;   ///< by column, empty ones where there is none
+  /// Names that are more or fewer than the columns, so that nobody knows which is whose; else empty.
+  std::vector<std::string> loose_names;
   std::vector<ColumnContent> columns;
   std::vector<CellKind> kinds;                    ///< by column
   std::vector<std::vector<std::string>> preview;  ///< the first rows of data
   Projection projection = Projection::none;
 };
 
+/// Whether each cell stands in its column, as on a sheet, or is only counted from the left.
+enum class Cells { counted, placed };
+
 /// The shape of the records from the first on. `comments` are the lines of comment before them, which may hold names.
 [[nodiscard]] TableShape shape_of(Records& records,
-                                  const std::vector<std::pair<std::size_t, std::string_view>>& comments = {});
+                                  const std::vector<std::pair<std::size_t, std::string_view>>& comments, Cells cells);
 
 }  // namespace intake
