@@ -55,7 +55,10 @@ NamedColumns names_of(const TableShape& shape) {
       const bool angle = content.sexagesimal > 0;
       const bool zeros = content.is_constant() && content.least == 0.0 && shape.rows > 1;
       if (content.filled == 0) name.named = Named::other_value;
-      if (2 * content.numbers < content.filled && !angle) name.named = Named::unknown;
+      const bool any_height = name.named == Named::height && content.numbers + content.nearly > 0;
+      if (2 * content.numbers < content.filled && !angle) {
+        name.named = any_height ? Named::maybe_height : Named::unknown;
+      }
       if (zeros && name.named != Named::height) name.named = Named::other_value;
     }
     named.names.push_back(name);
@@ -114,9 +117,12 @@ std::optional<Column> number_by_name(const TableShape& shape, const NamedColumns
 // A column right behind the coordinates that might be a height, were its name understood.
 bool hides_a_height(const TableShape& shape, const NamedColumns& named, Pair pair) {
   const Column next = std::max(pair.first, pair.second) + 1;
-  if (next >= shape.width || named.names[next].named != Named::unknown) return false;
+  if (next >= shape.width) return false;
+  const Named name = named.names[next].named;
+  if (name != Named::unknown && name != Named::nothing) return false;
   const ColumnContent& content = shape.columns[next];
-  return content.is_numeric() && !content.is_whole() && !content.is_constant();
+  return (content.is_numeric() && !content.is_whole() && !content.is_constant()) ||
+         may_hold_heights(shape, pair.first, pair.second, next);
 }
 
 // Of X, Y, Z side by side the Z is the height, whatever else has a height's name.
@@ -159,16 +165,24 @@ Decision by_names(const TableShape& shape) {
     }
     return decision;
   }
-  const Roles& first = decision.proposals.front().roles;
   const Pair pair = axes.empty() ? order.front() : axes.front();
   // Beside degrees a bare X and Y may be places in an image; of a grid they are only when they are large.
   const bool is_image = axes.empty() && !angles.empty() && is_within(shape, pair.first, kLeastGrid) &&
                         is_within(shape, pair.second, kLeastGrid);
   const bool one_pair = axes.size() + order.size() == 1 && !is_image;
-  const bool height_told = heights.size() == 1 || (heights.empty() && !hides_a_height(shape, named, pair));
+  const auto possible = named.of(Named::maybe_height);
+  const bool height_told =
+      heights.size() == 1 || (heights.empty() && possible.empty() && !hides_a_height(shape, named, pair));
   decision.verdict = one_pair && height_told ? Verdict::clear : Verdict::unclear;
-  if (heights.empty() && hides_a_height(shape, named, pair)) {
-    Roles with = first;
+  if (heights.empty()) {
+    for (const Candidate& height : possible) {
+      Roles with = decision.proposals.back().roles;
+      with[height.column] = Role::height;
+      decision.proposals.insert(decision.proposals.begin(), {std::move(with), Ground::names});
+    }
+  }
+  if (heights.empty() && possible.empty() && hides_a_height(shape, named, pair)) {
+    Roles with = decision.proposals.front().roles;
     with[std::max(pair.first, pair.second) + 1] = Role::height;
     decision.proposals.insert(decision.proposals.begin() + 1, {std::move(with), Ground::names});
   }
@@ -255,8 +269,15 @@ Decision by_content(const TableShape& shape) {
   const bool starts_clearly =
       numbered || numeric.size() == 2 || (!mostly_whole(a) && looks_like_coordinates_first(shape, a, b));
   const bool unique = !labels || 2 * shape.columns.front().distinct >= shape.columns.front().filled;
+  const bool hidden = b + 1 < shape.width && may_hold_heights(shape, a, b, b + 1);
+  if (hidden) {
+    Roles with = decision.proposals.front().roles;
+    std::replace(with.begin(), with.end(), Role::height, Role::other);
+    with[b + 1] = Role::height;
+    decision.proposals.insert(decision.proposals.begin(), {std::move(with), decision.proposals.front().ground});
+  }
   const bool height_clear =
-      behind == 0 || (behind == 1 && numeric[skipped + 2] == b + 1 && may_be_height(shape, a, b, b + 1));
+      (behind == 0 && !hidden) || (behind == 1 && numeric[skipped + 2] == b + 1 && may_be_height(shape, a, b, b + 1));
   const bool clear = adjacent && same_kind && starts_clearly && unique && height_clear && shape.rows > 1;
   decision.verdict = clear ? Verdict::clear : Verdict::unclear;
   if (may_be_degrees(shape, a, b)) decision.verdict = Verdict::maybe_degrees;

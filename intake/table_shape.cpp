@@ -246,7 +246,10 @@ void see_content(TableShape& shape, const Sample& sample, const std::vector<bool
       column.pairs += is_pair(cell) ? 1 : 0;
       column.whole_pairs += is_long_pair(cell) ? 1 : 0;
       std::string plain;
-      if (!append_number(plain, cell)) continue;
+      if (!append_number(plain, cell)) {
+        column.nearly += is_nearly_number(cell) ? 1 : 0;
+        continue;
+      }
       const double value = vexo_xyz_impl::_num(plain);
       column.rising += column.numbers > 0 && value > before[i] ? 1 : 0;
       column.least = column.numbers == 0 ? value : std::min(column.least, value);

@@ -19,6 +19,7 @@ struct ColumnContent {
   std::size_t whole = 0;    ///< without a mark
   std::size_t fine = 0;     ///< with at least four decimals
   std::size_t finest = 0;   ///< with at least six, as decimal degrees have and metres do not
+  std::size_t nearly = 0;   ///< no numbers, but for signs around one with decimals: =100.3, 100.3*
   std::size_t sexagesimal = 0;
   std::size_t pairs = 0;        ///< two numbers with points
   std::size_t whole_pairs = 0;  ///< two numbers of at least four digits, that may be one with a decimal comma
