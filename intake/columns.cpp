@@ -133,6 +133,15 @@ void keep_bare_z(const TableShape& shape, const std::vector<Pair>& pairs, std::v
   if (is_bare) std::erase_if(heights, [behind](const Candidate& height) { return height.column != behind; });
 }
 
+// Metres below names of degrees.
+bool are_too_large_for_degrees(const TableShape& shape, Pair pair) {
+  constexpr double kCircle = 360.0;
+  const auto is_too_large = [&](Column i) {
+    return shape.columns[i].is_numeric() && greatest_size(shape, i) > kCircle;
+  };
+  return is_too_large(pair.first) && is_too_large(pair.second);
+}
+
 Decision by_names(const TableShape& shape) {
   const NamedColumns named = names_of(shape);
   const auto axes = pairs_of(plainest(named.of(Named::easting)), plainest(named.of(Named::northing)));
@@ -159,7 +168,13 @@ Decision by_names(const TableShape& shape) {
     }
   }
   if (decision.proposals.empty()) {
-    if (!angles.empty()) {
+    if (!angles.empty() && are_too_large_for_degrees(shape, angles[0])) {
+      std::optional<Column> height;
+      if (heights.size() == 1) height = heights.front().column;
+      for (const bool axes_known : {true, false})
+        decision.proposals.push_back({roles_with(shape, number, angles[0], axes_known, height), Ground::names});
+      decision.verdict = Verdict::unclear;
+    } else if (!angles.empty()) {
       const bool sexagesimal = shape.columns[angles[0].first].sexagesimal > shape.rows / 2;
       decision.verdict = sexagesimal ? Verdict::sexagesimal : Verdict::degrees;
     }
