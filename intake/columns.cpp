@@ -256,11 +256,14 @@ Decision by_content(const TableShape& shape) {
   const bool labels = numeric.front() > 0;
   const bool numbering = !labels && numeric.size() > 2 && is_numbering(shape, 0);
   const std::size_t skipped = numbering ? 1 : 0;
-  const auto propose = [&](bool with_number, bool with_height) {
-    const std::size_t k = labels ? 0 : (with_number ? 1 : 0);
+  const auto mostly_whole = [&](Column i) { return 2 * shape.columns[i].whole >= shape.columns[i].numbers; };
+  const auto propose = [&](bool with_number, bool with_height, std::size_t codes = 0) {
+    const std::size_t k = (labels ? 0 : (with_number ? 1 : 0)) + codes;
     if (k + 1 >= numeric.size() || (with_height && k + 2 >= numeric.size())) return;
     std::optional<Column> number;
     if (with_number) number = 0;
+    // "PKT 1": of two the column that tells the points apart.
+    if (codes > 0 && shape.columns[numeric[k - 1]].distinct > shape.columns[0].distinct) number = numeric[k - 1];
     std::optional<Column> height;
     if (with_height) height = numeric[k + 2];
     const Roles roles = roles_with(shape, number, {numeric[k], numeric[k + 1]}, false, height);
@@ -270,6 +273,15 @@ Decision by_content(const TableShape& shape) {
   };
   const std::size_t behind = numeric.size() - skipped - 2;  // numbers behind the coordinates
   const bool numbered = labels || numbering;
+  // Whole numbers between the number and what is measured: a code, or a number in two columns.
+  const std::size_t second = labels ? 0 : 1;
+  const bool has_codes = (labels || mostly_whole(numeric[0])) && numeric.size() > second + 2 &&
+                         mostly_whole(numeric[second]) && !mostly_whole(numeric[second + 1]) &&
+                         !mostly_whole(numeric[second + 2]);
+  if (has_codes) {
+    if (numeric.size() > second + 3) propose(true, true, 1);
+    propose(true, false, 1);
+  }
   propose(numbered, behind >= 1);
   propose(numbered, false);
   propose(!numbered, true);
@@ -279,7 +291,6 @@ Decision by_content(const TableShape& shape) {
   if (are_degrees(shape, a, b)) return {Verdict::degrees, {}};
 
   const bool adjacent = b == a + 1 && a == (numbered ? 1U : 0U);
-  const auto mostly_whole = [&](Column i) { return 2 * shape.columns[i].whole >= shape.columns[i].numbers; };
   const bool same_kind = mostly_whole(a) == mostly_whole(b);
   const bool starts_clearly =
       numbered || numeric.size() == 2 || (!mostly_whole(a) && looks_like_coordinates_first(shape, a, b));
