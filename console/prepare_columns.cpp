@@ -80,7 +80,12 @@ class Choosing {
         names += (i == 0 ? "" : ", ") + std::to_string(i + 1);
         if (!shape_.names[i].empty()) names += " " + shape_.names[i];
       }
-      say("konsola.prep_zle_kolumny", {columns, names});
+      const std::string twice(intake::ambiguous_name(shape_, columns));
+      if (twice.empty()) {
+        say("konsola.prep_zle_kolumny", {columns, names});
+      } else {
+        say("konsola.prep_nazwa_dwa_razy", {twice, names});
+      }
       return {std::nullopt, kUsage};
     }
     if (are_degrees(*roles)) return {};

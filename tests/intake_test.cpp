@@ -292,8 +292,8 @@ TEST(Intake, WritesWhatTheImporterReads) {
        "# columns: number;X;Y\n\"a;1.5;2.5\nb\"c;2.5;3.5\nd;4.5;5.5\n"},
   };
   for (const Case& c : kCases) EXPECT_EQ(prepared(c.text, c.columns).file, c.file) << c.text;
-  for (const string_view columns : {"nr,e", "e,n,e", "x,n", "nr=No,e=East,n=West", "e=2,n=2", "foo"})
-    EXPECT_EQ(prepared("No;East;North\n7;1.5;2.5\n", columns).file, "no roles") << columns;
+  for (const string_view columns : {"nr,e", "e,n,e", "x,n", "nr=No,e=East,n=West", "e=2,n=2", "foo", "", "e=East,n=N"})
+    EXPECT_EQ(prepared("No;East;North;N;n;N\n7;1.5;2.5;3.5;3.5;3.5\n", columns).file, "no roles") << columns;
 }
 
 TEST(Intake, KeepsRowsThatLackAHeight) {

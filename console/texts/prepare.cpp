@@ -77,6 +77,11 @@ std::span<const Text> prepare_texts() {
        "coloanele fișierului: %s\n",
        "--columns %s does not fit: two coordinates are needed (e,n or x,y), each role at most once; columns of the "
        "file: %s\n"},
+      {"konsola.prep_nazwa_dwa_razy", "ss",  // name, names and positions that there are
+       "Kilka kolumn nosi nazwę „%s”; podaj kolumnę numerem: %s\n",
+       "Mehrere Spalten heißen „%s“; bitte die Spalte mit ihrer Nummer angeben: %s\n",
+       "Mai multe coloane se numesc „%s”; indicați coloana prin număr: %s\n",
+       "Several columns are called “%s”; give the column's number: %s\n"},
       {"konsola.prep_stopnie_zamiast_siatki", "",
        "Liczby są za małe na współrzędne E i N siatki państwowej: to zapewne stopnie, których rysunek nie przyjmie. "
        "Jeśli "
