@@ -47,6 +47,10 @@ struct Decision {
 /// warning, `clear` when there is nothing to say.
 [[nodiscard]] Verdict judged(const TableShape& shape, const Roles& roles);
 
+/// Whether roles for fewer columns than there are seem to be one short: the first coordinate they name holds whole
+/// numbers, those behind it and the first column that none is for do not, as with a number of two parts, "PKT 1".
+[[nodiscard]] bool seem_one_short(const TableShape& shape, const Roles& roles);
+
 /// The column that holds both coordinates, "389301,508713": by its name or the points of both; or, with `roles`, when
 /// these take it for two. Empty without one.
 [[nodiscard]] std::optional<std::size_t> pair_column(const TableShape& shape, const Roles* roles);

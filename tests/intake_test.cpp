@@ -143,6 +143,8 @@ TEST(Intake, DecidesWhatIsBeyondDoubtAndAsksElse) {
   for (const Case& c : kCases) EXPECT_EQ(decided(c.text), c.decided) << c.text;
   const Table two_numbers("1,6,5701011.42,7501015.90,100.37\n2,6,5701022.72,7501046.70,100.74\n");
   EXPECT_EQ(spelled(decide(two_numbers.seen.shape()).proposals.front().roles), "nr,-,x,y,z");
+  EXPECT_TRUE(seem_one_short(two_numbers.seen.shape(), *roles_of("nr,n,e,z")));
+  EXPECT_FALSE(seem_one_short(two_numbers.seen.shape(), *roles_of("nr,-,n,e")));
   const Table thousands("P1,5'701'011.423,7'501'015.901,100.5\nP2,5'701'022.723,7'501'046.701,100.6\n");
   EXPECT_EQ(judged(thousands.seen.shape(), *roles_of("nr,x,y,z")), Verdict::clear);
 }

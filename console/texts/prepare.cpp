@@ -82,6 +82,25 @@ std::span<const Text> prepare_texts() {
        "Mehrere Spalten heißen „%s“; bitte die Spalte mit ihrer Nummer angeben: %s\n",
        "Mai multe coloane se numesc „%s”; indicați coloana prin număr: %s\n",
        "Several columns are called “%s”; give the column's number: %s\n"},
+      {"konsola.prep_mniej_rol", "ss",  // columns, roles
+       "Tabela ma kolumn: %s, podano: %s; pozostałych się nie bierze.\n",
+       "Die Tabelle hat %s Spalten, angegeben sind %s; die übrigen entfallen.\n",
+       "Tabelul are %s coloane, s-au indicat %s; celelalte nu se iau.\n",
+       "The table has %s columns, %s were named; the rest is not taken.\n"},
+      {"konsola.prep_wiecej_rol", "ss",  // columns, roles
+       "Tabela ma kolumn: %s, podano: %s.\n", "Die Tabelle hat %s Spalten, angegeben sind %s.\n",
+       "Tabelul are %s coloane, s-au indicat %s.\n", "The table has %s columns, %s were named.\n"},
+      {"konsola.prep_przesuniete", "s",  // column
+       "Kolumna %s ma liczby całkowite, a następne z ułamkiem: to raczej część numeru niż współrzędna. Podaj rolę "
+       "każdej "
+       "kolumny (- pomija).\n",
+       "Die Spalte %s enthält ganze Zahlen, die folgenden solche mit Nachkommastellen: eher ein Teil der Nummer als "
+       "eine "
+       "Koordinate. Bitte jede Spalte angeben (- entfällt).\n",
+       "Coloana %s are numere întregi, iar următoarele cu zecimale: mai degrabă parte a numărului decât coordonată. "
+       "Indicați rolul fiecărei coloane (- omite).\n",
+       "Column %s holds whole numbers, those behind it decimals: rather a part of the number than a coordinate. Name "
+       "every column (- for one not taken).\n"},
       {"konsola.prep_stopnie_zamiast_siatki", "",
        "Liczby są za małe na współrzędne E i N siatki państwowej: to zapewne stopnie, których rysunek nie przyjmie. "
        "Jeśli "
