@@ -316,6 +316,20 @@ TEST(Intake, KeepsRowsThatLackAHeight) {
   EXPECT_EQ(prepared(kPlaced, "nr,x,y,z").account.points, 2U);
 }
 
+TEST(Intake, LeavesOutRowsWhoseCoordinatesStandFurtherRight) {
+  for (const string_view gap : {" ", ";"}) {
+    string text;
+    for (const string_view number : {"A1", "A2", "A3", "A 4", "A5", "A6"})
+      text += (number == "A 4" ? "A" + string(gap) + "4" : string(number)) + string(gap) + "5701011.5" + string(gap) +
+              "7501015.5" + string(gap) + "100.5" + (number == "A6" ? string(gap) + "rog" : "") + "\n";
+    const auto account = prepared(text, "nr,n,e,z").account;
+    EXPECT_EQ(account.points, 5U) << text;
+    ASSERT_EQ(account.noted.size(), 1U) << text;
+    EXPECT_EQ(account.noted[0].note, RowNote::moved);
+    EXPECT_EQ(account.noted[0].line, 4U);
+  }
+}
+
 TEST(Intake, TellsWhichLineBecameWhichRow) {
   const auto account =
       prepared("nr,x,y\n# c\n1,1.5,2.5\n\n2,1.5,2.5\n3,x,2.5\n4,1.5,2.5\n5,1.5,2.5\n", "nr,x,y").account;
