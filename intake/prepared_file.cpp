@@ -83,11 +83,6 @@ std::string changed(std::string_view number) {
   return std::string(text::trim(kept));
 }
 
-bool is_infinite_or_nan(std::string_view cell) {
-  const auto value = vexo_xyz_impl::parse_number(cell);
-  return value && !std::isfinite(*value);
-}
-
 class Writer {
  public:
   Writer(const PreparedForm& form, const std::function<void(std::string_view)>& write)
@@ -146,7 +141,7 @@ class Writer {
       piece_ += ';';
       if (append_number(piece_, cells[place])) continue;
       if (cells[place].empty()) return RowNote::too_few_cells;
-      return is_infinite_or_nan(cells[place]) ? RowNote::not_finite : RowNote::no_coordinate;
+      return is_no_finite_number(cells[place]) ? RowNote::not_finite : RowNote::no_coordinate;
     }
     if (places_.height != kNowhere) {
       piece_ += ';';

@@ -35,7 +35,7 @@ struct PreparedForm {
 enum class RowNote {
   too_few_cells,       ///< a column that is taken is missing
   no_coordinate,       ///< no number where a coordinate is due
-  not_finite,          ///< nan or infinite
+  not_finite,          ///< nan, infinite or too large for a coordinate
   moved,               ///< more cells than the others have, and the coordinates are further right
   no_height,           ///< left out
   height_set_to_zero,  ///< a point all the same

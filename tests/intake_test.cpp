@@ -313,6 +313,9 @@ TEST(Intake, KeepsRowsThatLackAHeight) {
   EXPECT_EQ(prepared(kEmpty, "nr,x,y,z", MissingHeight::zero).file,
             "# columns: number;X;Y;Z\n1;5.5;6.5;1.5\n2;5.5;6.5;0\n3;5.5;6.5;0\n4;5.5;6.5;0\n");
   EXPECT_EQ(prepared(kEmpty, "nr,x,y,z").account.left_out, 3U);
+  const auto large = prepared("1;1e308;6.5\n2;5.5;6.5\n" + ("3;" + string(150, '9')) + ";6.5\n", "nr,x,y").account;
+  ASSERT_EQ(large.noted.size(), 2U);
+  for (const NotedRow& row : large.noted) EXPECT_EQ(row.note, RowNote::not_finite) << row.line;
   EXPECT_EQ(prepared(kPlaced, "nr,x,y,z").account.points, 2U);
 }
 
