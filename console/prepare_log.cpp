@@ -59,6 +59,8 @@ std::string note_text(RowNote note) {
       return T("konsola.prep_numer_zmieniony");
     case RowNote::number_made:
       return T("konsola.prep_numer_nadany");
+    case RowNote::hidden:
+      return T("konsola.prep_ukryty");
   }
   return {};
 }

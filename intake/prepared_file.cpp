@@ -107,6 +107,7 @@ class Writer {
     }
     ++account_.points;
     if (row_note_) note(record, *row_note_);
+    if (record.hidden) note(record, RowNote::hidden);
     extend_runs(record.line);
     if (piece_.size() >= kPiece) flush();
   }

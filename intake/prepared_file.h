@@ -41,6 +41,7 @@ enum class RowNote {
   height_set_to_zero,  ///< a point all the same
   number_changed,      ///< a point; its number held what the importer cannot read
   number_made,         ///< a point that had no number: named by its line
+  hidden,              ///< a point all the same; people do not see its row on the sheet
 };
 
 /// Whether the note is of a row that gave no point.

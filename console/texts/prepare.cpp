@@ -150,6 +150,14 @@ std::span<const Text> prepare_texts() {
       {"konsola.prep_zmieniono", "dss",  // rows, what, lines
        "Zmienione wiersze: %d: %s (linie: %s)\n", "Geänderte Zeilen: %d: %s (Zeilen: %s)\n",
        "Rânduri modificate: %d: %s (linii: %s)\n", "Rows changed: %d: %s (lines: %s)\n"},
+      {"konsola.prep_ukryte", "dss",  // rows, what, lines
+       "Wiersze wzięte, choć ich nie widać: %d: %s (wiersze: %s)\n",
+       "Übernommen, obwohl nicht zu sehen: %d: %s (Zeilen: %s)\n",
+       "Rânduri luate, deși nu se văd: %d: %s (rânduri: %s)\n",
+       "Rows taken though nobody sees them: %d: %s (rows: %s)\n"},
+      {"konsola.prep_ukryty", "", "ukryte w arkuszu, ręcznie albo filtrem",
+       "im Blatt ausgeblendet, von Hand oder vom Filter", "ascunse în foaie, manual sau de un filtru",
+       "hidden on the sheet, by hand or by a filter"},
       {"konsola.prep_bez_wysokosci_rada", "", "Z wysokością 0 zapisze je: --missing-height zero\n",
        "Mit Höhe 0 schreibt sie: --missing-height zero\n", "Cu cota 0 le scrie: --missing-height zero\n",
        "With height 0 they are written by: --missing-height zero\n"},
