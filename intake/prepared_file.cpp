@@ -8,6 +8,7 @@
 
 #include "intake/cell_number.h"
 #include "vexo_xyz_impl/table/numbers.h"
+#include "vexo_xyz_impl/text/lines.h"
 #include "vexo_xyz_impl/text/utf8.h"
 
 namespace intake {
@@ -57,14 +58,13 @@ std::string shown(const Record& record) {
 
 // What the importer's reader would take for a separator, a line's end or a comment's sign.
 bool needs_change(std::string_view number) {
-  const bool is_comment = number.starts_with('#') || number.starts_with("//");
-  return is_comment || number.ends_with(':') || std::any_of(number.begin(), number.end(), [](char c) {
+  return text::begins_comment(number) || number.ends_with(':') || std::any_of(number.begin(), number.end(), [](char c) {
            return c == ';' || (static_cast<unsigned char>(c) < 0x20);
          });
 }
 
 std::string changed(std::string_view number) {
-  while (number.starts_with('#') || number.starts_with("//")) {
+  while (text::begins_comment(number)) {
     number.remove_prefix(number.starts_with('#') ? 1 : 2);
     number = text::trim(number);
   }
