@@ -12,7 +12,6 @@
 #include "console/report/report_file.h"
 #include "vexo_xyz_impl/command/module.h"
 #include "vexo_xyz_impl/command/questions.h"
-#include "vexo_xyz_impl/input/declared_columns.h"
 #include "vexo_xyz_impl/messages.h"
 #include "vexo_xyz_impl/notices.h"
 
@@ -126,8 +125,7 @@ bool Session::prepares_instead() {
   if (prepared.code != kImported) return false;
   prepared_from_ = file;
   // What was told of the axes is the file's order, which the prepared one no longer has where it knows E and N.
-  const auto declared = vexo_xyz_impl::declared_columns(prepared.output.string());
-  if (declared && declared->east_north) options_.axes.reset();
+  if (prepared.east_first) options_.axes.reset();
   dialogue_.choose_file(prepared.output.string());
   return true;
 }
