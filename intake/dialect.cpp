@@ -208,7 +208,6 @@ Dialect dialect_of(std::string_view utf8) {
   // Where a sign stands before nearly all lines it numbers points: "#1".
   dialect.has_comments = 2 * lines.size() >= all.size();
   if (!dialect.has_comments) lines = all;
-  dialect.sample = lines.size();
   std::transform(kSeparators.begin(), kSeparators.end(), dialect.evidence.begin(),
                  [&](char separator) { return evidence_for(separator, lines); });
   const SeparatorEvidence& best = decision(dialect);

@@ -16,7 +16,6 @@ namespace {
 
 using nlohmann::ordered_json;
 using vexo_xyz_impl::filled;
-using vexo_xyz_impl::T;
 
 std::string_view name_of(Outcome outcome) {
   if (outcome == Outcome::imported) return "imported";

@@ -35,7 +35,6 @@ std::span<const Text> prepare_texts() {
        "prima coloană numerotează rândurile", "the first column numbers the rows"},
       {"konsola.prep_z_kolejnosci", "", "z liczb w kolumnach", "nach den Zahlen in den Spalten",
        "după numerele din coloane", "from the numbers in the columns"},
-      {"konsola.prep_podane", "", "podane", "angegeben", "indicate", "as given"},
       {"konsola.prep_pytanie", "", "Nie jest jasne, co zawierają kolumny. Pierwsze wiersze:\n",
        "Was die Spalten enthalten, ist nicht klar. Die "
        "ersten Zeilen:\n",
