@@ -87,13 +87,17 @@ bool Session::report_is_refused() {
   std::error_code ignored;
   const bool is_drawing = options_.output && options_.report->lexically_normal() == options_.output->lexically_normal();
   const auto status = std::filesystem::status(*options_.report, ignored);
+  std::string_view reason;
   if (is_file_of_points(*options_.report)) {
-    say("konsola.plik_zrodlowy", {options_.report->string()});
-  } else if (is_drawing || (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status))) {
-    say("konsola.raport_blad", {options_.report->string(), vexo_xyz_impl::T("konsola.powod_nie_plik")});
+    reason = "konsola.powod_plik_punktow";
+  } else if (is_drawing) {
+    reason = "konsola.powod_rysunek";
+  } else if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status)) {
+    reason = "konsola.powod_nie_plik";
   } else {
     return false;
   }
+  say("konsola.raport_blad", {options_.report->string(), vexo_xyz_impl::T(reason)});
   return true;
 }
 
