@@ -1,9 +1,7 @@
 #include "console/prepare.h"
 
-#include <algorithm>
 #include <ostream>
 #include <system_error>
-#include <utility>
 #include <vector>
 
 #include "console/dialogue/shown_text.h"
@@ -12,7 +10,6 @@
 #include "console/prepare_columns.h"
 #include "console/prepare_log.h"
 #include "console/report/reasons.h"
-#include "intake/columns.h"
 #include "intake/foreign_table.h"
 #include "intake/seen_table.h"
 #include "vexo_xyz_impl/command/module.h"
@@ -132,7 +129,7 @@ class Preparation {
       writing = log_of(output);
       write_log(output, account);
       say("konsola.prep_powtorz", {repeating(roles, output)});
-      return {kImported, output};
+      return {kImported, output, intake::has_role(roles, intake::Role::easting)};
     } catch (const std::system_error& failure) {
       say("konsola.prep_blad_zapisu", {writing.string(), failure_text(failure)});
       return {kFailure, {}};

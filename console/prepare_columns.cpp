@@ -100,7 +100,7 @@ class Choosing {
     if (verdict == Verdict::clear) return false;
     if (verdict == Verdict::maybe_degrees) {
       // No grid's eastings and northings are that small; metres of a local system may be.
-      const bool are_of_a_grid = std::find(roles.begin(), roles.end(), Role::easting) != roles.end();
+      const bool are_of_a_grid = intake::has_role(roles, Role::easting);
       are_of_a_grid ? say("konsola.prep_stopnie_zamiast_siatki") : warn_of_degrees();
       return are_of_a_grid;
     }

@@ -12,7 +12,6 @@
 #include "console/report/report_file.h"
 #include "vexo_xyz_impl/command/module.h"
 #include "vexo_xyz_impl/command/questions.h"
-#include "vexo_xyz_impl/input/declared_columns.h"
 #include "vexo_xyz_impl/messages.h"
 #include "vexo_xyz_impl/notices.h"
 
@@ -88,13 +87,17 @@ bool Session::report_is_refused() {
   std::error_code ignored;
   const bool is_drawing = options_.output && options_.report->lexically_normal() == options_.output->lexically_normal();
   const auto status = std::filesystem::status(*options_.report, ignored);
+  std::string_view reason;
   if (is_file_of_points(*options_.report)) {
-    say("konsola.plik_zrodlowy", {options_.report->string()});
-  } else if (is_drawing || (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status))) {
-    say("konsola.raport_blad", {options_.report->string(), vexo_xyz_impl::T("konsola.powod_nie_plik")});
+    reason = "konsola.powod_plik_punktow";
+  } else if (is_drawing) {
+    reason = "konsola.powod_rysunek";
+  } else if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status)) {
+    reason = "konsola.powod_nie_plik";
   } else {
     return false;
   }
+  say("konsola.raport_blad", {options_.report->string(), vexo_xyz_impl::T(reason)});
   return true;
 }
 
@@ -126,8 +129,7 @@ bool Session::prepares_instead() {
   if (prepared.code != kImported) return false;
   prepared_from_ = file;
   // What was told of the axes is the file's order, which the prepared one no longer has where it knows E and N.
-  const auto declared = vexo_xyz_impl::declared_columns(prepared.output.string());
-  if (declared && declared->east_north) options_.axes.reset();
+  if (prepared.east_first) options_.axes.reset();
   dialogue_.choose_file(prepared.output.string());
   return true;
 }

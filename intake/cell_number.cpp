@@ -1,6 +1,5 @@
 #include "intake/cell_number.h"
 
-#include <algorithm>
 #include <cmath>
 
 #include "vexo_xyz_impl/table/numbers.h"

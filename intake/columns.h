@@ -4,7 +4,6 @@
 
 #include <cstddef>
 #include <optional>
-#include <string>
 #include <string_view>
 #include <vector>
 
@@ -54,8 +53,5 @@ struct Decision {
 /// Roles as `--columns` gives them: by position, "nr,n,e,z", or by the header's names or positions, "nr=POINT,n=3".
 /// Empty when they are neither, name what the header does not or do not name two coordinates.
 [[nodiscard]] std::optional<Roles> roles_for(const TableShape& shape, std::string_view spelled);
-
-/// The same roles as `--columns` gives them by position.
-[[nodiscard]] std::string spelled(const Roles& roles);
 
 }  // namespace intake

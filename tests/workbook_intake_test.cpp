@@ -1,7 +1,6 @@
 #include <array>
 #include <fstream>
 #include <map>
-#include <memory>
 #include <string>
 #include <string_view>
 #include <utility>

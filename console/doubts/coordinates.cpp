@@ -8,6 +8,7 @@
 
 #include "console/account/account_lines.h"
 #include "console/doubts/doubts.h"
+#include "intake/cell_number.h"
 #include "vexo_xyz_impl/messages.h"
 
 namespace console {
@@ -52,18 +53,13 @@ Extent extent_of(std::span<const PointRecord> punkty) {
   return extent;
 }
 
-std::size_t decimals(std::string_view cell) {
-  const std::size_t mark = cell.find_last_of(".,");
-  return mark == std::string_view::npos ? 0 : cell.size() - mark - 1;
-}
-
 // Whether nearly all of the first rows have at least so many decimals in both coordinates.
 bool have_decimals(std::span<const Row> dane, std::size_t x, std::size_t fewest) {
   constexpr std::size_t kSample = 200;
   constexpr double kNearly = 0.8;
   const auto sample = dane.first(std::min(dane.size(), kSample));
   const auto fine = std::count_if(sample.begin(), sample.end(), [&](Row row) {
-    return row.size() > x + 1 && decimals(row[x]) >= fewest && decimals(row[x + 1]) >= fewest;
+    return row.size() > x + 1 && intake::decimals_of(row[x]) >= fewest && intake::decimals_of(row[x + 1]) >= fewest;
   });
   return static_cast<double>(fine) >= kNearly * static_cast<double>(sample.size());
 }

@@ -40,7 +40,6 @@ struct NamedAxes {
 /// What doubts are drawn from.
 struct Evidence {
   const vexo_xyz_impl::ImportSeen& seen;
-  const Account& account;
   Places& places;
   std::optional<Header> header;
 };

@@ -1,6 +1,5 @@
 // Doubts about the height column: does it hold heights at all?
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <span>
 #include <utility>

@@ -38,8 +38,9 @@ std::vector<std::string> separators_of(std::span<const Row> rows) {
     }
   }
   std::vector<std::string> names(found.size());
-  std::transform(found.begin(), found.end(), names.begin(),
-                 [](char mark) { return mark == '\t' ? "tab" : mark == ' ' ? "blank" : ";"; });
+  std::transform(found.begin(), found.end(), names.begin(), [](char mark) {
+    return mark == '\t' ? "tab" : mark == ' ' ? "blank" : ";";
+  });
   return names;
 }
 
@@ -72,7 +73,7 @@ void ImportWatcher::rows_taken_apart(const ImportSeen& seen) {
   findings_.account = account_of(seen, *places_);
   header_ = header_of(seen, *places_);
   named_axes_ = header_ ? named_axes(*header_, *seen.verdict.fmt) : std::nullopt;
-  Evidence evidence{seen, findings_.account, *places_, header_};
+  Evidence evidence{seen, *places_, header_};
   if (!seen.read.punkty.empty()) {
     findings_.doubts = doubts_of_rows(evidence);
   } else if (auto doubt = doubt_height(evidence)) {
@@ -95,7 +96,7 @@ void ImportWatcher::ended(const ImportSeen& seen) {
     findings_.systems.push_back({candidate, vexo_xyz_impl::_uklad_nazwa(candidate.srid)});
   findings_.axes = axes_of(seen);
   if (places_ && findings_.outcome == Outcome::imported) {
-    Evidence evidence{seen, findings_.account, *places_, header_};
+    Evidence evidence{seen, *places_, header_};
     append(findings_.doubts, doubts_of_import(evidence));
   }
   if (seen.loaded.typ == vexo_xyz_impl::FileType::xlsx && seen.loaded.rows)

@@ -1,7 +1,6 @@
 // Watches an import and comes to what is to be told of it: the account, the doubts, what the report holds.
 #pragma once
 
-#include <cstddef>
 #include <optional>
 #include <string>
 

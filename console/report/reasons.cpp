@@ -15,6 +15,7 @@
 #include "intake/workbook.h"
 #include "vexo_xyz_impl/messages.h"
 #include "vexo_xyz_impl/table/numbers.h"
+#include "vexo_xyz_impl/text/lines.h"
 
 namespace console {
 namespace {
@@ -34,7 +35,7 @@ std::vector<char> beginning_of(const std::string& path) {
   file.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
   bytes.resize(static_cast<std::size_t>(file.gcount()));
   if (bytes.size() == kEnough) {
-    const auto end = std::find_if(bytes.rbegin(), bytes.rend(), [](char c) { return c == '\n' || c == '\r'; });
+    const auto end = std::find_if(bytes.rbegin(), bytes.rend(), vexo_xyz_impl::text::is_line_end);
     if (end != bytes.rend()) bytes.erase(end.base(), bytes.end());
   }
   return intake::decoded(std::move(bytes)).utf8;
@@ -58,11 +59,9 @@ bool is_in_minutes(std::string_view text) {
   std::size_t lines = 0;
   std::size_t in_minutes = 0;
   while (!text.empty()) {
-    const std::size_t end = std::min(text.find_first_of("\r\n"), text.size());
-    const std::string_view line = text.substr(0, end);
+    const std::string_view line = vexo_xyz_impl::text::take_line(text);
     lines += line.empty() ? 0 : 1;
     in_minutes += has_degrees_and_minutes(line) ? 1 : 0;
-    text.remove_prefix(std::min(end + 1, text.size()));
   }
   return in_minutes * 2 > lines;
 }
