@@ -137,7 +137,7 @@ TEST(Intake, DecidesWhatIsBeyondDoubtAndAsksElse) {
   };
   for (const Case& c : kCases) EXPECT_EQ(decided(c.text), c.decided) << c.text;
   const Table thousands("P1,5'701'011.423,7'501'015.901,100.5\nP2,5'701'022.723,7'501'046.701,100.6\n");
-  EXPECT_EQ(judged(thousands.shape, *roles_of("nr,x,y,z")), Verdict::clear);
+  EXPECT_EQ(judged(thousands.seen.shape(), *roles_of("nr,x,y,z")), Verdict::clear);
 }
 
 TEST(Intake, FindsTheDialect) {
@@ -242,6 +242,17 @@ TEST(Intake, CopiesNumbersDigitForDigit) {
     EXPECT_EQ(append_number(plain, c.cell), !c.plain.empty()) << c.cell;
     EXPECT_EQ(plain, c.plain) << c.cell;
   }
+}
+
+TEST(Intake, TellsAnglesFromNumbersAndNames) {
+  for (const string_view angle :
+       {"52°13'45\"", "52° 13′ 45.5″ N", "52.2123°", "-52.2123°", "52.2123N", "N52.2", "N 52 13.5", "52:13:41.5",
+        "50-13-41", "50 13 41.1", "52º13'", "21°00'05''E", "52'13'12.5"})
+    EXPECT_TRUE(is_sexagesimal(angle)) << angle;
+  for (const string_view other :
+       {"5'701'011.42", "7 499 689", "P-50-13", "52.2123", "12-34", "2024-06-01", "01.06.2024", "50 13 41", "12N",
+        "N-34-139", "52°61'", "1.5m", "E", "N", "-", "", "10:15"})
+    EXPECT_FALSE(is_sexagesimal(other)) << other;
 }
 
 TEST(Intake, WritesWhatTheImporterReads) {
