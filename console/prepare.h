@@ -23,9 +23,10 @@ struct PrepareOptions {
 };
 
 struct PrepareResult {
-  ExitCode code = kFailure;      ///< kImported when a file was written
-  std::filesystem::path output;  ///< that file
-  bool east_first = false;       ///< its coordinates are E and N; else X and Y in the order of the table
+  ExitCode code = kFailure;         ///< kImported when a file was written
+  std::filesystem::path output;     ///< that file
+  bool east_first = false;          ///< its coordinates are E and N; else X and Y in the order of the table
+  intake::PreparedAccount account;  ///< what became of the table's rows
 };
 
 /// Reads, asks on `lines` where it must, writes the file and beside it its log (its name with ".log"). The user has

@@ -8,6 +8,7 @@
 #include "console/failure_text.h"
 #include "console/files.h"
 #include "console/prepare.h"
+#include "console/prepare_log.h"
 #include "console/report/reasons.h"
 #include "console/report/report_file.h"
 #include "vexo_xyz_impl/command/module.h"
@@ -24,6 +25,13 @@ constexpr int kMostNames = 10000;  // drawings of one name in one folder
 
 // The code page that converters expect of a drawing in the market's language.
 std::string_view code_page_of(std::string_view market) { return market == "DE" ? "ANSI_1252" : "ANSI_1250"; }
+
+std::vector<Findings::RowNotTakenOver> rows_not_taken_over(const intake::PreparedAccount& account) {
+  std::vector<Findings::RowNotTakenOver> rows;
+  for (const intake::NotedRow& row : account.noted)
+    if (is_left_out(row.note)) rows.push_back({row.line, note_text(row.note), row.text});
+  return rows;
+}
 
 }  // namespace
 
@@ -94,6 +102,8 @@ bool Session::report_is_refused() {
     reason = "konsola.powod_rysunek";
   } else if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status)) {
     reason = "konsola.powod_nie_plik";
+  } else if (std::filesystem::exists(status) && !is_report(*options_.report)) {
+    reason = "konsola.powod_nie_raport";
   } else {
     return false;
   }
@@ -131,6 +141,7 @@ bool Session::prepares_instead() {
   // What was told of the axes is the file's order, which the prepared one no longer has where it knows E and N.
   if (prepared.east_first) options_.axes.reset();
   dialogue_.choose_file(prepared.output.string());
+  watcher_.made_of(file.string(), rows_not_taken_over(prepared.account));
   return true;
 }
 

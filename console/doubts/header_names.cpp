@@ -1,6 +1,7 @@
 // Doubts that the columns' names give rise to, and the order of axes that nobody confirmed.
 
 #include "console/doubts/doubts.h"
+#include "vexo_xyz_impl/crs/systems.h"
 #include "vexo_xyz_impl/messages.h"
 
 namespace console {
@@ -67,8 +68,18 @@ std::optional<Doubt> doubt_header_columns(Evidence& evidence) {
                {evidence.header->line}};
 }
 
+// The order that the file's first line states, where the numbers fit the other one alone.
+std::optional<Doubt> doubt_declared_axes(const vexo_xyz_impl::SettledAxes& axes) {
+  const auto agrees = [&axes](const auto& reading) { return reading.swap == axes.swap; };
+  if (axes.how != vexo_xyz_impl::AxesBy::declared || axes.candidates.empty()) return std::nullopt;
+  if (std::any_of(axes.candidates.begin(), axes.candidates.end(), agrees)) return std::nullopt;
+  const std::string name = vexo_xyz_impl::_uklad_nazwa(axes.candidates.front().srid);
+  return Doubt{"header_axes", filled("konsola.watp_osie_liczby", {std::string_view(name)}), {}};
+}
+
 std::optional<Doubt> doubt_header_axes(Evidence& evidence) {
   const auto& axes = evidence.seen.axes;
+  if (auto doubt = doubt_declared_axes(axes)) return doubt;
   if (!evidence.header || axes.how == vexo_xyz_impl::AxesBy::told) return std::nullopt;
   const std::size_t x = x_column(*evidence.seen.verdict.fmt);
   if (evidence.header->names.size() < x + 2) return std::nullopt;

@@ -58,10 +58,19 @@ std::vector<std::size_t> not_seen(const intake::Flaws& flaws) {
   return rows;
 }
 
+// Whether the end of a worksheet's XML is missing.
+bool breaks_off(std::string_view xml) {
+  constexpr std::size_t kTail = 256;
+  const std::string_view tail = xml.substr(xml.size() - std::min(xml.size(), kTail));
+  return !xml.empty() && tail.find("worksheet>") == std::string_view::npos;
+}
+
 }  // namespace
 
 std::vector<Doubt> doubts_of_workbook(const ImportSeen& seen, Places* places) {
   std::vector<Doubt> doubts;
+  if (breaks_off(seen.loaded.rows->text()))
+    doubts.push_back({"rows_left_out", vexo_xyz_impl::T("konsola.watp_urwany"), {}});
   try {
     intake::Workbook workbook(seen.path);
     add_sheet_choice(doubts, workbook);

@@ -64,6 +64,17 @@ void append(std::vector<Doubt>& doubts, std::vector<Doubt> more) {
   std::move(more.begin(), more.end(), std::back_inserter(doubts));
 }
 
+Doubt doubt_not_taken_over(const std::vector<Findings::RowNotTakenOver>& rows) {
+  std::vector<std::size_t> lines;
+  lines.reserve(rows.size());
+  for (const auto& row : rows) lines.push_back(row.line);
+  const std::string places = listed(lines);
+  return {"rows_left_out",
+          vexo_xyz_impl::filled("konsola.watp_przygotowanie",
+                                {static_cast<long long>(lines.size()), std::string_view(places)}),
+          std::move(lines)};
+}
+
 }  // namespace
 
 void ImportWatcher::rows_taken_apart(const ImportSeen& seen) {
@@ -81,6 +92,11 @@ void ImportWatcher::rows_taken_apart(const ImportSeen& seen) {
   }
 }
 
+void ImportWatcher::made_of(std::string path, std::vector<Findings::RowNotTakenOver> left_out) {
+  made_of_ = std::move(path);
+  not_taken_over_ = std::move(left_out);
+}
+
 void ImportWatcher::ended(const ImportSeen& seen) {
   if (!places_) {
     findings_ = {};
@@ -88,6 +104,9 @@ void ImportWatcher::ended(const ImportSeen& seen) {
     findings_.account = account_without_points(seen);
   }
   findings_.path = seen.path;
+  findings_.prepared_from = made_of_;
+  findings_.prepared_left_out = not_taken_over_;
+  if (!not_taken_over_.empty()) findings_.doubts.push_back(doubt_not_taken_over(not_taken_over_));
   findings_.outcome = outcome_of(seen);
   if (places_ && findings_.outcome == Outcome::failed) take_points_back(findings_.account, seen, *places_);
   if (seen.verdict.fmt) findings_.layout = layout_code(*seen.verdict.fmt);

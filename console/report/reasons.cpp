@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "intake/cell_number.h"
 #include "intake/dialect.h"
 #include "intake/encoding.h"
 #include "intake/file_kind.h"
@@ -41,29 +42,17 @@ std::vector<char> beginning_of(const std::string& path) {
   return intake::decoded(std::move(bytes)).utf8;
 }
 
-// Whether degrees stand before minutes: 52°13'45", 52° 13' N.
-bool has_degrees_and_minutes(std::string_view line) {
-  constexpr std::array<std::string_view, 2> kSigns = {"\u00B0", "\u00BA"};
-  for (const std::string_view sign : kSigns) {
-    for (std::size_t at = line.find(sign); at != std::string_view::npos; at = line.find(sign, at + 1)) {
-      const std::size_t next = line.find_first_not_of(' ', at + sign.size());
-      const bool digit_follows = next != std::string_view::npos && line[next] >= '0' && line[next] <= '9';
-      if (at > 0 && line[at - 1] >= '0' && line[at - 1] <= '9' && digit_follows) return true;
-    }
-  }
-  return false;
-}
-
-// Whether most lines are written in degrees, minutes and seconds.
-bool is_in_minutes(std::string_view text) {
-  std::size_t lines = 0;
-  std::size_t in_minutes = 0;
-  while (!text.empty()) {
-    const std::string_view line = vexo_xyz_impl::text::take_line(text);
-    lines += line.empty() ? 0 : 1;
-    in_minutes += has_degrees_and_minutes(line) ? 1 : 0;
-  }
-  return in_minutes * 2 > lines;
+// Whether most rows have two cells, or more, that are angles.
+bool are_angles(std::span<const Row> rows) {
+  constexpr std::size_t kSample = 200;
+  const auto sample = rows.first(std::min(rows.size(), kSample));
+  const auto angular = std::count_if(sample.begin(), sample.end(), [](Row row) {
+    std::size_t angles = 0;
+    row.for_each_stored(
+        [&angles](std::size_t, std::string_view cell) { angles += intake::is_sexagesimal(cell) ? 1 : 0; });
+    return angles >= 2;
+  });
+  return static_cast<std::size_t>(angular) * 2 > sample.size();
 }
 
 // The first line that has a number beside something that is none, and no third cell, where two columns prevail.
@@ -80,14 +69,19 @@ std::optional<std::size_t> line_of_odd_row(const ImportSeen& seen) {
 // Whether the user was asked about the columns, and left it open.
 bool was_asked(const ImportSeen& seen) { return !seen.verdict.fmt && !seen.verdict.dane.empty(); }
 
-// The reason of a workbook of which no row was read.
+// The reason of a workbook of which no row was read: its values stand on another sheet, or in a spelling of their own.
 Reason reason_without_rows(const std::string& path) {
   try {
     intake::Workbook workbook(path);
-    const intake::Sheet* const sheet = workbook.seen_first();
-    intake::Record record;
-    const bool has_values = sheet != nullptr && workbook.records(*sheet)->next(record);
-    return named(has_values ? "cells_unreadable" : "empty");
+    for (const intake::Sheet& sheet : workbook.sheets()) {
+      intake::Record record;
+      if (sheet.member.empty() || !workbook.records(sheet)->next(record)) continue;
+      if (workbook.imported() == nullptr || &sheet == workbook.imported()) return named("cells_unreadable");
+      const auto text = vexo_xyz_impl::filled(
+          "konsola.powod_inny_arkusz", {std::string_view(workbook.imported()->name), std::string_view(sheet.name)});
+      return {"cells_unreadable", text};
+    }
+    return named("empty");
   } catch (const std::exception&) {
     return named("unreadable");
   }
@@ -103,7 +97,7 @@ Reason reason_of_rows(const ImportSeen& seen, const Findings& findings) {
 Reason reason_of_text(const ImportSeen& seen, const Findings& findings) {
   const std::vector<char> text = beginning_of(seen.path);
   const std::string_view beginning(text.data(), text.size());
-  if (is_in_minutes(beginning)) return named("dms");
+  if (seen.loaded.rows && are_angles(seen.loaded.rows->rows())) return named("dms");
   const intake::Dialect dialect = intake::dialect_of(beginning);
   if (dialect.is_decided && dialect.separator == ',') return named("comma_separated");
   if (dialect.is_decided && dialect.separator == '|') return named("pipe_separated");

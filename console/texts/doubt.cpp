@@ -87,6 +87,17 @@ std::span<const Text> doubt_texts() {
        "este o cotă.",
        "column %d, read as the height, holds small whole numbers only (%.0f …): a zone, a code or a class? Check "
        "whether it is a height."},
+      {"konsola.watp_z_brak", "ddfs",  // column, rows, a value, lines
+       "kolumna %d, wczytana jako wysokość, zawiera w niektórych wierszach (%d) wartość, która nią nie jest (%.3f; "
+       "linie "
+       "%s). Popraw je lub usuń.",
+       "Spalte %d, als Höhe gelesen, enthält in einigen Zeilen (%d) einen Wert, der keine ist (%.3f; Zeilen %s). Bitte "
+       "berichtigen oder löschen.",
+       "coloana %d, citită drept cotă, conține în unele rânduri (%d) o valoare care nu este cotă (%.3f; liniile %s). "
+       "Corectați-le sau ștergeți-le.",
+       "column %d, read as the height, holds in some rows (%d) a value that is none (%.3f; lines %s). Correct or "
+       "delete "
+       "them."},
 
       // Column names and axes
       {"konsola.watp_naglowek", "ddss",  // line, column, its name, layout
@@ -107,6 +118,15 @@ std::span<const Text> doubt_texts() {
        "nordul: --axes north-first sau east-first.",
        "the header (line %d) calls the coordinates “%s” and “%s”, but the axes were taken the other way round. Check "
        "where north is: --axes north-first or east-first."},
+      {"konsola.watp_osie_liczby", "s",  // system
+       "podana kolejność osi przeczy liczbom: pasują one do %s tylko po zamianie X i Y. Sprawdź nazwy kolumn.",
+       "Die angegebene Achsenfolge widerspricht den Zahlen: zu %s passen sie nur mit vertauschten X und Y. Bitte die "
+       "Namen der Spalten prüfen.",
+       "ordinea dată a axelor contrazice numerele: ele se potrivesc cu %s numai cu X și Y schimbate între ele. "
+       "Verificați numele coloanelor.",
+       "the order of the axes that was given contradicts the numbers: they fit %s only with X and Y exchanged. Check "
+       "the "
+       "names of the columns."},
       {"konsola.watp_osie", "",
        "kolejności osi nikt nie potwierdził: punkty wstawiono tak, jak stoją w pliku. Podaj ją: --axes north-first lub "
        "east-first.",
@@ -153,6 +173,28 @@ std::span<const Text> doubt_texts() {
        "rânduri lăsate deoparte care pot fi puncte: %d (liniile %s). Completați coloanele sau: vexo-xyz prepare "
        "FIȘIER.",
        "rows left out that may be points: %d (lines %s). Complete their columns, or use vexo-xyz prepare FILE."},
+
+      {"konsola.watp_przygotowanie", "ds",  // rows, lines
+       "wiersze pierwotnego pliku, których nie przejęto przy przygotowaniu: %d (linie %s). Przyczyny podaje dziennik "
+       "obok przygotowanego pliku.",
+       "Zeilen der ursprünglichen Datei, die beim Aufbereiten nicht übernommen wurden: %d (Zeilen %s). Die Gründe "
+       "stehen "
+       "im Protokoll neben der aufbereiteten Datei.",
+       "rânduri ale fișierului inițial care nu au fost preluate la pregătire: %d (liniile %s). Cauzele sunt în "
+       "jurnalul "
+       "de lângă fișierul pregătit.",
+       "rows of the original file that were not taken over when it was prepared: %d (lines %s). The log beside the "
+       "prepared file says why."},
+      {"konsola.watp_urwany", "",
+       "zapis arkusza urywa się, więc może brakować wierszy. Otwórz skoroszyt w arkuszu kalkulacyjnym i zapisz go "
+       "ponownie.",
+       "Das Tabellenblatt bricht ab, es können Zeilen fehlen. Bitte die Mappe in der Tabellenkalkulation neu "
+       "speichern.",
+       "scrierea foii se întrerupe, deci pot lipsi rânduri. Deschideți registrul în programul de calcul și salvați-l "
+       "din "
+       "nou.",
+       "the worksheet breaks off, so that rows may be missing. Open the workbook in a spreadsheet program and save it "
+       "again."},
 
       // Workbooks
       {"konsola.watp_arkusz", "ss",  // worksheet read, worksheet seen first

@@ -96,6 +96,8 @@ std::span<const Text> program_texts() {
        "acesta nu este un fișier obișnuit", "that is not an ordinary file"},
       {"konsola.powod_plik_punktow", "", "ten plik zawiera wczytywane punkty", "diese Datei enthält die Punkte",
        "acest fișier conține punctele", "that file holds the points"},
+      {"konsola.powod_nie_raport", "", "jest tam już inny plik", "dort steht schon eine andere Datei",
+       "există deja acolo alt fișier", "another file is there already"},
       {"konsola.powod_rysunek", "", "tę nazwę ma otrzymać rysunek", "so soll die Zeichnung heißen",
        "acest nume este al desenului", "that is the drawing's name"},
       {"konsola.powod_dluga_nazwa", "", "nazwa jest za długa", "der Name ist zu lang", "numele este prea lung",

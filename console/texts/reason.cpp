@@ -118,6 +118,13 @@ std::span<const Text> reason_texts() {
        "CSV speichern.",
        "registrul este prea mare pentru a fi citit aici. Lăsați în el numai punctele sau salvați foaia ca CSV.",
        "the workbook is too large to be read here. Keep the points alone in it, or save the worksheet as CSV."},
+      {"konsola.powod_inny_arkusz", "ss",  // the worksheet that is read, one with values
+       "wczytywany arkusz „%s” jest pusty, a dane stoją w arkuszu „%s”. Odczytaj go: vexo-xyz prepare PLIK --sheet "
+       "NAZWA.",
+       "Das gelesene Blatt „%s“ ist leer, Werte stehen auf „%s“. Einlesen mit: vexo-xyz prepare DATEI --sheet NAME.",
+       "foaia citită „%s” este goală, iar valorile sunt în „%s”. Citiți-o cu: vexo-xyz prepare FIȘIER --sheet NUME.",
+       "the worksheet that is read, “%s”, is empty, and values stand on “%s”. Read it: vexo-xyz prepare FILE --sheet "
+       "NAME."},
       {"konsola.powod_empty", "", "plik jest pusty.", "Die Datei ist leer.", "fișierul este gol.",
        "the file is empty."},
       {"konsola.powod_no_numbers", "",
