@@ -121,8 +121,23 @@ TEST(Intake, DecidesWhatIsBeyondDoubtAndAsksElse) {
       {"p1 39.876 116.345\np2 41.789 123.456\n", "asked"},
       {"X,Y,val\n45.229787,53.65310365,1\n16.95587808,99.35463799,2\n2.1,3.2,3\n98.1,0.5,4\n", "x,y,-"},
       {"a,b\nc,d\n", "none"},
+      // Names that are more or fewer than the columns say nothing of which is which.
+      {"X Y Z\n1 7501015.90 5701011.42 100.37\n2 7501046.70 5701022.72 100.74\n", "asked"},
+      {"# Format: X Y Z\n7501015.90 5701011.42 100.37\n7501046.70 5701022.72 100.74\n", "asked"},
+      {"# Nr X Y Z\n7501015.90 5701011.42 100.37\n7501046.70 5701022.72 100.74\n", "asked"},
+      {"Nr,Code,E,N,Z\nP1,7501015.90,5701011.42,100.37\nP2,7501046.70,5701022.72,100.74\n", "asked"},
+      // A column of heights is not dropped for the rows that lack one, nor for its name.
+      {"P1,5701011.42,7501015.90,-\nP2,5701022.72,7501046.70,100.37\nP3,5701033.72,7501056.70,101.37\n"
+       "P4,5701044.72,7501066.70,100.31\n",
+       "asked"},
+      {"Nr;X;Y;H norm\n1;5701011.42;7501015.90;100.37\n2;5701022.72;7501046.70;100.74\n", "asked"},
+      // Y before X: the order of the file.
+      {"Nr,Y,X,H\nP1,5025.816,1094.729,117.849\nP2,5040.553,1063.632,115.634\n", "nr,x,y,z"},
+      {"Nr,Lat,Lon,H\nP1,5701011.42,7501015.90,100.37\nP2,5701022.72,7501046.70,100.74\n", "asked"},
   };
   for (const Case& c : kCases) EXPECT_EQ(decided(c.text), c.decided) << c.text;
+  const Table thousands("P1,5'701'011.423,7'501'015.901,100.5\nP2,5'701'022.723,7'501'046.701,100.6\n");
+  EXPECT_EQ(judged(thousands.shape, *roles_of("nr,x,y,z")), Verdict::clear);
 }
 
 TEST(Intake, FindsTheDialect) {

@@ -125,6 +125,35 @@ Range middle_of(std::span<const PointRecord> punkty, double PointRecord::*axis) 
   return {sample[(last + 4) / 5], sample[last - (last + 4) / 5]};
 }
 
+// Points whose coordinates stand the other way round than in most rows: exchanged, they lie among the others.
+std::vector<std::size_t> the_other_way_round(std::span<const PointRecord> punkty) {
+  constexpr double kClose = 0.2;  // extent of the places beside their distance from where they are mirrored to
+  Range greater;
+  Range lesser;
+  Range apart;
+  for (const PointRecord& point : punkty) {
+    greater.take(std::max(point.x, point.y));
+    lesser.take(std::min(point.x, point.y));
+    apart.take(std::abs(point.x - point.y));
+  }
+  if (!(std::max(greater.span(), lesser.span()) < kClose * apart.low)) return {};
+  std::vector<std::size_t> rising;
+  std::vector<std::size_t> falling;
+  for (std::size_t i = 0; i < punkty.size(); ++i) (punkty[i].x < punkty[i].y ? rising : falling).push_back(i);
+  return rising.size() < falling.size() ? rising : falling;
+}
+
+std::optional<Doubt> doubt_the_other_way_round(Evidence& evidence) {
+  std::vector<std::size_t> lines;
+  for (const std::size_t point : the_other_way_round(evidence.seen.read.punkty))
+    lines.push_back(evidence.places.line_of_point(point));
+  if (lines.empty()) return std::nullopt;
+  const std::string places = listed(lines);
+  return Doubt{"far_away",
+               filled("konsola.watp_odwrotnie", {static_cast<long long>(lines.size()), std::string_view(places)}),
+               std::move(lines)};
+}
+
 }  // namespace
 
 std::optional<Doubt> doubt_degrees(Evidence& evidence) {
@@ -157,6 +186,7 @@ std::optional<Doubt> doubt_far_away(Evidence& evidence) {
   constexpr std::size_t kMostShare = 20;  // of so many points one; more than that is another site
   const auto& punkty = evidence.seen.read.punkty;
   if (punkty.size() < kFewest) return std::nullopt;
+  if (auto doubt = doubt_the_other_way_round(evidence)) return doubt;
   const Range x = middle_of(punkty, &PointRecord::x);
   const Range y = middle_of(punkty, &PointRecord::y);
   const double reach = std::max(kFar * std::max(x.span(), y.span()), kFarInMetres);

@@ -26,6 +26,11 @@ std::span<const Text> doubt_texts() {
        "Punkte weit weg von allen anderen: %d (Zeilen %s). Bitte ihre Koordinaten prüfen.",
        "puncte foarte departe de toate celelalte: %d (liniile %s). Verificați coordonatele lor.",
        "points far from all others: %d (lines %s). Check their coordinates."},
+      {"konsola.watp_odwrotnie", "ds",  // points, lines
+       "wiersze, w których X i Y stoją odwrotnie niż w pozostałych: %d (linie %s). Zamień je w nich miejscami.",
+       "Zeilen, in denen X und Y umgekehrt stehen wie in den übrigen: %d (Zeilen %s). Bitte dort vertauschen.",
+       "rânduri în care X și Y stau invers decât în celelalte: %d (liniile %s). Schimbați-le acolo între ele.",
+       "rows whose X and Y stand the other way round than in the others: %d (lines %s). Exchange them there."},
 
       // Heights
       {"konsola.watp_z_naglowek", "ds",  // column, its name

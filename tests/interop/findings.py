@@ -37,6 +37,10 @@ def degrees(template):
                      for i, (lat, lon, z) in enumerate(DEGREES)) + "\n"
 
 
+def degrees_apart(template):
+    return "".join(template.format(n=n) + "\n" for n in range(1, 9))
+
+
 # name: (content, options, outcome, points, doubts, reason, lines left out, lines skipped)
 CASES = {
     "sound": (SOUND, [], "imported", 12, [], None, [], []),
@@ -73,6 +77,8 @@ CASES = {
     "one place, two numbers": (SOUND + SOUND.splitlines()[4].replace("P5", "Q5") + "\n", [], "imported", 13,
                                ["same_place"], None, [], []),
     "far away": (SOUND + "P13;58012.34;75012.34;1.5\n", [], "imported", 13, ["far_away"], None, [], []),
+    "rows the other way round": (SOUND + "P13;7501240.1;5801240.2;101.5\nP14;7501250.1;5801230.2;101.5\n", [], "imported",
+                                 14, ["far_away"], None, [], []),
     "axes left open": (rows("K{n};{x};{y};{z}", points=[(5590430.2 + i, 5588360.9 + 3 * i, 389.4) for i in range(9)]), [],
                        "imported", 9, ["axes_unconfirmed"], None, [], []),
     "axes told": (rows("K{n};{x};{y};{z}", points=[(5590430.2 + i, 5588360.9 + 3 * i, 389.4) for i in range(9)]),
@@ -90,6 +96,26 @@ CASES = {
     "mixed separators": (rows("{x} {y}") + "P3\t5801 7501\nP4;12.5\n", [], "failed", 0, [], "mixed_separators",
                          list(range(1, 15)), []),
     "degrees, minutes": (rows("P{n};52°13'4{n}\";21°0'3{n}\""), [], "nothing", 0, [], "dms", None, None),
+    "angles in columns of their own": (degrees_apart("P{n} 50 13 4{n}.12 21 0{n} 34.5"), [], "imported", 8, ["degrees"],
+                                       None, [], []),
+    "degrees and minutes with a blank": (degrees_apart("P{n};50 13.1{n}5;21 0.3{n}5;100.1"), [], "imported", 8,
+                                         ["degrees"], None, [], []),
+    "hemispheres": (degrees_apart("P{n};52.2{n}123N;21.0{n}123E"), [], "nothing", 0, [], "dms", None, None),
+    "degree signs": (degrees_apart("P{n};52.2{n}123\u00b0;21.0{n}123\u00b0"), [], "nothing", 0, [], "dms", None, None),
+    "degrees parted by colons": (degrees_apart("P{n};52:13:4{n}.5;21:00:3{n}.5"), [], "nothing", 0, [], "dms", None, None),
+    "a blank in some numbers": (rows("P{n} {x} {y} {z}").replace("P4", "A 4").replace("P8", "B 8"), [], "imported", 12,
+                                ["height"], None, [], []),
+    "another column in some rows": (rows("P{n};{x};{y};{z}").replace("P4;", "P4;102;").replace("P8;", "P8;102;"), [],
+                                    "imported", 12, ["height"], None, [], []),
+    "axes exchanged in two rows": (SOUND + rows("Q{n};{y};{x};{z}", points=[(5801300.1, 7501300.2, 1.5), (5801301.1, 7501303.2, 1.4)]),
+                                   [], "imported", 14, ["far_away"], None, [], []),
+    "a title of numbers": ("Pomiar 2024 zlecenie 17\n" + SOUND, [], "imported", 12, [], None, [1], []),
+    "an ordinal by its Polish name": ("L.p.;X;Y;Rz\u0119dna\n" + SOUND, [], "imported", 12, [], None, [1], []),
+    "a height by a name unknown": ("Nr;X;Y;Hn\n" + SOUND, [], "imported", 12, [], None, [1], []),
+    "heights of contours": (rows("P{n};{x};{y};{z}", points=[(x, y, 5.0 * (1 + i // 4)) for i, (x, y, _) in enumerate(GRID)]),
+                            [], "imported", 12, [], None, [], []),
+    "a shaft": ("\n".join(f"P{i};{10 + i % 3 * 0.713:.3f};{20 + i % 4 * 0.617:.3f};{-4.123 * i:.3f}" for i in range(1, 13)) + "\n",
+                [], "imported", 12, [], None, [], []),
     "raster": ("ncols 4\nnrows 3\nxllcorner 0\nyllcorner 0\ncellsize 10\n" + "1.5 2.5 3.5 4.5\n" * 3, [], "failed", 0, [],
                "raster", None, None),
     "DXF": ("0\nSECTION\n2\nHEADER\n0\nENDSEC\n0\nEOF\n", [], "nothing", 0, [], "dxf", None, None),
