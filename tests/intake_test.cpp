@@ -137,7 +137,7 @@ TEST(Intake, DecidesWhatIsBeyondDoubtAndAsksElse) {
   };
   for (const Case& c : kCases) EXPECT_EQ(decided(c.text), c.decided) << c.text;
   const Table thousands("P1,5'701'011.423,7'501'015.901,100.5\nP2,5'701'022.723,7'501'046.701,100.6\n");
-  EXPECT_EQ(judged(thousands.shape, *roles_of("nr,x,y,z")), Verdict::clear);
+  EXPECT_EQ(judged(thousands.seen.shape(), *roles_of("nr,x,y,z")), Verdict::clear);
 }
 
 TEST(Intake, FindsTheDialect) {
