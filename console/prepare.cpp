@@ -4,7 +4,9 @@
 #include <system_error>
 #include <vector>
 
+#include "console/dialogue/dialogue.h"
 #include "console/dialogue/shown_text.h"
+#include "console/drawing/database.h"
 #include "console/failure_text.h"
 #include "console/files.h"
 #include "console/prepare_columns.h"
