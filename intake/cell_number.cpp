@@ -1,6 +1,7 @@
 #include "intake/cell_number.h"
 
 #include <cmath>
+#include <initializer_list>
 
 #include "vexo_xyz_impl/table/numbers.h"
 #include "vexo_xyz_impl/text/utf8.h"
@@ -106,6 +107,84 @@ NumberForm spell(Out& out, std::string_view cell) {
   return at == cell.size() ? form : NumberForm::none;
 }
 
+// Reads an angle part by part, and counts what tells it from other texts.
+class Angle {
+ public:
+  explicit Angle(std::string_view rest) : rest_(rest) {}
+
+  bool is_one() {
+    const bool leads = take_hemisphere();
+    if (!take_any({kMinus})) take_any({"-", "+"});
+    while (parts_ < 3 && take_part()) {
+    }
+    const bool hemisphere = leads || take_hemisphere();
+    if (parts_ == 0 || !rest_.empty() || !is_sized_) return false;
+    if (has_degrees_) return true;
+    if (hemisphere) return parts_ > 1 || decimals_ > 0;
+    return parts_ == 3 && (signs_ >= 2 || (aligned_ && (dashes_ == 2 || (blanks_ == 2 && decimals_ > 0))));
+  }
+
+ private:
+  bool take_any(std::initializer_list<std::string_view> signs) {
+    for (const std::string_view sign : signs) {
+      if (!rest_.starts_with(sign)) continue;
+      rest_.remove_prefix(sign.size());
+      return true;
+    }
+    return false;
+  }
+
+  void skip_blanks() { rest_ = text::trim(rest_); }
+
+  bool take_hemisphere() {
+    const bool is_letter = !rest_.empty() && std::string_view("NSEWO").find(rest_.front()) != std::string_view::npos;
+    if (!is_letter) return false;
+    rest_.remove_prefix(1);
+    skip_blanks();
+    return true;
+  }
+
+  // Digits and the sign or the gap behind them.
+  bool take_part() {
+    const std::size_t whole = digits_at(rest_, 0);
+    if (whole == 0 || whole > 3 || decimals_ > 0) return false;
+    int value = 0;
+    for (const char digit : rest_.substr(0, whole)) value = 10 * value + (digit - '0');
+    is_sized_ &= parts_ == 0 ? value <= 360 : value < 60;
+    aligned_ &= parts_ == 0 || whole == 2;
+    rest_.remove_prefix(whole);
+    ++parts_;
+    if (take_any({".", ","})) {
+      decimals_ = digits_at(rest_, 0);
+      rest_.remove_prefix(decimals_);
+    }
+    const std::size_t before = rest_.size();
+    skip_blanks();
+    if (take_any({"\xC2\xB0", "\xC2\xBA", "\xCB\x9A"})) {
+      has_degrees_ = true;
+    } else if (take_any({"'", "\"", "\xE2\x80\xB2", "\xE2\x80\xB3", "\xE2\x80\x99", "\xE2\x80\x9D", ":"})) {
+      ++signs_;
+      take_any({"'"});  // twice for seconds
+    } else if (digits_at(rest_, 1) > 0 && take_any({"-"})) {
+      ++dashes_;
+    } else if (before != rest_.size()) {
+      ++blanks_;
+    }
+    skip_blanks();
+    return true;
+  }
+
+  std::string_view rest_;
+  std::size_t parts_ = 0;
+  std::size_t decimals_ = 0;  // of the last part
+  std::size_t signs_ = 0;     // of minutes and seconds
+  std::size_t dashes_ = 0;
+  std::size_t blanks_ = 0;
+  bool has_degrees_ = false;
+  bool is_sized_ = true;  // as degrees, minutes and seconds are
+  bool aligned_ = true;   // minutes and seconds with two digits
+};
+
 }  // namespace
 
 NumberForm number_form(std::string_view cell) {
@@ -134,30 +213,9 @@ std::size_t decimals_of(std::string_view cell) {
 }
 
 bool is_sexagesimal(std::string_view cell) {
-  std::size_t numbers = 0;
-  std::size_t signs = 0;
-  bool in_number = false;
-  for (std::size_t at = 0; at < cell.size();) {
-    const auto decoded = text::decode(cell, at).value_or(text::CodePoint{0, 1});
-    const char32_t c = decoded.value;
-    at += decoded.bytes;
-    if (c < 0x80 && is_digit(static_cast<char>(c))) {
-      numbers += in_number ? 0 : 1;
-      in_number = true;
-      continue;
-    }
-    if (in_number && (c == U'.' || c == U',')) continue;
-    in_number = false;
-    constexpr std::u32string_view kSigns = U"°º'\"′″’”:";
-    constexpr std::u32string_view kBeside = U" NSEWnsew-+dms";
-    if (kSigns.find(c) != std::u32string_view::npos) {
-      ++signs;
-    } else if (kBeside.find(c) == std::u32string_view::npos) {
-      return false;
-    }
-  }
-  const bool has_degrees = cell.find("\xC2\xB0") != std::string_view::npos;
-  return numbers >= 2 && numbers <= 3 && (has_degrees || (numbers == 3 && signs >= 2));
+  if (number_form(cell) != NumberForm::none) return false;
+  Angle angle(text::trim(cell));
+  return angle.is_one();
 }
 
 std::size_t pair_break(std::string_view cell) {

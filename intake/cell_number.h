@@ -21,7 +21,9 @@ enum class NumberForm { none, whole, point, comma };
 /// Digits behind the mark of a plain number.
 [[nodiscard]] std::size_t decimals_of(std::string_view cell);
 
-/// Whether the cell is an angle with signs for its degrees, minutes or seconds: 52°13'12", 52:13:12.5, N 52 13 12.
+/// Whether the cell is an angle by more than its digits, and no number: with signs for degrees, minutes or seconds, of
+/// three parts, or with the letter of a hemisphere: 52°13'12", 52.2123°, 52:13:12.5, 50-13-41, 50 13 41.1, N52.2. A
+/// time of day, 10:13:41, is one too.
 [[nodiscard]] bool is_sexagesimal(std::string_view cell);
 
 /// Whether the cell holds two numbers, each with its point, parted by a comma, a semicolon or a blank.

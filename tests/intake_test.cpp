@@ -244,6 +244,17 @@ TEST(Intake, CopiesNumbersDigitForDigit) {
   }
 }
 
+TEST(Intake, TellsAnglesFromNumbersAndNames) {
+  for (const string_view angle :
+       {"52°13'45\"", "52° 13′ 45.5″ N", "52.2123°", "-52.2123°", "52.2123N", "N52.2", "N 52 13.5", "52:13:41.5",
+        "50-13-41", "50 13 41.1", "52º13'", "21°00'05''E", "52'13'12.5"})
+    EXPECT_TRUE(is_sexagesimal(angle)) << angle;
+  for (const string_view other :
+       {"5'701'011.42", "7 499 689", "P-50-13", "52.2123", "12-34", "2024-06-01", "01.06.2024", "50 13 41", "12N",
+        "N-34-139", "52°61'", "1.5m", "E", "N", "-", "", "10:15"})
+    EXPECT_FALSE(is_sexagesimal(other)) << other;
+}
+
 TEST(Intake, WritesWhatTheImporterReads) {
   struct Case {
     string_view text;
