@@ -4,7 +4,9 @@
 #include <system_error>
 #include <vector>
 
+#include "console/dialogue/dialogue.h"
 #include "console/dialogue/shown_text.h"
+#include "console/drawing/database.h"
 #include "console/failure_text.h"
 #include "console/files.h"
 #include "console/prepare_columns.h"
@@ -23,7 +25,6 @@ using intake::PreparedAccount;
 using intake::Roles;
 using intake::RowNote;
 using vexo_xyz_impl::filled;
-using vexo_xyz_impl::T;
 
 constexpr int kMostNames = 10000;       // prepared files of one name in one folder
 constexpr std::size_t kLinesNamed = 5;  // of each kind of rows left out
@@ -66,7 +67,7 @@ class Preparation {
     table_ = intake::open_table(options_.file, kind, options_.sheet);
     if (!table_) {
       const std::string_view code = kind_code(kind);
-      say("konsola.powod", {T("konsola.powod_" + std::string(code.empty() ? "unreadable" : code))});
+      say("konsola.powod", {reason_named(code.empty() ? "unreadable" : code).text});
       return refused(kind == intake::FileKind::unreadable || code.empty() ? kFailure : kNothingImported);
     }
     if (!sheet_is_there()) return refused(options_.sheet ? kUsage : kNothingImported);

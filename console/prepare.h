@@ -8,7 +8,8 @@
 #include <string>
 
 #include "console/dialogue/line_source.h"
-#include "console/session.h"
+#include "console/exit_code.h"
+#include "console/sibling_registry.h"
 #include "intake/prepared_file.h"
 
 namespace console {

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "console/dialogue/shown_text.h"
+#include "console/report/reasons.h"
 #include "intake/columns.h"
 #include "vexo_xyz_impl/messages.h"
 #include "vexo_xyz_impl/text/utf8.h"
@@ -61,7 +62,7 @@ class Choosing {
         say("konsola.prep_stopnie");
         break;
       case Verdict::sexagesimal:
-        say("konsola.powod", {T("konsola.powod_dms")});
+        say("konsola.powod", {reason_named("dms").text});
         break;
       case Verdict::no_coordinates:
         say("konsola.prep_bez_wspolrzednych");
@@ -105,7 +106,7 @@ class Choosing {
       return are_of_a_grid;
     }
     if (verdict == Verdict::sexagesimal) {
-      say("konsola.powod", {T("konsola.powod_dms")});
+      say("konsola.powod", {reason_named("dms").text});
     } else {
       say("konsola.prep_stopnie");
     }

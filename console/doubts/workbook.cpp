@@ -74,8 +74,7 @@ std::vector<Doubt> doubts_of_workbook(const ImportSeen& seen, Places* places) {
   try {
     intake::Workbook workbook(seen.path);
     add_sheet_choice(doubts, workbook);
-    const vexo_xyz_impl::Table& table = *seen.loaded.rows;
-    if (workbook.imported() != nullptr && workbook.may_be_flawed(table.text(), table.shared_text())) {
+    if (workbook.imported() != nullptr && workbook.may_be_flawed(seen.loaded.rows->text())) {
       intake::Flaws flaws = workbook.inspect(*workbook.imported());
       add_rows(doubts, "formula_without_value", "konsola.watp_formula", std::move(flaws.formulas_without_value));
       add_rows(doubts, "date", "konsola.watp_data", std::move(flaws.dates));

@@ -26,8 +26,6 @@ using vexo_xyz_impl::ImportSeen;
 using vexo_xyz_impl::Row;
 using vexo_xyz_impl::T;
 
-Reason named(std::string_view code) { return {code, T("konsola.powod_" + std::string(code))}; }
-
 // The beginning of a text, decoded, up to its last whole line.
 std::vector<char> beginning_of(const std::string& path) {
   constexpr std::size_t kEnough = std::size_t{1} << 18U;
@@ -76,37 +74,37 @@ Reason reason_without_rows(const std::string& path) {
     for (const intake::Sheet& sheet : workbook.sheets()) {
       intake::Record record;
       if (sheet.member.empty() || !workbook.records(sheet)->next(record)) continue;
-      if (workbook.imported() == nullptr || &sheet == workbook.imported()) return named("cells_unreadable");
+      if (workbook.imported() == nullptr || &sheet == workbook.imported()) return reason_named("cells_unreadable");
       const auto text = vexo_xyz_impl::filled(
           "konsola.powod_inny_arkusz", {std::string_view(workbook.imported()->name), std::string_view(sheet.name)});
       return {"cells_unreadable", text};
     }
-    return named("empty");
+    return reason_named("empty");
   } catch (const std::exception&) {
-    return named("unreadable");
+    return reason_named("unreadable");
   }
 }
 
 // Of rows of which none gave a point: no numbers where two are due, or only the height's missing, which is doubted.
 Reason reason_of_rows(const ImportSeen& seen, const Findings& findings) {
   if (!seen.read.punkty.empty() || was_asked(seen)) return {};
-  if (findings.doubts.empty()) return named("no_numbers");
+  if (findings.doubts.empty()) return reason_named("no_numbers");
   return {"no_numbers", T("konsola.powod_bez_wysokosci")};
 }
 
 Reason reason_of_text(const ImportSeen& seen, const Findings& findings) {
   const std::vector<char> text = beginning_of(seen.path);
   const std::string_view beginning(text.data(), text.size());
-  if (seen.loaded.rows && are_angles(seen.loaded.rows->rows())) return named("dms");
+  if (seen.loaded.rows && are_angles(seen.loaded.rows->rows())) return reason_named("dms");
   const intake::Dialect dialect = intake::dialect_of(beginning);
-  if (dialect.is_decided && dialect.separator == ',') return named("comma_separated");
-  if (dialect.is_decided && dialect.separator == '|') return named("pipe_separated");
+  if (dialect.is_decided && dialect.separator == ',') return reason_named("comma_separated");
+  if (dialect.is_decided && dialect.separator == '|') return reason_named("pipe_separated");
   if (seen.failure && seen.failure->kind == "IndexError") {
     if (const auto line = line_of_odd_row(seen))
       return {"mixed_separators", vexo_xyz_impl::filled("konsola.powod_linia", {static_cast<long long>(*line)})};
   }
-  if (dialect.mixed) return named("mixed_separators");
-  if (dialect.quoted) return named("quoted");
+  if (dialect.mixed) return reason_named("mixed_separators");
+  if (dialect.quoted) return reason_named("quoted");
   return reason_of_rows(seen, findings);
 }
 
@@ -119,6 +117,8 @@ bool is_suspicious(const ImportSeen& seen, const Findings& findings) {
 }
 
 }  // namespace
+
+Reason reason_named(std::string_view code) { return {code, T("konsola.powod_" + std::string(code))}; }
 
 std::string_view kind_code(FileKind kind) {
   switch (kind) {
@@ -160,7 +160,7 @@ Reason reason_of(const ImportSeen& seen, const Findings& findings) {
   if (had_points && findings.outcome != Outcome::imported) return {};  // the doubts say what was the matter with them
   if (!is_suspicious(seen, findings)) return {};
   const FileKind kind = intake::file_kind(seen.path);
-  if (const std::string_view code = kind_code(kind); !code.empty()) return named(code);
+  if (const std::string_view code = kind_code(kind); !code.empty()) return reason_named(code);
   if (kind == FileKind::text) return reason_of_text(seen, findings);
   if (findings.outcome == Outcome::imported) return {};
   if (seen.loaded.rows && findings.account.rows > 0) return reason_of_rows(seen, findings);
