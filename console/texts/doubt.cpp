@@ -138,6 +138,16 @@ std::span<const Text> doubt_texts() {
        "north-first or east-first."},
 
       // Numbers
+      {"konsola.watp_powtorzone_gdzie_indziej", "ds",  // points, lines
+       "numery punktów powtarzają się w innym miejscu: %d (linie %s). Popraw numery.",
+       "Punktnummern wiederholen sich an anderer Stelle: %d (Zeilen %s). Bitte die Nummern berichtigen.",
+       "numerele punctelor se repetă în alt loc: %d (liniile %s). Corectați numerele.",
+       "point numbers are repeated at another place: %d (lines %s). Correct the numbers."},
+      {"konsola.watp_powtorzone_tam", "ds",  // points, lines
+       "numery punktów powtarzają się w tym samym miejscu: %d (linie %s). Usuń zbędne wiersze.",
+       "Punktnummern wiederholen sich an derselben Stelle: %d (Zeilen %s). Bitte überzählige Zeilen löschen.",
+       "numerele punctelor se repetă în același loc: %d (liniile %s). Ștergeți rândurile de prisos.",
+       "point numbers are repeated at the same place: %d (lines %s). Delete the rows that are too many."},
       {"konsola.watp_powtorzone", "dsds",  // points elsewhere, their lines, points at the same place, their lines
        "numery punktów się powtarzają: w innym miejscu %d (linie %s), w tym samym %d (linie %s). Popraw numery lub "
        "usuń zbędne wiersze.",
