@@ -11,6 +11,7 @@
 #include "console/dialogue/shown_text.h"
 #include "console/report/reasons.h"
 #include "intake/columns.h"
+#include "intake/header_words.h"
 #include "vexo_xyz_impl/messages.h"
 #include "vexo_xyz_impl/text/utf8.h"
 
@@ -54,6 +55,7 @@ class Choosing {
       case Verdict::clear:
         say("konsola.prep_kolumny",
             {told(decision.proposals.front().roles), T(ground_key(decision.proposals.front().ground))});
+        tell_order(decision.proposals.front().roles);
         return {decision.proposals.front().roles};
       case Verdict::maybe_degrees:
       case Verdict::unclear:
@@ -82,7 +84,9 @@ class Choosing {
       say("konsola.prep_zle_kolumny", {columns, names});
       return {std::nullopt, kUsage};
     }
-    return are_degrees(*roles) ? ChosenColumns() : ChosenColumns{roles};
+    if (are_degrees(*roles)) return {};
+    tell_order(*roles);
+    return {roles};
   }
 
  private:
@@ -113,6 +117,22 @@ class Choosing {
     return true;
   }
 
+  // The prepared file's X and Y are the file's first and second coordinate, which it may call otherwise.
+  void tell_order(const Roles& roles) {
+    const auto place = [&](Role role) {
+      return static_cast<std::size_t>(std::find(roles.begin(), roles.end(), role) - roles.begin());
+    };
+    const std::size_t x = place(Role::x);
+    const std::size_t y = place(Role::y);
+    if (x == roles.size() || y == roles.size()) return;
+    const auto named = [&](std::size_t column) {
+      return column < shape_.names.size() ? intake::header_name(shape_.names[column]).named : intake::Named::nothing;
+    };
+    const std::size_t first = std::min(x, y);
+    if (x < y && named(first) != intake::Named::y) return;
+    say("konsola.prep_kolejnosc", {std::to_string(first + 1), std::to_string(std::max(x, y) + 1)});
+  }
+
   // "nr = POINT, n = NORTH", or the roles alone where there are no names.
   [[nodiscard]] std::string told(const Roles& roles) const {
     std::string all;
@@ -127,7 +147,7 @@ class Choosing {
   ChosenColumns chosen(const Decision& decision) {
     if (decision.verdict == Verdict::maybe_degrees) warn_of_degrees();
     say("konsola.prep_pytanie");
-    if (shape_.header_line != 0) print(row_text(shape_.names));
+    if (shape_.header_line != 0) print(row_text(shape_.loose_names.empty() ? shape_.names : shape_.loose_names));
     for (const auto& row : shape_.preview) print(row_text(row));
     say("konsola.prep_mozliwe");
     for (std::size_t i = 0; i < decision.proposals.size(); ++i) {
@@ -137,7 +157,9 @@ class Choosing {
     while (const auto typed = lines_.read_line(without_control_characters(T("konsola.prep_wybor")), Completion::none)) {
       const std::string answer(vexo_xyz_impl::text::trim(*typed));
       const auto roles = meant(decision, answer);
-      if (roles) return are_degrees(*roles) ? ChosenColumns() : ChosenColumns{roles};
+      if (roles && are_degrees(*roles)) return {};
+      if (roles) tell_order(*roles);
+      if (roles) return {roles};
       say("konsola.prep_zly_wybor", {answer});
       if (lines_.at_end()) break;
     }

@@ -2,8 +2,10 @@
 
 #include <cmath>
 #include <initializer_list>
+#include <iterator>
 
 #include "vexo_xyz_impl/table/numbers.h"
+#include "vexo_xyz_impl/text/ascii.h"
 #include "vexo_xyz_impl/text/utf8.h"
 
 namespace intake {
@@ -216,6 +218,20 @@ bool is_sexagesimal(std::string_view cell) {
   if (number_form(cell) != NumberForm::none) return false;
   Angle angle(text::trim(cell));
   return angle.is_one();
+}
+
+bool is_nearly_number(std::string_view cell) {
+  constexpr std::string_view kDigits = "0123456789";
+  const std::size_t from = cell.find_first_of(kDigits);
+  if (from == std::string_view::npos) return false;
+  const std::size_t to = cell.find_last_of(kDigits) + 1;
+  const NumberForm form = number_form(cell.substr(from, to - from));
+  const std::string_view around[] = {cell.substr(0, from), cell.substr(to)};
+  const bool are_signs = std::all_of(std::begin(around), std::end(around), [](std::string_view signs) {
+    return std::none_of(signs.begin(), signs.end(),
+                        [](char c) { return text::ascii_lower(c) >= 'a' && text::ascii_lower(c) <= 'z'; });
+  });
+  return are_signs && to - from < cell.size() && (form == NumberForm::point || form == NumberForm::comma);
 }
 
 std::size_t pair_break(std::string_view cell) {

@@ -32,6 +32,9 @@ enum class NumberForm { none, whole, point, comma };
 /// Whether the cell holds two numbers of at least four digits, that may be one with a decimal comma as well.
 [[nodiscard]] bool is_long_pair(std::string_view cell);
 
+/// Whether the cell is a number with decimals and signs that are none of it: =100.3, 100.3*, (100.3).
+[[nodiscard]] bool is_nearly_number(std::string_view cell);
+
 /// Where such a pair, or one of whole numbers, is parted; npos when the cell holds no two numbers.
 [[nodiscard]] std::size_t pair_break(std::string_view cell);
 

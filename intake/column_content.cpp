@@ -55,6 +55,15 @@ bool is_numbering(const TableShape& shape, std::size_t column) {
   return is_measured(shape.columns[column + 1]) && is_measured(shape.columns[column + 2]);
 }
 
+bool may_hold_heights(const TableShape& shape, std::size_t a, std::size_t b, std::size_t column) {
+  const ColumnContent& height = shape.columns[column];
+  if (height.is_numeric() || height.filled == 0 || size_of(height) > kGreatestHeight) return false;
+  if (2 * height.nearly >= height.filled) return true;
+  const bool coordinates_whole = shape.columns[a].is_whole() && shape.columns[b].is_whole();
+  const std::size_t measured = height.numbers - (coordinates_whole ? 0 : height.whole);
+  return (coordinates_whole ? 2 : 4) * (measured + height.nearly) >= height.filled;  // whole ones may be codes
+}
+
 bool may_be_height(const TableShape& shape, std::size_t a, std::size_t b, std::size_t column) {
   const ColumnContent& height = shape.columns[column];
   if (!height.is_numeric() || size_of(height) > kGreatestHeight) return false;

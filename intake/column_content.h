@@ -26,4 +26,7 @@ namespace intake {
 /// Whether a column holds heights beside coordinates: of a height's size, and measured like these.
 [[nodiscard]] bool may_be_height(const TableShape& shape, std::size_t a, std::size_t b, std::size_t column);
 
+/// Whether a column would hold heights, were it not for cells that are no numbers.
+[[nodiscard]] bool may_hold_heights(const TableShape& shape, std::size_t a, std::size_t b, std::size_t column);
+
 }  // namespace intake

@@ -35,6 +35,7 @@ Roles roles_with(const TableShape& shape, std::optional<Column> number, Pair pai
                  std::optional<Column> height) {
   Roles roles(shape.width, Role::other);
   if (number) roles[*number] = Role::number;
+  if (!axes_known && pair.second < pair.first) std::swap(pair.first, pair.second);  // a bare Y, X: the file's order
   roles[pair.first] = axes_known ? Role::easting : Role::x;
   roles[pair.second] = axes_known ? Role::northing : Role::y;
   if (height) roles[*height] = Role::height;
@@ -53,7 +54,10 @@ NamedColumns names_of(const TableShape& shape) {
       const bool angle = content.sexagesimal > 0;
       const bool zeros = content.is_constant() && content.least == 0.0 && shape.rows > 1;
       if (content.filled == 0) name.named = Named::other_value;
-      if (2 * content.numbers < content.filled && !angle) name.named = Named::unknown;
+      const bool any_height = name.named == Named::height && content.numbers + content.nearly > 0;
+      if (2 * content.numbers < content.filled && !angle) {
+        name.named = any_height ? Named::maybe_height : Named::unknown;
+      }
       if (zeros && name.named != Named::height) name.named = Named::other_value;
     }
     named.names.push_back(name);
@@ -112,9 +116,12 @@ std::optional<Column> number_by_name(const TableShape& shape, const NamedColumns
 // A column right behind the coordinates that might be a height, were its name understood.
 bool hides_a_height(const TableShape& shape, const NamedColumns& named, Pair pair) {
   const Column next = std::max(pair.first, pair.second) + 1;
-  if (next >= shape.width || named.names[next].named != Named::unknown) return false;
+  if (next >= shape.width) return false;
+  const Named name = named.names[next].named;
+  if (name != Named::unknown && name != Named::nothing) return false;
   const ColumnContent& content = shape.columns[next];
-  return content.is_numeric() && !content.is_whole() && !content.is_constant();
+  return (content.is_numeric() && !content.is_whole() && !content.is_constant()) ||
+         may_hold_heights(shape, pair.first, pair.second, next);
 }
 
 // Of X, Y, Z side by side the Z is the height, whatever else has a height's name.
@@ -123,6 +130,15 @@ void keep_bare_z(const TableShape& shape, const std::vector<Pair>& pairs, std::v
   const Column behind = std::max(pairs.front().first, pairs.front().second) + 1;
   const bool is_bare = behind < shape.width && (shape.names[behind] == "Z" || shape.names[behind] == "z");
   if (is_bare) std::erase_if(heights, [behind](const Candidate& height) { return height.column != behind; });
+}
+
+// Metres below names of degrees.
+bool are_too_large_for_degrees(const TableShape& shape, Pair pair) {
+  constexpr double kCircle = 360.0;
+  const auto is_too_large = [&](Column i) {
+    return shape.columns[i].is_numeric() && greatest_size(shape, i) > kCircle;
+  };
+  return is_too_large(pair.first) && is_too_large(pair.second);
 }
 
 Decision by_names(const TableShape& shape) {
@@ -151,22 +167,36 @@ Decision by_names(const TableShape& shape) {
     }
   }
   if (decision.proposals.empty()) {
-    if (!angles.empty()) {
+    if (!angles.empty() && are_too_large_for_degrees(shape, angles[0])) {
+      std::optional<Column> height;
+      if (heights.size() == 1) height = heights.front().column;
+      for (const bool axes_known : {true, false})
+        decision.proposals.push_back({roles_with(shape, number, angles[0], axes_known, height), Ground::names});
+      decision.verdict = Verdict::unclear;
+    } else if (!angles.empty()) {
       const bool sexagesimal = shape.columns[angles[0].first].sexagesimal > shape.rows / 2;
       decision.verdict = sexagesimal ? Verdict::sexagesimal : Verdict::degrees;
     }
     return decision;
   }
-  const Roles& first = decision.proposals.front().roles;
   const Pair pair = axes.empty() ? order.front() : axes.front();
   // Beside degrees a bare X and Y may be places in an image; of a grid they are only when they are large.
   const bool is_image = axes.empty() && !angles.empty() && is_within(shape, pair.first, kLeastGrid) &&
                         is_within(shape, pair.second, kLeastGrid);
   const bool one_pair = axes.size() + order.size() == 1 && !is_image;
-  const bool height_told = heights.size() == 1 || (heights.empty() && !hides_a_height(shape, named, pair));
+  const auto possible = named.of(Named::maybe_height);
+  const bool height_told =
+      heights.size() == 1 || (heights.empty() && possible.empty() && !hides_a_height(shape, named, pair));
   decision.verdict = one_pair && height_told ? Verdict::clear : Verdict::unclear;
-  if (heights.empty() && hides_a_height(shape, named, pair)) {
-    Roles with = first;
+  if (heights.empty()) {
+    for (const Candidate& height : possible) {
+      Roles with = decision.proposals.back().roles;
+      with[height.column] = Role::height;
+      decision.proposals.insert(decision.proposals.begin(), {std::move(with), Ground::names});
+    }
+  }
+  if (heights.empty() && possible.empty() && hides_a_height(shape, named, pair)) {
+    Roles with = decision.proposals.front().roles;
     with[std::max(pair.first, pair.second) + 1] = Role::height;
     decision.proposals.insert(decision.proposals.begin() + 1, {std::move(with), Ground::names});
   }
@@ -225,11 +255,14 @@ Decision by_content(const TableShape& shape) {
   const bool labels = numeric.front() > 0;
   const bool numbering = !labels && numeric.size() > 2 && is_numbering(shape, 0);
   const std::size_t skipped = numbering ? 1 : 0;
-  const auto propose = [&](bool with_number, bool with_height) {
-    const std::size_t k = labels ? 0 : (with_number ? 1 : 0);
+  const auto mostly_whole = [&](Column i) { return 2 * shape.columns[i].whole >= shape.columns[i].numbers; };
+  const auto propose = [&](bool with_number, bool with_height, std::size_t codes = 0) {
+    const std::size_t k = (labels ? 0 : (with_number ? 1 : 0)) + codes;
     if (k + 1 >= numeric.size() || (with_height && k + 2 >= numeric.size())) return;
     std::optional<Column> number;
     if (with_number) number = 0;
+    // "PKT 1": of two the column that tells the points apart.
+    if (codes > 0 && shape.columns[numeric[k - 1]].distinct > shape.columns[0].distinct) number = numeric[k - 1];
     std::optional<Column> height;
     if (with_height) height = numeric[k + 2];
     const Roles roles = roles_with(shape, number, {numeric[k], numeric[k + 1]}, false, height);
@@ -239,6 +272,15 @@ Decision by_content(const TableShape& shape) {
   };
   const std::size_t behind = numeric.size() - skipped - 2;  // numbers behind the coordinates
   const bool numbered = labels || numbering;
+  // Whole numbers between the number and what is measured: a code, or a number in two columns.
+  const std::size_t second = labels ? 0 : 1;
+  const bool has_codes = (labels || mostly_whole(numeric[0])) && numeric.size() > second + 2 &&
+                         mostly_whole(numeric[second]) && !mostly_whole(numeric[second + 1]) &&
+                         !mostly_whole(numeric[second + 2]);
+  if (has_codes) {
+    if (numeric.size() > second + 3) propose(true, true, 1);
+    propose(true, false, 1);
+  }
   propose(numbered, behind >= 1);
   propose(numbered, false);
   propose(!numbered, true);
@@ -248,17 +290,42 @@ Decision by_content(const TableShape& shape) {
   if (are_degrees(shape, a, b)) return {Verdict::degrees, {}};
 
   const bool adjacent = b == a + 1 && a == (numbered ? 1U : 0U);
-  const auto mostly_whole = [&](Column i) { return 2 * shape.columns[i].whole >= shape.columns[i].numbers; };
   const bool same_kind = mostly_whole(a) == mostly_whole(b);
   const bool starts_clearly =
       numbered || numeric.size() == 2 || (!mostly_whole(a) && looks_like_coordinates_first(shape, a, b));
   const bool unique = !labels || 2 * shape.columns.front().distinct >= shape.columns.front().filled;
+  const bool hidden = b + 1 < shape.width && may_hold_heights(shape, a, b, b + 1);
+  if (hidden) {
+    Roles with = decision.proposals.front().roles;
+    std::replace(with.begin(), with.end(), Role::height, Role::other);
+    with[b + 1] = Role::height;
+    decision.proposals.insert(decision.proposals.begin(), {std::move(with), decision.proposals.front().ground});
+  }
   const bool height_clear =
-      behind == 0 || (behind == 1 && numeric[skipped + 2] == b + 1 && may_be_height(shape, a, b, b + 1));
+      (behind == 0 && !hidden) || (behind == 1 && numeric[skipped + 2] == b + 1 && may_be_height(shape, a, b, b + 1));
   const bool clear = adjacent && same_kind && starts_clearly && unique && height_clear && shape.rows > 1;
   decision.verdict = clear ? Verdict::clear : Verdict::unclear;
   if (may_be_degrees(shape, a, b)) decision.verdict = Verdict::maybe_degrees;
   return decision;
+}
+
+// Names of all columns but the first, which numbers or labels the rows: as statistics programs write them.
+bool name_a_column_less(const TableShape& shape) {
+  if (shape.loose_names.size() + 1 != shape.width) return false;
+  const ColumnContent& first = shape.columns.front();
+  return is_numbering(shape, 0) || (first.numbers == 0 && first.filled == shape.rows);
+}
+
+void propose_names_behind_the_first(const TableShape& shape, Decision& decision) {
+  TableShape moved = shape;
+  moved.names = shape.loose_names;
+  moved.names.insert(moved.names.begin(), std::string());
+  auto named = by_names(moved).proposals;
+  for (const Proposal& made : decision.proposals) {
+    const auto same = [&](const Proposal& other) { return other.roles == made.roles; };
+    if (std::none_of(named.begin(), named.end(), same)) named.push_back(made);
+  }
+  decision.proposals = std::move(named);
 }
 
 }  // namespace
@@ -273,6 +340,7 @@ Decision decide(const TableShape& shape) {
       decision = std::move(*by_line);
     } else {
       decision = by_content(shape);
+      if (name_a_column_less(shape)) propose_names_behind_the_first(shape, decision);
       // Names that say nothing may say so in a language that is not known here.
       if (shape.header_line != 0 && decision.verdict == Verdict::clear) decision.verdict = Verdict::unclear;
     }

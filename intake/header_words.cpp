@@ -34,7 +34,8 @@ constexpr auto kVocabulary = std::to_array<Vocabulary>({
     {Named::height,
      " z h elev elevation elevatie elevacio ele alt altitude altitudine height heights hgt ht hoehe hoehen hohe hohen "
      "wys wysokosc wysokosci rzedna rzedne rz cota cote kota kote niveau hmsl msl nhn npm nap zcoord depth tiefe "
-     "quota inaltime inaltimea altura altitud hnhn hnn hell hort orthoheight up level "},
+     "quota inaltime inaltimea altura altitud hnhn hnn hell hort orthoheight up level hn poziom rl dhhn gok ahd "},
+    {Named::maybe_height, " glebokosc glebokosci adancime adancimea "},
     {Named::latitude,
      " lat latitude latitudine latitudinea latitud breite breitengrad szerokosc szer phi b geobreite fi lati latdd "
      "latdeg declat "},
@@ -68,7 +69,7 @@ constexpr auto kVocabulary = std::to_array<Vocabulary>({
     {Named::other_value,
      " dip azimuth azymut azimut strike plunge polarity depth tiefe level floor roll pitch yaw omega kappa heading "
      "kierunek richtung direction "
-     "length dlugoscm dist distance odleglosc entfernung strecke distanta chainage hektometr kilometraz glebokosc area "
+     "length dlugoscm dist distance odleglosc entfernung strecke distanta chainage hektometr kilometraz area "
      "pole flaeche flache suprafata powierzchnia image img pixel px py u v row col column rows cols zeile spalte line "
      "line2 sample radius promien diff delta dx dy dz dh nx ny nz gx gy gz vx vy vz vn ve vu qx qy qz qw rx ry rz red "
      "green blue intensity returnnumber scale skala massstab weight wt wag speed predkosc porosity permeability perm "
@@ -271,6 +272,7 @@ constexpr auto kByWeight = std::to_array<Named>({
     Named::x,
     Named::y,
     Named::height,
+    Named::maybe_height,
     Named::code,
     Named::number,
     Named::pair,
@@ -309,6 +311,7 @@ HeaderName header_name(std::string_view name) {
 
   std::string joined;
   for (const std::string& word : words.words) joined += word;
+  if (joined == "lp" || joined == "ortho") return {joined == "lp" ? Named::counter : Named::height, 0};  // "L.p."
   HeaderName result{Named::unknown, 0};
   if (words.words.size() > 1) {
     if (const Named whole = looked_up(joined); whole != Named::unknown && joined.size() > 2) return {whole, 0};
@@ -337,7 +340,11 @@ HeaderName header_name(std::string_view name) {
   }
   result.named = combined(said);
   if (result.named == Named::pair && said.size() > 2) result.named = Named::other_value;
-  if (names_a_coordinate(result.named) && of_something_else) result.named = Named::other_value;
+  if (names_a_coordinate(result.named) && of_something_else) {
+    const bool is_normal =
+        result.named == Named::height && std::count(words.words.begin(), words.words.end(), "norm") > 0;
+    result.named = is_normal ? Named::maybe_height : Named::other_value;
+  }
   const bool is_angle = result.named == Named::latitude || result.named == Named::longitude;
   if (is_angle && words.is_length) result.named = Named::other_value;  // "Länge [m]"
   return result;

@@ -22,9 +22,10 @@ enum class Named {
   longitude,
   code,  ///< a code or a description
   zone,
-  error,        ///< a standard error or the like
-  date,         ///< a date or a time
-  other_value,  ///< a known quantity that none of these is: an angle, a length, an image's coordinate
+  error,         ///< a standard error or the like
+  date,          ///< a date or a time
+  other_value,   ///< a known quantity that none of these is: an angle, a length, an image's coordinate
+  maybe_height,  ///< a height of a kind that may be wanted or not: normalized or normal, a depth
   unknown,
 };
 

@@ -5,6 +5,7 @@
 #include <charconv>
 #include <cmath>
 #include <optional>
+#include <utility>
 
 #include "intake/cell_number.h"
 #include "vexo_xyz_impl/input/declared_columns.h"
@@ -40,6 +41,10 @@ Places places_of(const Roles& roles) {
                 {place_of(roles, known ? Role::easting : Role::x), place_of(roles, known ? Role::northing : Role::y)},
                 place_of(roles, Role::height),
                 0};
+  // What is said of the file's axes later must be true of this file too.
+  if (!known && places.coordinates[1] < places.coordinates[0]) {
+    std::swap(places.coordinates[0], places.coordinates[1]);
+  }
   places.needed = std::max(places.coordinates[0], places.coordinates[1]) + 1;
   return places;
 }

@@ -14,8 +14,8 @@ enum class Role {
   number,    ///< nr
   easting,   ///< e
   northing,  ///< n
-  x,         ///< x: first coordinate, its axis not known
-  y,         ///< y: second coordinate, its axis not known
+  x,         ///< x: a coordinate whose axis is not known; of x and y the file's first is written first
+  y,         ///< y: the other one; "y,x" says no more than "x,y"
   height,    ///< z
   other,     ///< -: not taken
 };

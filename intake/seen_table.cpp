@@ -7,11 +7,14 @@
 namespace intake {
 
 SeenTable::SeenTable(const ForeignTable& table, const Roles* roles)
-    : table_(table), records_(table.records.get()), shape_(shape_of(*records_, table.comments)) {
+    : table_(table),
+      cells_(table.dialect ? Cells::counted : Cells::placed),
+      records_(table.records.get()),
+      shape_(shape_of(*records_, table.comments, cells_)) {
   const auto both = pair_column(shape_, roles);
   if (!both) return;
   records_ = &parted_.emplace(*records_, *both);
-  shape_ = shape_of(*records_, table.comments);
+  shape_ = shape_of(*records_, table.comments, cells_);
 }
 
 PreparedForm SeenTable::form(const Roles& roles, MissingHeight missing_height) const {

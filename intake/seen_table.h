@@ -25,6 +25,7 @@ class SeenTable {
 
  private:
   const ForeignTable& table_;
+  Cells cells_;
   Records* records_;
   TableShape shape_;
   std::optional<PairRecords> parted_;

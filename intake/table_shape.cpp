@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <map>
 #include <unordered_set>
+#include <utility>
 
 #include "intake/cell_number.h"
 #include "intake/header_words.h"
@@ -17,6 +18,7 @@ namespace text = vexo_xyz_impl::text;
 
 constexpr std::size_t kSample = 2000;  // records
 constexpr std::size_t kPreview = 3;
+constexpr std::size_t kRowsForAName = 20;  // of so many one at least has a cell for the last name
 constexpr std::size_t kFine = 4;
 constexpr std::size_t kFinest = 6;
 
@@ -149,6 +151,28 @@ void take_header(TableShape& shape, const Sample& head) {
   shape.names = header->cells;
 }
 
+// Whether the names are as many as the columns: columns without a value need none, names a column that some rows have.
+bool names_fit(const TableShape& shape, const Sample& sample, const std::vector<bool>& columns) {
+  std::size_t named = shape.names.size();
+  if (named == shape.width) return true;
+  while (named > 0 && shape.names[named - 1].empty()) --named;
+  std::size_t rows = 0;
+  std::size_t as_wide = 0;
+  bool more_values = false;
+  for (const Kept& row : sample) {
+    if (row.line < shape.first_data_line || !looks_like_row(row, columns)) continue;
+    ++rows;
+    as_wide += row.cells.size() == named ? 1 : 0;
+    more_values |= row.cells.size() == shape.width && width_of(row) > named;
+  }
+  return named <= shape.width ? !more_values : kRowsForAName * as_wide >= rows;
+}
+
+bool names_coordinates(const std::vector<std::string>& names) {
+  return std::count_if(names.begin(), names.end(),
+                       [](const std::string& name) { return names_a_coordinate(header_name(name).named); }) >= 2;
+}
+
 // The names in a comment, parted like the data or by blanks.
 std::vector<std::string> commented_names(std::string_view comment, std::size_t width) {
   for (const std::string_view separators : {"\t", ";", ",", "|", " \t"}) {
@@ -159,7 +183,9 @@ std::vector<std::string> commented_names(std::string_view comment, std::size_t w
       if (!cell.empty() || separators.size() == 1) cells.emplace_back(cell);
       rest.remove_prefix(std::min(end + 1, rest.size()));
     }
-    if (cells.size() + 1 >= width && cells.size() <= width + 1 && is_header_of(cells)) return cells;
+    const bool are_as_many = cells.size() == width;
+    const bool are_nearly = cells.size() + 1 == width || cells.size() == width + 1;
+    if (is_header_of(cells) && (are_as_many || (are_nearly && names_coordinates(cells)))) return cells;
   }
   return {};
 }
@@ -219,7 +245,10 @@ void see_content(TableShape& shape, const Sample& sample, const std::vector<bool
       column.pairs += is_pair(cell) ? 1 : 0;
       column.whole_pairs += is_long_pair(cell) ? 1 : 0;
       std::string plain;
-      if (!append_number(plain, cell)) continue;
+      if (!append_number(plain, cell)) {
+        column.nearly += is_nearly_number(cell) ? 1 : 0;
+        continue;
+      }
       const double value = vexo_xyz_impl::_num(plain);
       column.rising += column.numbers > 0 && value > before[i] ? 1 : 0;
       column.least = column.numbers == 0 ? value : std::min(column.least, value);
@@ -236,7 +265,8 @@ void see_content(TableShape& shape, const Sample& sample, const std::vector<bool
 
 }  // namespace
 
-TableShape shape_of(Records& records, const std::vector<std::pair<std::size_t, std::string_view>>& comments) {
+TableShape shape_of(Records& records, const std::vector<std::pair<std::size_t, std::string_view>>& comments,
+                    Cells cells) {
   const Sample sample = sample_of(records);
   TableShape shape;
   shape.width = commonest_width(sample);
@@ -257,6 +287,9 @@ TableShape shape_of(Records& records, const std::vector<std::pair<std::size_t, s
   shape.first_data_line = first->line;
   if (!take_names_by_line(shape, head)) take_header(shape, head);
   if (shape.header_line == 0) take_commented_header(shape, comments);
+  if (cells == Cells::counted && !shape.names.empty() && !names_fit(shape, sample, columns)) {
+    shape.loose_names = std::exchange(shape.names, {});
+  }
   shape.width = std::max(shape.width, std::min(shape.names.size(), shape.width + 1));
   see_kinds(shape, sample, columns);
   see_content(shape, sample, columns);

@@ -19,6 +19,7 @@ struct ColumnContent {
   std::size_t whole = 0;    ///< without a mark
   std::size_t fine = 0;     ///< with at least four decimals
   std::size_t finest = 0;   ///< with at least six, as decimal degrees have and metres do not
+  std::size_t nearly = 0;   ///< no numbers, but for signs around one with decimals: =100.3, 100.3*
   std::size_t sexagesimal = 0;
   std::size_t pairs = 0;        ///< two numbers with points
   std::size_t whole_pairs = 0;  ///< two numbers of at least four digits, that may be one with a decimal comma
@@ -44,14 +45,19 @@ struct TableShape {
   std::size_t header_line = 0;      ///< physical; 0 without a header
   std::size_t first_data_line = 0;  ///< 0 without data
   std::vector<std::string> names;   ///< by column, empty ones where there is none
+  /// Names that are more or fewer than the columns, so that nobody knows which is whose; else empty.
+  std::vector<std::string> loose_names;
   std::vector<ColumnContent> columns;
   std::vector<CellKind> kinds;                    ///< by column
   std::vector<std::vector<std::string>> preview;  ///< the first rows of data
   Projection projection = Projection::none;
 };
 
+/// Whether each cell stands in its column, as on a sheet, or is only counted from the left.
+enum class Cells { counted, placed };
+
 /// The shape of the records from the first on. `comments` are the lines of comment before them, which may hold names.
 [[nodiscard]] TableShape shape_of(Records& records,
-                                  const std::vector<std::pair<std::size_t, std::string_view>>& comments = {});
+                                  const std::vector<std::pair<std::size_t, std::string_view>>& comments, Cells cells);
 
 }  // namespace intake

@@ -131,11 +131,17 @@ TEST(Intake, DecidesWhatIsBeyondDoubtAndAsksElse) {
        "P4,5701044.72,7501066.70,100.31\n",
        "asked"},
       {"Nr;X;Y;H norm\n1;5701011.42;7501015.90;100.37\n2;5701022.72;7501046.70;100.74\n", "asked"},
+      {"Nr;X;Y;Głębokość\n1;5701011.42;7501015.90;10.37\n2;5701022.72;7501046.70;12.74\n", "asked"},
+      {"Nr;X;Y;H\n1;5701011.42;7501015.90;=100.37\n2;5701022.72;7501046.70;=100.74\n", "asked"},
+      {"P1;5701011.42;7501015.90;drzewo\nP2;5701022.72;7501046.70;102\nP3;5701033.72;7501056.70;102\n", "nr,x,y,-"},
+      {"L.p.;X;Y;Ortho\n1;5701011.42;7501015.90;100.37\n2;5701022.72;7501046.70;100.74\n", "nr,x,y,z"},
       // Y before X: the order of the file.
       {"Nr,Y,X,H\nP1,5025.816,1094.729,117.849\nP2,5040.553,1063.632,115.634\n", "nr,x,y,z"},
       {"Nr,Lat,Lon,H\nP1,5701011.42,7501015.90,100.37\nP2,5701022.72,7501046.70,100.74\n", "asked"},
   };
   for (const Case& c : kCases) EXPECT_EQ(decided(c.text), c.decided) << c.text;
+  const Table two_numbers("1,6,5701011.42,7501015.90,100.37\n2,6,5701022.72,7501046.70,100.74\n");
+  EXPECT_EQ(spelled(decide(two_numbers.seen.shape()).proposals.front().roles), "nr,-,x,y,z");
   const Table thousands("P1,5'701'011.423,7'501'015.901,100.5\nP2,5'701'022.723,7'501'046.701,100.6\n");
   EXPECT_EQ(judged(thousands.seen.shape(), *roles_of("nr,x,y,z")), Verdict::clear);
 }
@@ -276,6 +282,7 @@ TEST(Intake, WritesWhatTheImporterReads) {
        "# columns: number;X;Y\nr;389301;508713\ns;390229;512013\n"},
       {"Nr X Y Z kod\n1 1.5 2.5 3.5\n2 1.5 2.5 3.5\n", "nr,x,y,z",
        "# columns: number;X;Y;Z\n1;1.5;2.5;3.5\n2;1.5;2.5;3.5\n"},
+      {"a;5.5;6.5\nb;7.5;8.5\n", "nr,y,x", "# columns: number;X;Y\na;5.5;6.5\nb;7.5;8.5\n"},
       {"P1: 481367 5782936 100\nP2: 481396 5782940 100\n", "nr,e,n,z",
        "# columns: number;E;N;Z\nP1;481367;5782936;100\nP2;481396;5782940;100\n"},
       {"No;East;North\n7;1.5;2.5\n8;2.5;3.5\n", "n=3,e=EAST,nr=No", "# columns: number;E;N\n7;1.5;2.5\n8;2.5;3.5\n"},
@@ -327,13 +334,15 @@ TEST(Intake, UnderstandsColumnNames) {
   };
   const Case kCases[] = {
       {Named::number, {"Nr", "Punkt-Nr.", "nazwa", "Nume punct", "point name", "BHID", "Punktnummer", "ID punktu"}},
-      {Named::counter, {"FID", "Lp.", "lfd. Nr.", "Nr. crt."}},
+      {Named::counter, {"FID", "Lp.", "L.p.", "lfd. Nr.", "Nr. crt."}},
       {Named::easting, {"Easting", "Rechtswert (Y)", "Est", "E [m]", "Y(E)", "utm_easting", "Y (Est)", "X east"}},
       {Named::northing, {"NORTHING", "Hochwert/X", "X (north)", "Nord", "LPCSNorthing", "X(N)", "wsp. północna"}},
       {Named::x,
        {"X", "X [m]", "X 1992", "POINT_X", "XCOLLAR", "geom_x", "Xlocation", "Współrzędna X", "x-coordinate"}},
       {Named::y, {"y", "Y_COORD", "CoordY", "Y 2000"}},
-      {Named::height, {"Z", "H (wg PIG)", "Wysokość", "Höhe ü. NHN", "cotă", "Elevation", "Z [m n.p.m.]", "Rzędna"}},
+      {Named::height,
+       {"Z", "H (wg PIG)", "Wysokość", "Höhe ü. NHN", "cotă", "Elevation", "Z [m n.p.m.]", "Rzędna", "Hn", "RL",
+        "DHHN2016"}},
       {Named::latitude, {"lat", "Breite", "szerokość geogr.", "Latitude (WGS84)"}},
       {Named::longitude, {"LAENGE", "Länge", "lon", "długość geograficzna"}},
       {Named::code, {"kod", "Code", "DESC", "feature_name", "opis punktu"}},
@@ -341,6 +350,7 @@ TEST(Intake, UnderstandsColumnNames) {
       {Named::error, {"mx[mm]", "std x", "Easting error", "RMS"}},
       {Named::date, {"Date Created", "timestamp"}},
       {Named::other_value, {"Długość [m]", "X_r", "azimuth", "wysokość celu", "nx"}},
+      {Named::maybe_height, {"Głębokość", "H norm"}},
       {Named::pair, {"xy", "Position", "Easting/Northing"}},
       {Named::unknown, {"foo", "Primary"}},
       {Named::nothing, {"", "  "}},

@@ -7,6 +7,13 @@ std::span<const Text> prepare_texts() {
   static constexpr auto kTexts = std::to_array<Text>({
       {"konsola.prep_kolumny", "ss",  // roles, what they were told from
        "Kolumny: %s (%s)\n", "Spalten: %s (%s)\n", "Coloane: %s (%s)\n", "Columns: %s (%s)\n"},
+      {"konsola.prep_kolejnosc", "ss",  // columns of the first and the second coordinate
+       "Osie nie są znane, więc zostaje kolejność pliku: X przygotowanego pliku to kolumna %s, Y to kolumna %s.\n",
+       "Die Achsen sind nicht bekannt, also bleibt die Folge der Datei: X der aufbereiteten Datei ist die Spalte %s, Y "
+       "die Spalte %s.\n",
+       "Axele nu sunt cunoscute, deci rămâne ordinea fișierului: X al fișierului pregătit este coloana %s, Y coloana "
+       "%s.\n",
+       "The axes are not known, so the file's order stays: the prepared file's X is column %s, its Y column %s.\n"},
       {"konsola.prep_arkusz", "ss",  // sheet, all sheets
        "Arkusz: %s (w skoroszycie: %s; inny podaje --sheet)\n",
        "Blatt: %s (in der Mappe: %s; ein anderes mit --sheet)\n", "Foaia: %s (în registru: %s; alta cu --sheet)\n",
