@@ -1,5 +1,6 @@
 #include "intake/cell_number.h"
 
+#include <algorithm>
 #include <cmath>
 #include <initializer_list>
 #include <iterator>
