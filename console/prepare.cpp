@@ -1,18 +1,17 @@
 #include "console/prepare.h"
 
-#include <algorithm>
 #include <ostream>
 #include <system_error>
-#include <utility>
 #include <vector>
 
+#include "console/dialogue/dialogue.h"
 #include "console/dialogue/shown_text.h"
+#include "console/drawing/database.h"
 #include "console/failure_text.h"
 #include "console/files.h"
 #include "console/prepare_columns.h"
 #include "console/prepare_log.h"
 #include "console/report/reasons.h"
-#include "intake/columns.h"
 #include "intake/foreign_table.h"
 #include "intake/seen_table.h"
 #include "vexo_xyz_impl/command/module.h"
@@ -26,7 +25,6 @@ using intake::PreparedAccount;
 using intake::Roles;
 using intake::RowNote;
 using vexo_xyz_impl::filled;
-using vexo_xyz_impl::T;
 
 constexpr int kMostNames = 10000;       // prepared files of one name in one folder
 constexpr std::size_t kLinesNamed = 5;  // of each kind of rows left out
@@ -52,25 +50,31 @@ std::string quoted(const std::string& word) {
   return in_quotes + "'";
 }
 
+PrepareResult refused(ExitCode code) {
+  PrepareResult result;
+  result.code = code;
+  return result;
+}
+
 class Preparation {
  public:
   Preparation(const PrepareOptions& options, LineSource& lines, std::ostream& out)
       : options_(options), lines_(lines), out_(out) {}
 
   PrepareResult run() {
-    if (output_is_refused()) return {kFailure, {}};
+    if (output_is_refused()) return refused(kFailure);
     const intake::FileKind kind = intake::file_kind(options_.file);
     table_ = intake::open_table(options_.file, kind, options_.sheet);
     if (!table_) {
       const std::string_view code = kind_code(kind);
-      say("konsola.powod", {T("konsola.powod_" + std::string(code.empty() ? "unreadable" : code))});
-      return {kind == intake::FileKind::unreadable || code.empty() ? kFailure : kNothingImported, {}};
+      say("konsola.powod", {reason_named(code.empty() ? "unreadable" : code).text});
+      return refused(kind == intake::FileKind::unreadable || code.empty() ? kFailure : kNothingImported);
     }
-    if (!sheet_is_there()) return {options_.sheet ? kUsage : kNothingImported, {}};
+    if (!sheet_is_there()) return refused(options_.sheet ? kUsage : kNothingImported);
     const auto by_position = options_.columns ? intake::roles_of(*options_.columns) : std::nullopt;
     const intake::SeenTable seen(*table_, by_position ? &*by_position : nullptr);
     const ChosenColumns columns = choose_columns(seen, options_.columns, lines_, out_);
-    if (!columns.roles) return {columns.code, {}};
+    if (!columns.roles) return refused(columns.code);
     return written(seen, *columns.roles);
   }
 
@@ -120,22 +124,22 @@ class Preparation {
       if (account.points == 0) {
         tell(account);
         say("konsola.prep_bez_punktow");
-        return {kNothingImported, {}};
+        return refused(kNothingImported);
       }
       file.flush();
       if (!file.commit(output, options_.force)) {
         say("konsola.plik_istnieje", {output.string()});
-        return {kFailure, {}};
+        return refused(kFailure);
       }
       say("konsola.prep_zapisano", output.string(), account.points);
       tell(account);
       writing = log_of(output);
       write_log(output, account);
       say("konsola.prep_powtorz", {repeating(roles, output)});
-      return {kImported, output};
+      return {kImported, output, intake::has_role(roles, intake::Role::easting), account};
     } catch (const std::system_error& failure) {
       say("konsola.prep_blad_zapisu", {writing.string(), failure_text(failure)});
-      return {kFailure, {}};
+      return refused(kFailure);
     }
   }
 
@@ -195,7 +199,7 @@ PrepareResult prepare(const PrepareOptions& options, LineSource& lines, std::ost
   } catch (const vexo_xyz_impl::Failure& failure) {
     const std::string text = filled("konsola.prep_blad_odczytu", {failure.kind(), std::string_view(failure.what())});
     out << shown_text(text) << std::flush;
-    return {kFailure, {}};
+    return refused(kFailure);
   }
 }
 

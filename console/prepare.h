@@ -8,7 +8,8 @@
 #include <string>
 
 #include "console/dialogue/line_source.h"
-#include "console/session.h"
+#include "console/exit_code.h"
+#include "console/sibling_registry.h"
 #include "intake/prepared_file.h"
 
 namespace console {
@@ -23,8 +24,10 @@ struct PrepareOptions {
 };
 
 struct PrepareResult {
-  ExitCode code = kFailure;      ///< kImported when a file was written
-  std::filesystem::path output;  ///< that file
+  ExitCode code = kFailure;         ///< kImported when a file was written
+  std::filesystem::path output;     ///< that file
+  bool east_first = false;          ///< its coordinates are E and N; else X and Y in the order of the table
+  intake::PreparedAccount account;  ///< what became of the table's rows
 };
 
 /// Reads, asks on `lines` where it must, writes the file and beside it its log (its name with ".log"). The user has

@@ -13,9 +13,9 @@ constexpr const char* kFooter =
     "\n"
     "Exit codes:\n"
     "  0  the file was written, and beside it OUT.csv.log, which tells which line became which row\n"
-    "  1  nothing was written: cancelled, degrees, or no points\n"
-    "  2  the command line was not understood, or --columns does not fit the file\n"
-    "  3  failure: a file that cannot be read or written";
+    "  1  nothing was written: cancelled, degrees, no points, or a file that is no table\n"
+    "  2  the command line was not understood, or --columns or --sheet does not fit the file\n"
+    "  3  failure: a file that cannot be read or written, or that exists already";
 
 }  // namespace
 

@@ -1,8 +1,6 @@
 // The command line of `vexo-xyz prepare`.
 #pragma once
 
-#include <string>
-
 #include <CLI/CLI.hpp>
 
 #include "console/prepare.h"

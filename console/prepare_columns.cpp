@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "console/dialogue/shown_text.h"
+#include "console/report/reasons.h"
 #include "intake/columns.h"
 #include "intake/header_words.h"
 #include "vexo_xyz_impl/messages.h"
@@ -63,7 +64,7 @@ class Choosing {
         say("konsola.prep_stopnie");
         break;
       case Verdict::sexagesimal:
-        say("konsola.powod", {T("konsola.powod_dms")});
+        say("konsola.powod", {reason_named("dms").text});
         break;
       case Verdict::no_coordinates:
         say("konsola.prep_bez_wspolrzednych");
@@ -110,12 +111,12 @@ class Choosing {
     if (verdict == Verdict::clear) return false;
     if (verdict == Verdict::maybe_degrees) {
       // No grid's eastings and northings are that small; metres of a local system may be.
-      const bool are_of_a_grid = std::find(roles.begin(), roles.end(), Role::easting) != roles.end();
+      const bool are_of_a_grid = intake::has_role(roles, Role::easting);
       are_of_a_grid ? say("konsola.prep_stopnie_zamiast_siatki") : warn_of_degrees();
       return are_of_a_grid;
     }
     if (verdict == Verdict::sexagesimal) {
-      say("konsola.powod", {T("konsola.powod_dms")});
+      say("konsola.powod", {reason_named("dms").text});
     } else {
       say("konsola.prep_stopnie");
     }

@@ -7,7 +7,7 @@
 #include <string>
 
 #include "console/dialogue/line_source.h"
-#include "console/session.h"
+#include "console/exit_code.h"
 #include "intake/seen_table.h"
 
 namespace console {

@@ -8,11 +8,11 @@
 #include "console/failure_text.h"
 #include "console/files.h"
 #include "console/prepare.h"
+#include "console/prepare_log.h"
 #include "console/report/reasons.h"
 #include "console/report/report_file.h"
 #include "vexo_xyz_impl/command/module.h"
 #include "vexo_xyz_impl/command/questions.h"
-#include "vexo_xyz_impl/input/declared_columns.h"
 #include "vexo_xyz_impl/messages.h"
 #include "vexo_xyz_impl/notices.h"
 
@@ -25,6 +25,13 @@ constexpr int kMostNames = 10000;  // drawings of one name in one folder
 
 // The code page that converters expect of a drawing in the market's language.
 std::string_view code_page_of(std::string_view market) { return market == "DE" ? "ANSI_1252" : "ANSI_1250"; }
+
+std::vector<Findings::RowNotTakenOver> rows_not_taken_over(const intake::PreparedAccount& account) {
+  std::vector<Findings::RowNotTakenOver> rows;
+  for (const intake::NotedRow& row : account.noted)
+    if (is_left_out(row.note)) rows.push_back({row.line, note_text(row.note), row.text});
+  return rows;
+}
 
 }  // namespace
 
@@ -88,13 +95,19 @@ bool Session::report_is_refused() {
   std::error_code ignored;
   const bool is_drawing = options_.output && options_.report->lexically_normal() == options_.output->lexically_normal();
   const auto status = std::filesystem::status(*options_.report, ignored);
+  std::string_view reason;
   if (is_file_of_points(*options_.report)) {
-    say("konsola.plik_zrodlowy", {options_.report->string()});
-  } else if (is_drawing || (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status))) {
-    say("konsola.raport_blad", {options_.report->string(), vexo_xyz_impl::T("konsola.powod_nie_plik")});
+    reason = "konsola.powod_plik_punktow";
+  } else if (is_drawing) {
+    reason = "konsola.powod_rysunek";
+  } else if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status)) {
+    reason = "konsola.powod_nie_plik";
+  } else if (std::filesystem::exists(status) && !is_report(*options_.report)) {
+    reason = "konsola.powod_nie_raport";
   } else {
     return false;
   }
+  say("konsola.raport_blad", {options_.report->string(), vexo_xyz_impl::T(reason)});
   return true;
 }
 
@@ -126,9 +139,9 @@ bool Session::prepares_instead() {
   if (prepared.code != kImported) return false;
   prepared_from_ = file;
   // What was told of the axes is the file's order, which the prepared one no longer has where it knows E and N.
-  const auto declared = vexo_xyz_impl::declared_columns(prepared.output.string());
-  if (declared && declared->east_north) options_.axes.reset();
+  if (prepared.east_first) options_.axes.reset();
   dialogue_.choose_file(prepared.output.string());
+  watcher_.made_of(file.string(), rows_not_taken_over(prepared.account));
   return true;
 }
 

@@ -10,6 +10,7 @@
 
 #include "console/dialogue/dialogue.h"
 #include "console/drawing/database.h"
+#include "console/exit_code.h"
 #include "console/report/import_watcher.h"
 #include "console/sibling_registry.h"
 #include "vexo_xyz_impl/bindings.h"
@@ -28,9 +29,6 @@ struct SessionOptions {
   bool prepare = false;      ///< a file that the importer does not read is made into one that it reads
   bool interactive = false;  ///< somebody is there to be offered that
 };
-
-/// Exit codes of the program.
-enum ExitCode { kImported = 0, kNothingImported = 1, kUsage = 2, kFailure = 3 };
 
 class Session final : private vexo_xyz_impl::host::CommandTable, private vexo_xyz_impl::host::Foreknowledge {
  public:

@@ -1,7 +1,6 @@
 #include "intake/columns.h"
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 #include "intake/column_content.h"

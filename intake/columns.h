@@ -4,7 +4,6 @@
 
 #include <cstddef>
 #include <optional>
-#include <string>
 #include <string_view>
 #include <vector>
 
@@ -62,8 +61,5 @@ struct Decision {
 /// Of a list of roles by names the first name that several columns have, letter case aside where none has it exactly;
 /// empty when there is none.
 [[nodiscard]] std::string_view ambiguous_name(const TableShape& shape, std::string_view spelled);
-
-/// The same roles as `--columns` gives them by position.
-[[nodiscard]] std::string spelled(const Roles& roles);
 
 }  // namespace intake

@@ -2,31 +2,29 @@
 
 #include <algorithm>
 #include <map>
-#include <optional>
 
 #include "intake/cell_number.h"
 #include "intake/text_records.h"
+#include "vexo_xyz_impl/text/lines.h"
+#include "vexo_xyz_impl/text/utf8.h"
 
 namespace intake {
 namespace {
+
+namespace text = vexo_xyz_impl::text;
 
 constexpr std::size_t kBeginning = 400;  // lines of the sample, from the file's beginning
 constexpr std::size_t kStretch = 100;    // and from each of its later quarters
 constexpr std::size_t kLeastShare = 10;  // one line in so many at least is to have the widest row of fixed places
 
-bool is_comment(std::string_view line) {
-  const std::size_t at = line.find_first_not_of(" \t");
-  return at != std::string_view::npos && (line.substr(at).starts_with('#') || line.substr(at).starts_with("//"));
-}
+bool is_comment(std::string_view line) { return text::begins_comment(text::trim(line)); }
 
 void take_lines(std::vector<std::string_view>& lines, std::string_view utf8, std::size_t most) {
   while (!utf8.empty() && most > 0) {
-    const std::size_t end = std::min(utf8.find_first_of("\r\n"), utf8.size());
-    if (utf8.substr(0, end).find_first_not_of(" \t") != std::string_view::npos) {
-      lines.push_back(utf8.substr(0, end));
-      --most;
-    }
-    utf8.remove_prefix(std::min(end + 1, utf8.size()));
+    const std::string_view line = text::take_line(utf8);
+    if (text::trim(line).empty()) continue;
+    lines.push_back(line);
+    --most;
   }
 }
 
@@ -210,7 +208,6 @@ Dialect dialect_of(std::string_view utf8) {
   // Where a sign stands before nearly all lines it numbers points: "#1".
   dialect.has_comments = 2 * lines.size() >= all.size();
   if (!dialect.has_comments) lines = all;
-  dialect.sample = lines.size();
   std::transform(kSeparators.begin(), kSeparators.end(), dialect.evidence.begin(),
                  [&](char separator) { return evidence_for(separator, lines); });
   const SeparatorEvidence& best = decision(dialect);

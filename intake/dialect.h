@@ -29,7 +29,6 @@ struct Dialect {
   bool decimal_comma = false;
   bool mixed = false;        ///< some lines have the separator, others numbers between blanks or tabs alone
   bool has_comments = true;  ///< lines that "#" or "//" begins are none of the table's
-  std::size_t sample = 0;    ///< lines that were looked at
   std::array<SeparatorEvidence, kSeparators.size()> evidence;  ///< in the order of kSeparators
   /// Of blanks, where the columns stand, from and to in characters, when rows lack values and the columns tell which;
   /// else empty.

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "vexo_xyz_impl/input/code_pages.h"
+#include "vexo_xyz_impl/text/lines.h"
 #include "vexo_xyz_impl/text/utf8.h"
 
 namespace intake {
@@ -14,7 +15,6 @@ namespace {
 
 namespace text = vexo_xyz_impl::text;
 
-constexpr std::string_view kMarkUtf8 = "\xEF\xBB\xBF";
 constexpr std::string_view kMarkLittle = "\xFF\xFE";
 constexpr std::string_view kMarkBig = "\xFE\xFF";
 
@@ -99,7 +99,7 @@ std::string_view encoding_name(Encoding encoding) {
 }
 
 Encoding encoding_of(std::string_view bytes) {
-  if (bytes.starts_with(kMarkUtf8)) return Encoding::utf8_marked;
+  if (bytes.starts_with(text::kByteOrderMark)) return Encoding::utf8_marked;
   if (bytes.starts_with(kMarkLittle)) return Encoding::utf16_le;
   if (bytes.starts_with(kMarkBig)) return Encoding::utf16_be;
   const std::string_view sample = bytes.substr(0, std::min(kSample, bytes.size() & ~std::size_t{1}));
@@ -117,7 +117,7 @@ DecodedText decoded(std::vector<char> bytes) {
     case Encoding::utf8:
       return {std::move(bytes), encoding};
     case Encoding::utf8_marked:
-      bytes.erase(bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(kMarkUtf8.size()));
+      bytes.erase(bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(text::kByteOrderMark.size()));
       if (text::is_valid({bytes.data(), bytes.size()})) return {std::move(bytes), encoding};
       return {text::with_replacements({bytes.data(), bytes.size()},
                                       text::size_with_replacements({bytes.data(), bytes.size()})),

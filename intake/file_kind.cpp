@@ -13,6 +13,7 @@
 #include "intake/raster.h"
 #include "vexo_xyz_impl/input/file_bytes.h"
 #include "vexo_xyz_impl/input/package.h"
+#include "vexo_xyz_impl/text/lines.h"
 #include "vexo_xyz_impl/text/paths.h"
 #include "vexo_xyz_impl/text/utf8.h"
 
@@ -21,6 +22,7 @@ namespace {
 
 using namespace std::string_view_literals;
 using vexo_xyz_impl::Package;
+namespace text = vexo_xyz_impl::text;
 
 constexpr std::size_t kHead = std::size_t{1} << 16U;  // a line of some thousand values
 
@@ -59,18 +61,11 @@ bool is_bitmap(std::string_view head) {  // "BM1" may well be a point's number: 
 
 bool is_webp(std::string_view head) { return head.starts_with("RIFF") && head.substr(8, 4) == "WEBP"; }
 
-std::string_view take_line(std::string_view& text) {
-  const std::size_t end = std::min(text.size(), text.find('\n'));
-  const std::string_view line = text.substr(0, end);
-  text.remove_prefix(std::min(text.size(), end + 1));
-  return vexo_xyz_impl::text::trim(line);
-}
-
 // Tags of a drawing: a code and a value, a line each; comments have the code 999.
-bool is_dxf(std::string_view text) {
-  while (!text.empty()) {
-    const std::string_view code = take_line(text);
-    const std::string_view value = take_line(text);
+bool is_dxf(std::string_view tags) {
+  while (!tags.empty()) {
+    const std::string_view code = text::trim(text::take_line(tags));
+    const std::string_view value = text::trim(text::take_line(tags));
     if (code == "0" && value == "SECTION") return true;
     if (code != "999") return false;
   }
@@ -95,7 +90,7 @@ bool is_binary(std::string_view head) {
   return static_cast<std::size_t>(control) > head.size() / 20;
 }
 
-bool is_blank(std::string_view head) { return vexo_xyz_impl::text::trim(head).empty(); }
+bool is_blank(std::string_view head) { return text::trim(head).empty(); }
 
 std::string text_of(Package& package, std::string_view member) {
   if (!package.has(member)) return {};
@@ -122,14 +117,13 @@ FileKind kind_of_package(const std::string& path) {
 }
 
 FileKind kind_of_compound_file(const std::string& path) {
-  std::ifstream file(vexo_xyz_impl::text::path_of(path), std::ios::binary);
+  std::ifstream file(text::path_of(path), std::ios::binary);
   return has_entry(file, {"EncryptedPackage", "EncryptionInfo"}) ? FileKind::encrypted : FileKind::old_xls;
 }
 
 FileKind kind_of_text(std::string_view head) {
-  constexpr std::string_view kMark = "\xEF\xBB\xBF";
   if (is_utf16(head)) return FileKind::utf16;
-  if (head.starts_with(kMark)) head.remove_prefix(kMark.size());
+  text::take_byte_order_mark(head);
   if (is_blank(head)) return FileKind::empty;
   if (is_raster(head)) return FileKind::raster;
   if (is_binary(head)) return FileKind::unreadable;

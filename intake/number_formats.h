@@ -4,7 +4,6 @@
 // order, so that no reader takes it for a number; numbers of all other formats stay as they are stored.
 #pragma once
 
-#include <cstddef>
 #include <optional>
 #include <span>
 #include <string>

@@ -9,7 +9,9 @@
 #include <utility>
 
 #include "intake/cell_number.h"
+#include "vexo_xyz_impl/input/declared_columns.h"
 #include "vexo_xyz_impl/table/numbers.h"
+#include "vexo_xyz_impl/text/lines.h"
 #include "vexo_xyz_impl/text/utf8.h"
 
 namespace intake {
@@ -34,10 +36,8 @@ std::size_t place_of(const Roles& roles, Role role) {
   return found == roles.end() ? kNowhere : static_cast<std::size_t>(found - roles.begin());
 }
 
-bool has(const Roles& roles, Role role) { return place_of(roles, role) != kNowhere; }
-
 Places places_of(const Roles& roles) {
-  const bool known = has(roles, Role::easting);
+  const bool known = has_role(roles, Role::easting);
   Places places{place_of(roles, Role::number),
                 {place_of(roles, known ? Role::easting : Role::x), place_of(roles, known ? Role::northing : Role::y)},
                 place_of(roles, Role::height),
@@ -63,14 +63,13 @@ std::string shown(const Record& record) {
 
 // What the importer's reader would take for a separator, a line's end or a comment's sign.
 bool needs_change(std::string_view number) {
-  const bool is_comment = number.starts_with('#') || number.starts_with("//");
-  return is_comment || number.ends_with(':') || std::any_of(number.begin(), number.end(), [](char c) {
+  return text::begins_comment(number) || number.ends_with(':') || std::any_of(number.begin(), number.end(), [](char c) {
            return c == ';' || (static_cast<unsigned char>(c) < 0x20);
          });
 }
 
 std::string changed(std::string_view number) {
-  while (number.starts_with('#') || number.starts_with("//")) {
+  while (text::begins_comment(number)) {
     number.remove_prefix(number.starts_with('#') ? 1 : 2);
     number = text::trim(number);
   }
@@ -88,7 +87,9 @@ class Writer {
   Writer(const PreparedForm& form, const std::function<void(std::string_view)>& write)
       : form_(form), places_(places_of(form.roles)), write_(write) {
     piece_.reserve(kPiece + kPiece / 4);
-    piece_ = columns_line(form.roles);
+    piece_ =
+        vexo_xyz_impl::line_of_columns({true, has_role(form.roles, Role::easting), has_role(form.roles, Role::height)});
+    piece_ += '\n';
   }
 
   void add(const Record& record) {
@@ -240,18 +241,11 @@ class Writer {
 }  // namespace
 
 bool name_coordinates(const Roles& roles) {
-  const bool axes = has(roles, Role::easting) && has(roles, Role::northing);
-  const bool order = has(roles, Role::x) && has(roles, Role::y);
-  const bool any_axis = has(roles, Role::easting) || has(roles, Role::northing);
-  const bool any_order = has(roles, Role::x) || has(roles, Role::y);
+  const bool axes = has_role(roles, Role::easting) && has_role(roles, Role::northing);
+  const bool order = has_role(roles, Role::x) && has_role(roles, Role::y);
+  const bool any_axis = has_role(roles, Role::easting) || has_role(roles, Role::northing);
+  const bool any_order = has_role(roles, Role::x) || has_role(roles, Role::y);
   return (axes && !any_order) || (order && !any_axis);
-}
-
-std::string columns_line(const Roles& roles) {
-  std::string line = "# columns: number;";
-  line += has(roles, Role::easting) ? "E;N" : "X;Y";
-  if (has(roles, Role::height)) line += ";Z";
-  return line + '\n';
 }
 
 PreparedAccount write_prepared(Records& records, const PreparedForm& form,

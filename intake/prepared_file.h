@@ -74,9 +74,6 @@ struct PreparedAccount {
 /// Whether roles name two coordinates, both with their axes or both without.
 [[nodiscard]] bool name_coordinates(const Roles& roles);
 
-/// The first line of the file, with its end: "# columns: number;E;N;Z".
-[[nodiscard]] std::string columns_line(const Roles& roles);
-
 /// Writes the file of all records, from the first. `write` is given large pieces; its failures travel on.
 [[nodiscard]] PreparedAccount write_prepared(Records& records, const PreparedForm& form,
                                              const std::function<void(std::string_view)>& write);

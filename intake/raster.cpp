@@ -7,6 +7,7 @@
 
 #include "vexo_xyz_impl/table/numbers.h"
 #include "vexo_xyz_impl/text/ascii.h"
+#include "vexo_xyz_impl/text/lines.h"
 
 namespace intake {
 namespace {
@@ -33,16 +34,11 @@ constexpr auto kGridWords = std::to_array<std::string_view>({
 constexpr std::size_t kEnoughWords = 4;
 constexpr auto kSignatures = std::to_array<std::string_view>({"DSAA", "DSBB", "DSRB"});
 
+using vexo_xyz_impl::text::take_line;
+
 constexpr std::string_view kBetween = " \t,;\r";
 constexpr std::size_t kFewestColumns = 100;  // more than any list of points has numbers in a row
 constexpr int kLinesLookedAt = 12;
-
-std::string_view take_line(std::string_view& text) {
-  const std::size_t end = text.find_first_of("\r\n");
-  const std::string_view line = text.substr(0, end);
-  text.remove_prefix(std::min(text.size(), end == std::string_view::npos ? end : end + 1));
-  return line;
-}
 
 std::string_view take_word(std::string_view& line) {
   line.remove_prefix(std::min(line.size(), line.find_first_not_of(kBetween)));

@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <array>
 #include <charconv>
 #include <string>
 
@@ -48,7 +47,7 @@ std::optional<Roles> roles_by_name(const TableShape& shape, std::string_view spe
     if (sign == std::string_view::npos) return std::nullopt;
     const auto role = roles_of(item.substr(0, sign));
     const auto column = column_of(shape, text::trim(item.substr(sign + 1)));
-    const bool taken = role && std::find(roles.begin(), roles.end(), role->front()) != roles.end();
+    const bool taken = role && has_role(roles, role->front());
     if (!role || !column || role->front() == Role::other || taken || roles[*column] != Role::other) return std::nullopt;
     roles[*column] = role->front();
     more = end != std::string_view::npos;
@@ -76,13 +75,6 @@ std::string_view ambiguous_name(const TableShape& shape, std::string_view spelle
     spelled.remove_prefix(std::min(end + 1, spelled.size()));
   }
   return {};
-}
-
-std::string spelled(const Roles& roles) {
-  static constexpr std::array<std::string_view, 7> kSpelled = {"nr", "e", "n", "x", "y", "z", "-"};
-  std::string all;
-  for (const Role role : roles) all += (all.empty() ? "" : ",") + std::string(kSpelled[static_cast<std::size_t>(role)]);
-  return all;
 }
 
 }  // namespace intake

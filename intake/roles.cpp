@@ -1,6 +1,5 @@
 #include "intake/roles.h"
 
-#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -33,12 +32,23 @@ std::optional<Roles> roles_of(std::string_view spelled) {
     const std::size_t end = spelled.find(',');
     const auto role = role_of(vexo_xyz_impl::text::trim(spelled.substr(0, end)));
     if (!role) return std::nullopt;
-    if (*role != Role::other && std::find(roles.begin(), roles.end(), *role) != roles.end()) return std::nullopt;
+    if (*role != Role::other && has_role(roles, *role)) return std::nullopt;
     roles.push_back(*role);
     more = end != std::string_view::npos;
     if (more) spelled.remove_prefix(end + 1);
   }
   return roles;
+}
+
+std::string spelled(const Roles& roles) {
+  std::string all;
+  for (const Role role : roles) {
+    const auto* const known =
+        std::find_if(kSpelled.begin(), kSpelled.end(), [role](const auto& one) { return one.second == role; });
+    if (!all.empty()) all += ',';
+    all += known->first;
+  }
+  return all;
 }
 
 }  // namespace intake

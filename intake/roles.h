@@ -1,7 +1,9 @@
 // What a column of a foreign table holds.
 #pragma once
 
+#include <algorithm>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -21,7 +23,15 @@ enum class Role {
 /// A role for each column, in the file's order.
 using Roles = std::vector<Role>;
 
+/// Whether some column has the role.
+[[nodiscard]] inline bool has_role(const Roles& roles, Role role) {
+  return std::find(roles.begin(), roles.end(), role) != roles.end();
+}
+
 /// Roles as `--columns` spells them, separated by commas; empty when one is none or a role but `-` stands twice.
 [[nodiscard]] std::optional<Roles> roles_of(std::string_view spelled);
+
+/// The same the other way round.
+[[nodiscard]] std::string spelled(const Roles& roles);
 
 }  // namespace intake

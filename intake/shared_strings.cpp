@@ -22,9 +22,8 @@ class StringTable final : public XmlHandler {
     return (parent == kItem || parent == kRun) && element.name == "t" ? kText : kIgnored;
   }
 
-  void characters(int state, std::string_view characters, bool entity) override {
+  void characters(int state, std::string_view characters) override {
     if (state != kText) return;
-    entity_ |= entity;
     text.append(characters);
   }
 
@@ -40,18 +39,14 @@ class StringTable final : public XmlHandler {
       text += plain;
     }
     ends.push_back(text.size());
-    entities.push_back(std::exchange(entity_, false));
     return false;
   }
 
   std::string text;
   std::vector<std::size_t> ends;
-  std::vector<bool> entities;
 
  private:
   enum { kTable = 1, kItem, kRun, kText };
-
-  bool entity_ = false;
 };
 
 }  // namespace
@@ -80,16 +75,15 @@ SharedStrings::SharedStrings(const std::string& member, std::span<const char> xm
   parse_xml(member, xml, table);
   text_ = std::move(table.text);
   ends_ = std::move(table.ends);
-  entities_ = std::move(table.entities);
 }
 
-std::optional<SharedStrings::Item> SharedStrings::find(std::string_view index) const {
+std::optional<std::string_view> SharedStrings::find(std::string_view index) const {
   std::size_t at = 0;
   const std::string_view digits = vexo_xyz_impl::text::trim(index);
   const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), at);
   if (error != std::errc() || end != digits.data() + digits.size() || at >= ends_.size()) return std::nullopt;
   const std::size_t begin = at == 0 ? 0 : ends_[at - 1];
-  return Item{std::string_view(text_).substr(begin, ends_[at] - begin), entities_[at]};
+  return std::string_view(text_).substr(begin, ends_[at] - begin);
 }
 
 }  // namespace intake

@@ -16,23 +16,17 @@ namespace intake {
 
 class SharedStrings {
  public:
-  struct Item {
-    std::string_view text;
-    bool written_with_entities = false;
-  };
-
   SharedStrings() = default;
 
   /// Fails as `parse_xml` does, and with MemoryError when there are too many.
   SharedStrings(const std::string& member, std::span<const char> xml);
 
   /// The text that an index from 0 on names; empty when it names none.
-  [[nodiscard]] std::optional<Item> find(std::string_view index) const;
+  [[nodiscard]] std::optional<std::string_view> find(std::string_view index) const;
 
  private:
   std::string text_;  // of all items
   std::vector<std::size_t> ends_;
-  std::vector<bool> entities_;
 };
 
 }  // namespace intake

@@ -122,14 +122,13 @@ std::string joined(const Kept& row) {
   return all;
 }
 
-// A title, the number of columns, their names a line each, then the data.
+// A title, the number of columns, their names a line each, then the data: geostatistical programs write so.
 bool take_names_by_line(TableShape& shape, const Sample& head) {
   for (std::size_t i = 0; i + 1 < head.size() && i < 3; ++i) {
     const std::string& count = head[i].cells.front();
     const auto columns = vexo_xyz_impl::parse_number(count);
     if (!columns || number_form(count) != NumberForm::whole || *columns < 2) continue;
     if (static_cast<double>(head.size() - i - 1) != *columns) continue;
-    shape.names_by_line = true;
     for (std::size_t k = i + 1; k < head.size(); ++k) shape.names.push_back(joined(head[k]));
     shape.header_line = head.back().line;
     return true;

@@ -51,7 +51,6 @@ struct TableShape {
   std::size_t width = 0;            ///< columns: the commonest number of cells
   std::size_t header_line = 0;      ///< physical; 0 without a header
   std::size_t first_data_line = 0;  ///< 0 without data
-  bool names_by_line = false;       ///< a title, a count and one line a name, as geostatistical programs write
   std::vector<std::string> names;   ///< by column, empty ones where there is none
   /// Names that are more or fewer than the columns, so that nobody knows which is whose; else empty.
   std::vector<std::string> loose_names;

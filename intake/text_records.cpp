@@ -2,19 +2,19 @@
 
 #include <algorithm>
 
+#include "vexo_xyz_impl/text/lines.h"
 #include "vexo_xyz_impl/text/utf8.h"
 
 namespace intake {
 namespace {
 
 namespace text = vexo_xyz_impl::text;
+using text::begins_comment;
+using text::is_line_end;
 
 constexpr std::size_t kMostQuoted = 4096;  // bytes of a quoted cell with line breaks; more is a quote left open
 
 bool is_blank(char c) { return c == ' ' || c == '\t' || c == '\v' || c == '\f'; }
-bool is_line_end(char c) { return c == '\n' || c == '\r'; }
-
-bool begins_comment(std::string_view rest) { return rest.starts_with('#') || rest.starts_with("//"); }
 
 }  // namespace
 
@@ -186,14 +186,12 @@ void TextRecords::put_in_places(Record& record, std::string_view line) {
 std::vector<std::pair<std::size_t, std::string_view>> TextRecords::leading_comments() const {
   std::vector<std::pair<std::size_t, std::string_view>> comments;
   if (!dialect_.has_comments) return comments;
-  std::size_t line = 1;
-  for (std::size_t at = 0; at < text_.size(); ++line) {
-    const std::size_t end = std::min(text_.find_first_of("\r\n", at), text_.size());
-    std::string_view content = text::trim(text_.substr(at, end - at));
+  std::string_view rest = text_;
+  for (std::size_t line = 1; !rest.empty(); ++line) {
+    std::string_view content = text::trim(text::take_line(rest));
     if (!content.empty() && !begins_comment(content)) break;
     content.remove_prefix(std::min(content.find_first_not_of("#/ \t"), content.size()));
     if (!content.empty()) comments.emplace_back(line, content);
-    at = end + (text_.substr(end, 2) == "\r\n" ? 2 : 1);
   }
   return comments;
 }

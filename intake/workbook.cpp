@@ -138,8 +138,8 @@ std::unique_ptr<Records> Workbook::records(const Sheet& sheet) {
   return std::make_unique<SheetRecords>(state_->source_of(sheet));
 }
 
-bool Workbook::may_be_flawed(std::string_view sheet, std::string_view strings) {
-  return intake::may_be_flawed(sheet, strings, state_->formats()->formats);
+bool Workbook::may_be_flawed(std::string_view sheet) {
+  return intake::may_be_flawed(sheet, state_->formats()->formats);
 }
 
 Flaws Workbook::inspect(const Sheet& sheet) {
@@ -152,10 +152,8 @@ Flaws Workbook::inspect(const Sheet& sheet) {
       filled |= !cell.text.empty();
       note(flaws.formulas_without_value, cell.formula_without_value, row->number);
       note(flaws.dates, cell.date && cell.column < kColumnsOfPoints, row->number);
-      note(flaws.entities, cell.entity, row->number);
       note(flaws.cells_without_reference, cell.without_reference && !cell.text.empty(), row->number);
     }
-    flaws.rows += filled ? 1U : 0U;
     note(flaws.hidden_rows, row->hidden && filled, row->number);
     note(flaws.prefixed, row->prefixed && filled, row->number);
   }

@@ -24,11 +24,9 @@ struct Flaws {
 
   Rows formulas_without_value;
   Rows dates;                    ///< in one of the first four columns, where numbers are due
-  Rows entities;                 ///< texts written with entities, which are left as written
   Rows hidden_rows;              ///< with values; by a filter or by hand
   Rows cells_without_reference;  ///< which are not seen
   Rows prefixed;                 ///< rows that are not seen, since their element has a prefix
-  std::size_t rows = 0;          ///< that have a value
 };
 
 class Workbook {
@@ -59,8 +57,8 @@ class Workbook {
   [[nodiscard]] std::unique_ptr<Records> records(const Sheet& sheet);
 
   /// Whether `inspect` is worth its time, which is that of an import: a glance at the bytes that the importer's reader
-  /// has unpacked, `strings` those of the shared ones. False for a sheet that is sound.
-  [[nodiscard]] bool may_be_flawed(std::string_view sheet, std::string_view strings);
+  /// has unpacked. False for a sheet that is sound.
+  [[nodiscard]] bool may_be_flawed(std::string_view sheet);
 
   /// Fails as `records`.
   [[nodiscard]] Flaws inspect(const Sheet& sheet);

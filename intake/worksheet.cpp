@@ -114,11 +114,10 @@ void Worksheet::begin_cell(const XmlAttributes& attributes) {
   has_formula_ = has_value_ = false;
 }
 
-void Worksheet::characters(int state, std::string_view text, bool entity) {
+void Worksheet::characters(int state, std::string_view text) {
   if (state != kValue && state != kText) return;
   text_.append(text);
   has_value_ = true;
-  row_.cells.back().entity |= entity;
 }
 
 bool Worksheet::end(int state) {
@@ -134,9 +133,7 @@ void Worksheet::end_cell() {
   if (!has_value_) return;
   switch (type_) {
     case Type::shared: {
-      const auto item = context_.strings.find(stored);
-      if (item) cell.text = item->text;
-      cell.entity = item && item->written_with_entities;
+      cell.text = context_.strings.find(stored).value_or(std::string_view());
       show({});
       break;
     }

@@ -18,7 +18,6 @@ struct WorksheetCell {
   std::string_view text;   ///< numbers digit for digit as stored, dates as texts; valid until the next row
   bool date = false;       ///< a number in a date's format
   bool formula_without_value = false;
-  bool entity = false;  ///< its text is written with entities
   bool without_reference = false;
 };
 
@@ -51,7 +50,7 @@ class Worksheet final : private XmlHandler {
   enum class Type { number, shared, text, boolean, date, error };
 
   int start(int parent, const XmlElement& element) override;
-  void characters(int state, std::string_view text, bool entity) override;
+  void characters(int state, std::string_view text) override;
   bool end(int state) override;
 
   void begin_row(const XmlElement& element);

@@ -10,8 +10,7 @@
 
 namespace intake {
 
-/// Whether `Workbook::inspect` might find a flaw in the sheet; `strings` are the shared ones, empty when there are
-/// none.
-[[nodiscard]] bool may_be_flawed(std::string_view sheet, std::string_view strings, const NumberFormats& formats);
+/// Whether `Workbook::inspect` might find a flaw in the sheet.
+[[nodiscard]] bool may_be_flawed(std::string_view sheet, const NumberFormats& formats);
 
 }  // namespace intake

@@ -41,11 +41,7 @@ std::string_view XmlAttributes::operator[](std::string_view name) const {
 void XmlParser::Free::operator()(XML_ParserStruct* parser) const { XML_ParserFree(parser); }
 
 XmlParser::XmlParser(std::string member, std::span<const char> bytes, XmlHandler& handler)
-    : member_(std::move(member)),
-      bytes_(bytes),
-      handler_(handler),
-      parser_(XML_ParserCreate(nullptr)),
-      has_entities_(std::find(bytes.begin(), bytes.end(), '&') != bytes.end()) {
+    : member_(std::move(member)), bytes_(bytes), handler_(handler), parser_(XML_ParserCreate(nullptr)) {
   if (!parser_) throw std::bad_alloc();
   XML_SetUserData(parser_.get(), this);
   XML_SetElementHandler(parser_.get(), on_start, on_end);
@@ -70,12 +66,6 @@ bool XmlParser::run() {
     if (status == XML_STATUS_SUSPENDED) return paused_ = true;
   }
   return false;
-}
-
-bool XmlParser::at_entity() const {
-  if (!has_entities_) return false;
-  const XML_Index at = XML_GetCurrentByteIndex(parser_.get());
-  return at >= 0 && static_cast<std::size_t>(at) < bytes_.size() && bytes_[static_cast<std::size_t>(at)] == '&';
 }
 
 // The parser is C: nothing may be thrown through it.
@@ -131,9 +121,7 @@ void XmlParser::on_end(void* self, const char* /*name*/) {
 void XmlParser::on_characters(void* self, const char* text, int size) {
   auto& parser = *static_cast<XmlParser*>(self);
   if (parser.ignored_ != 0) return;
-  parser.guarded([&] {
-    parser.handler_.characters(parser.states_.back(), {text, static_cast<std::size_t>(size)}, parser.at_entity());
-  });
+  parser.guarded([&] { parser.handler_.characters(parser.states_.back(), {text, static_cast<std::size_t>(size)}); });
 }
 
 void XmlParser::on_entity(void* self, const char*, int, const char*, int, const char*, const char*, const char*,

@@ -55,8 +55,8 @@ class XmlHandler {
   /// The state of an element that stands in one of state `parent`; `kIgnored` for it and all in it.
   virtual int start(int parent, const XmlElement& element) = 0;
 
-  /// A piece of an element's own text; `entity`: it was written as one.
-  virtual void characters(int /*state*/, std::string_view /*text*/, bool /*entity*/) {}
+  /// A piece of an element's own text.
+  virtual void characters(int /*state*/, std::string_view /*text*/) {}
 
   /// Whether the parser is to pause behind this element.
   virtual bool end(int /*state*/) { return false; }
@@ -79,7 +79,6 @@ class XmlParser {
   template <typename Step>
   void guarded(Step step);
   [[noreturn]] void fail() const;
-  [[nodiscard]] bool at_entity() const;
 
   static void on_start(void* self, const char* name, const char** attributes);
   static void on_end(void* self, const char* name);
@@ -94,7 +93,6 @@ class XmlParser {
   std::size_t fed_ = 0;
   bool ended_ = false;  // all bytes were fed
   bool paused_ = false;
-  bool has_entities_;
   std::vector<int> states_{kDocument};
   std::size_t ignored_ = 0;  // elements open within one that is ignored, itself counted
   std::exception_ptr failure_;

@@ -1,5 +1,4 @@
 // Foreign tables of points: what is decided of them, and the file that is made of them.
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>

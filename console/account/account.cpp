@@ -103,8 +103,7 @@ std::size_t Places::line_of_row(std::size_t row) {
 std::size_t Places::line_of_point(std::size_t point) {
   const bool rows_forgotten = seen_.loaded.rows->size() == 0;
   if (!is_text_ || !rows_forgotten) return line_of_row(row_of_point(point));
-  if (has_number(*seen_.verdict.fmt)) return finder_.line_of(seen_.read.punkty[point].nr.data());
-  return lines_with_rows(seen_.loaded.rows->text())[row_of_point(point)].number;
+  return finder_.line_of(seen_.read.punkty[point].nr.data());
 }
 
 Account account_of(const ImportSeen& seen, Places& places) {

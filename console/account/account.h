@@ -5,9 +5,7 @@
 #pragma once
 
 #include <cstddef>
-#include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "console/account/lines.h"
@@ -46,6 +44,7 @@ class Places {
   explicit Places(const vexo_xyz_impl::ImportSeen& seen);
 
   [[nodiscard]] std::size_t line_of_row(std::size_t row);
+  /// Once the table's rows are forgotten, only of points with numbers of their own, which show where they stand.
   [[nodiscard]] std::size_t line_of_point(std::size_t point);
 
   /// The point's row in the table.

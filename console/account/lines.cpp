@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstring>
 
+#include "vexo_xyz_impl/text/lines.h"
 #include "vexo_xyz_impl/text/utf8.h"
 
 namespace console {
@@ -10,8 +11,7 @@ namespace {
 
 using vexo_xyz_impl::Cell;
 using vexo_xyz_impl::Row;
-
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+namespace text = vexo_xyz_impl::text;
 
 // How often `byte` stands in the text, and for which of these `counts(place)` holds.
 template <class Counts>
@@ -36,21 +36,15 @@ std::size_t line_ends(std::string_view text, std::size_t size) {
 
 std::size_t line_count(std::string_view text) {
   if (text.empty()) return 0;
-  const bool unended = text.back() != '\n' && text.back() != '\r';
-  return line_ends(text, text.size()) + (unended ? 1 : 0);
+  return line_ends(text, text.size()) + (text::is_line_end(text.back()) ? 0 : 1);
 }
 
-bool is_line_end(char c) { return c == '\n' || c == '\r'; }
-
-bool is_comment(std::string_view line) {
-  const std::string_view trimmed = vexo_xyz_impl::text::trim(line);
-  return trimmed.starts_with('#') || trimmed.starts_with("//");
-}
+bool is_comment(std::string_view line) { return text::begins_comment(text::trim(line)); }
 
 bool is_blank(std::string_view line) {
   while (!line.empty()) {
     const std::string_view piece = line.substr(0, line.find_first_of(";\t"));
-    if (!vexo_xyz_impl::text::trim(piece).empty()) return false;
+    if (!text::trim(piece).empty()) return false;
     line.remove_prefix(std::min(piece.size() + 1, line.size()));
   }
   return true;
@@ -58,11 +52,7 @@ bool is_blank(std::string_view line) {
 
 std::size_t comments_in(std::string_view lines) {
   std::size_t comments = 0;
-  while (!lines.empty()) {
-    const std::size_t end = std::min(lines.find_first_of("\r\n"), lines.size());
-    comments += is_comment(lines.substr(0, end)) ? 1 : 0;
-    lines.remove_prefix(std::min(end + 1, lines.size()));
-  }
+  while (!lines.empty()) comments += is_comment(text::take_line(lines)) ? 1 : 0;
   return comments;
 }
 
@@ -78,7 +68,7 @@ LineCounts count_lines(std::string_view text, std::span<const Row> rows) {
     counts.comments += comments;
     counts.blank += line_count(lines) - comments;
   };
-  if (text.starts_with(kByteOrderMark)) text.remove_prefix(kByteOrderMark.size());
+  text::take_byte_order_mark(text);
   const char* after = text.data();  // the line of the row before
   const char* const end = text.data() + text.size();
   for (const Row row : rows) {
@@ -86,7 +76,7 @@ LineCounts count_lines(std::string_view text, std::span<const Row> rows) {
     if (begin != after) add_lines(whole_lines({after, begin}));
     const Cell last = row[row.size() - 1];
     after = last.data() + last.size();
-    if (after != end && *after != '\n') after = std::find_if(after, end, is_line_end);
+    if (after != end && *after != '\n') after = std::find_if(after, end, text::is_line_end);
     if (after != end) after += std::string_view(after, end).starts_with("\r\n") ? 2 : 1;
   }
   add_lines({after, end});
@@ -96,13 +86,10 @@ LineCounts count_lines(std::string_view text, std::span<const Row> rows) {
 
 std::vector<Line> lines_with_rows(std::string_view text) {
   std::vector<Line> lines;
-  if (text.starts_with(kByteOrderMark)) text.remove_prefix(kByteOrderMark.size());
+  text::take_byte_order_mark(text);
   for (std::size_t number = 1; !text.empty(); ++number) {
-    const std::size_t end = std::min(text.find_first_of("\r\n"), text.size());
-    const std::string_view line = text.substr(0, end);
+    const std::string_view line = text::take_line(text);
     if (!is_comment(line) && !is_blank(line)) lines.push_back({number, line});
-    const bool crlf = text.substr(end).starts_with("\r\n");
-    text.remove_prefix(std::min(end + (crlf ? 2 : 1), text.size()));
   }
   return lines;
 }

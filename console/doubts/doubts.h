@@ -40,7 +40,6 @@ struct NamedAxes {
 /// What doubts are drawn from.
 struct Evidence {
   const vexo_xyz_impl::ImportSeen& seen;
-  const Account& account;
   Places& places;
   std::optional<Header> header;
 };
@@ -66,8 +65,10 @@ using DoubtFunction = std::optional<Doubt> (*)(Evidence&);
 [[nodiscard]] inline std::size_t x_column(vexo_xyz_impl::Layout fmt) { return has_number(fmt) ? 1 : 0; }
 [[nodiscard]] inline std::size_t height_column(vexo_xyz_impl::Layout fmt) { return x_column(fmt) + 2; }
 
-// coordinates.cpp
+// degrees.cpp
 std::optional<Doubt> doubt_degrees(Evidence& evidence);
+
+// far_away.cpp
 std::optional<Doubt> doubt_not_finite(Evidence& evidence);
 std::optional<Doubt> doubt_far_away(Evidence& evidence);
 

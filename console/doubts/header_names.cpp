@@ -1,8 +1,7 @@
 // Doubts that the columns' names give rise to, and the order of axes that nobody confirmed.
-#include <algorithm>
-#include <utility>
 
 #include "console/doubts/doubts.h"
+#include "vexo_xyz_impl/crs/systems.h"
 #include "vexo_xyz_impl/messages.h"
 
 namespace console {
@@ -10,6 +9,7 @@ namespace {
 
 using intake::Named;
 using vexo_xyz_impl::filled;
+using vexo_xyz_impl::host::AxisOrder;
 
 bool is_no_coordinate(Named name) {
   switch (name) {
@@ -48,7 +48,6 @@ std::optional<bool> names_north_first(Named first, Named second) {
 }  // namespace
 
 std::optional<NamedAxes> named_axes(const Header& header, vexo_xyz_impl::Layout fmt) {
-  using vexo_xyz_impl::host::AxisOrder;
   const std::size_t x = x_column(fmt);
   if (header.names.size() < x + 2) return std::nullopt;
   const auto north_first = names_north_first(header.names[x], header.names[x + 1]);
@@ -69,14 +68,25 @@ std::optional<Doubt> doubt_header_columns(Evidence& evidence) {
                {evidence.header->line}};
 }
 
+// The order that the file's first line states, where the numbers fit the other one alone.
+std::optional<Doubt> doubt_declared_axes(const vexo_xyz_impl::SettledAxes& axes) {
+  const auto agrees = [&axes](const auto& reading) { return reading.swap == axes.swap; };
+  if (axes.how != vexo_xyz_impl::AxesBy::declared || axes.candidates.empty()) return std::nullopt;
+  if (std::any_of(axes.candidates.begin(), axes.candidates.end(), agrees)) return std::nullopt;
+  const std::string name = vexo_xyz_impl::_uklad_nazwa(axes.candidates.front().srid);
+  return Doubt{"header_axes", filled("konsola.watp_osie_liczby", {std::string_view(name)}), {}};
+}
+
 std::optional<Doubt> doubt_header_axes(Evidence& evidence) {
   const auto& axes = evidence.seen.axes;
+  if (auto doubt = doubt_declared_axes(axes)) return doubt;
   if (!evidence.header || axes.how == vexo_xyz_impl::AxesBy::told) return std::nullopt;
   const std::size_t x = x_column(*evidence.seen.verdict.fmt);
   if (evidence.header->names.size() < x + 2) return std::nullopt;
-  const auto north_first = names_north_first(evidence.header->names[x], evidence.header->names[x + 1]);
+  const auto named = named_axes(*evidence.header, *evidence.seen.verdict.fmt);
   const bool y_first = evidence.header->names[x] == Named::y && evidence.header->names[x + 1] == Named::x;
-  const bool contradicted = north_first ? *north_first != axes.swap : y_first && axes.candidates.empty();
+  const bool contradicted =
+      named ? (named->order == AxisOrder::north_first) != axes.swap : y_first && axes.candidates.empty();
   if (!contradicted) return std::nullopt;
   return Doubt{"header_axes",
                filled("konsola.watp_osie_naglowek", {static_cast<long long>(evidence.header->line),

@@ -1,12 +1,12 @@
 // Doubts about the height column: does it hold heights at all?
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <span>
 #include <utility>
 
 #include "console/account/account_lines.h"
 #include "console/doubts/doubts.h"
+#include "intake/cell_number.h"
 #include "vexo_xyz_impl/messages.h"
 #include "vexo_xyz_impl/table/numbers.h"
 
@@ -16,6 +16,7 @@ namespace {
 using vexo_xyz_impl::filled;
 using vexo_xyz_impl::parse_number;
 using vexo_xyz_impl::PointRecord;
+using vexo_xyz_impl::Row;
 using vexo_xyz_impl::SkippedLine;
 
 constexpr double kHighest = 12000.0;  // metres, above and below: no point of the Earth's surface, no mine, no trench
@@ -92,8 +93,16 @@ bool coordinates_have_decimals(std::span<const PointRecord> punkty) {
   return static_cast<std::size_t>(whole) * 5 < punkty.size();
 }
 
+// Whether the heights of the first rows are written without decimals, as zones, codes and classes are.
+bool are_written_whole(std::span<const Row> dane, std::size_t z) {
+  constexpr std::size_t kSample = 200;
+  const auto sample = dane.first(std::min(dane.size(), kSample));
+  return std::all_of(sample.begin(), sample.end(),
+                     [z](Row row) { return row.size() <= z || intake::decimals_of(row[z]) == 0; });
+}
+
 // What the numbers themselves say against their being heights; the key of the text, empty when nothing.
-std::string_view unlike_heights(std::span<const PointRecord> punkty) {
+std::string_view unlike_heights(std::span<const PointRecord> punkty, std::span<const Row> dane, std::size_t z) {
   constexpr std::size_t kFewest = 3;       // of fewer points nothing is the rule
   constexpr std::size_t kFewestAlike = 5;  // whole or tiny numbers happen to a few
   const HeightCounts counts = counts_of(punkty);
@@ -103,7 +112,8 @@ std::string_view unlike_heights(std::span<const PointRecord> punkty) {
   if (counts.tiny == counts.points && counts.points >= kFewestAlike) return "konsola.watp_z_male";
   const bool all_whole = counts.whole == counts.points;
   if (all_whole && counts.all_equal && punkty.front().z != 0.0) return "konsola.watp_z_stale";
-  if (!all_whole || counts.points < kFewestAlike || !coordinates_have_decimals(punkty)) return {};
+  if (!all_whole || counts.points < kFewestAlike || !coordinates_have_decimals(punkty) || !are_written_whole(dane, z))
+    return {};
   if (counts.rise_by_one) return "konsola.watp_z_licznik";
   constexpr double kMostZones = 60.0;
   const bool few_and_small = std::all_of(
@@ -112,10 +122,35 @@ std::string_view unlike_heights(std::span<const PointRecord> punkty) {
 }
 
 std::optional<Doubt> numbers_unlike_heights(Evidence& evidence) {
-  const std::string_view key = unlike_heights(evidence.seen.read.punkty);
+  const auto& verdict = evidence.seen.verdict;
+  const std::string_view key = unlike_heights(evidence.seen.read.punkty, verdict.dane, height_column(*verdict.fmt));
   if (key.empty()) return std::nullopt;
   const double example = evidence.seen.read.punkty.front().z;
   return Doubt{"height", filled(key, {column_shown(evidence), example}), {}};
+}
+
+// What no height is, or what stands for one that is missing.
+bool is_no_height(double z) {
+  constexpr std::array kMissing = {-999.0, -9999.0, -99999.0, -32767.0, -32768.0, 9999.0, 99999.0};
+  return std::abs(z) > kHighest || std::find(kMissing.begin(), kMissing.end(), z) != kMissing.end();
+}
+
+// Heights of some rows that the others' are unlike.
+std::optional<Doubt> none_in_some_rows(Evidence& evidence) {
+  const auto& punkty = evidence.seen.read.punkty;
+  std::vector<std::size_t> lines;
+  double example = 0.0;
+  for (std::size_t i = 0; i < punkty.size(); ++i) {
+    if (!is_no_height(punkty[i].z) || !std::isfinite(punkty[i].z)) continue;
+    if (lines.empty()) example = punkty[i].z;
+    lines.push_back(evidence.places.line_of_point(i));
+  }
+  if (lines.empty()) return std::nullopt;
+  const std::string places = listed(lines);
+  return Doubt{"height",
+               filled("konsola.watp_z_brak", {column_shown(evidence), static_cast<long long>(lines.size()), example,
+                                              std::string_view(places)}),
+               std::move(lines)};
 }
 
 }  // namespace
@@ -123,7 +158,7 @@ std::optional<Doubt> numbers_unlike_heights(Evidence& evidence) {
 std::optional<Doubt> doubt_height(Evidence& evidence) {
   if (!has_heights(*evidence.seen.verdict.fmt)) return std::nullopt;
   if (evidence.seen.read.punkty.empty()) return fails_alone(evidence);
-  for (const auto doubt : {named_otherwise, fails_alone, numbers_unlike_heights})
+  for (const auto doubt : {named_otherwise, fails_alone, numbers_unlike_heights, none_in_some_rows})
     if (auto found = doubt(evidence)) return found;
   return std::nullopt;
 }

@@ -101,6 +101,18 @@ std::vector<std::size_t> lines_of(Places& places, std::span<const std::size_t> p
   return lines;
 }
 
+std::string told_of(std::span<const std::size_t> elsewhere, std::span<const std::size_t> there) {
+  const std::string places_elsewhere = listed(elsewhere);
+  const std::string places_there = listed(there);
+  const auto count_elsewhere = static_cast<long long>(elsewhere.size());
+  const auto count_there = static_cast<long long>(there.size());
+  if (there.empty())
+    return filled("konsola.watp_powtorzone_gdzie_indziej", {count_elsewhere, std::string_view(places_elsewhere)});
+  if (elsewhere.empty()) return filled("konsola.watp_powtorzone_tam", {count_there, std::string_view(places_there)});
+  return filled("konsola.watp_powtorzone",
+                {count_elsewhere, std::string_view(places_elsewhere), count_there, std::string_view(places_there)});
+}
+
 // A mark that no label has of itself: a comma or a colon at its end, a comma before a number with decimals.
 bool holds_separator(std::string_view label) {
   if (label.ends_with(',') || label.ends_with(':')) return true;
@@ -114,16 +126,11 @@ std::optional<Doubt> doubt_repeated_number(Evidence& evidence) {
   if (evidence.seen.dubli == 0) return std::nullopt;
   const Repeated repeated = repeated_among(evidence.seen.read.punkty);
   auto lines = lines_of(evidence.places, repeated.other_place);
-  const std::string other_places = lines.empty() ? "–" : listed(lines);
   const auto same = lines_of(evidence.places, repeated.same_place);
-  const std::string same_places = same.empty() ? "–" : listed(same);
+  std::string text = told_of(lines, same);
   lines.insert(lines.end(), same.begin(), same.end());
   std::sort(lines.begin(), lines.end());
-  return Doubt{"repeated_number",
-               filled("konsola.watp_powtorzone",
-                      {static_cast<long long>(repeated.other_place.size()), std::string_view(other_places),
-                       static_cast<long long>(repeated.same_place.size()), std::string_view(same_places)}),
-               std::move(lines)};
+  return Doubt{"repeated_number", std::move(text), std::move(lines)};
 }
 
 std::optional<Doubt> doubt_same_place(Evidence& evidence) {

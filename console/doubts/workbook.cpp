@@ -58,15 +58,23 @@ std::vector<std::size_t> not_seen(const intake::Flaws& flaws) {
   return rows;
 }
 
+// Whether the end of a worksheet's XML is missing.
+bool breaks_off(std::string_view xml) {
+  constexpr std::size_t kTail = 256;
+  const std::string_view tail = xml.substr(xml.size() - std::min(xml.size(), kTail));
+  return !xml.empty() && tail.find("worksheet>") == std::string_view::npos;
+}
+
 }  // namespace
 
 std::vector<Doubt> doubts_of_workbook(const ImportSeen& seen, Places* places) {
   std::vector<Doubt> doubts;
+  if (breaks_off(seen.loaded.rows->text()))
+    doubts.push_back({"rows_left_out", vexo_xyz_impl::T("konsola.watp_urwany"), {}});
   try {
     intake::Workbook workbook(seen.path);
     add_sheet_choice(doubts, workbook);
-    const vexo_xyz_impl::Table& table = *seen.loaded.rows;
-    if (workbook.imported() != nullptr && workbook.may_be_flawed(table.text(), table.shared_text())) {
+    if (workbook.imported() != nullptr && workbook.may_be_flawed(seen.loaded.rows->text())) {
       intake::Flaws flaws = workbook.inspect(*workbook.imported());
       add_rows(doubts, "formula_without_value", "konsola.watp_formula", std::move(flaws.formulas_without_value));
       add_rows(doubts, "date", "konsola.watp_data", std::move(flaws.dates));

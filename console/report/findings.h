@@ -1,6 +1,7 @@
 // What came of an import, as it is told and as a report holds it.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -23,7 +24,14 @@ enum class Axes { keep, swap, unconfirmed };
 
 struct Findings {
   Outcome outcome = Outcome::nothing;
-  std::string path;                     ///< of the file that was read
+  std::string path;           ///< of the file that was read
+  std::string prepared_from;  ///< what that file was made of, when it was
+  struct RowNotTakenOver {
+    std::size_t line = 0;  ///< of what it was made of
+    std::string reason;
+    std::string text;
+  };
+  std::vector<RowNotTakenOver> prepared_left_out;
   std::string encoding;                 ///< of a text file
   std::vector<std::string> separators;  ///< between its cells: ";", "tab", "blank"
   Account account;

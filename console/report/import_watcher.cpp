@@ -38,8 +38,9 @@ std::vector<std::string> separators_of(std::span<const Row> rows) {
     }
   }
   std::vector<std::string> names(found.size());
-  std::transform(found.begin(), found.end(), names.begin(),
-                 [](char mark) { return mark == '\t' ? "tab" : mark == ' ' ? "blank" : ";"; });
+  std::transform(found.begin(), found.end(), names.begin(), [](char mark) {
+    return mark == '\t' ? "tab" : mark == ' ' ? "blank" : ";";
+  });
   return names;
 }
 
@@ -63,6 +64,17 @@ void append(std::vector<Doubt>& doubts, std::vector<Doubt> more) {
   std::move(more.begin(), more.end(), std::back_inserter(doubts));
 }
 
+Doubt doubt_not_taken_over(const std::vector<Findings::RowNotTakenOver>& rows) {
+  std::vector<std::size_t> lines;
+  lines.reserve(rows.size());
+  for (const auto& row : rows) lines.push_back(row.line);
+  const std::string places = listed(lines);
+  return {"rows_left_out",
+          vexo_xyz_impl::filled("konsola.watp_przygotowanie",
+                                {static_cast<long long>(lines.size()), std::string_view(places)}),
+          std::move(lines)};
+}
+
 }  // namespace
 
 void ImportWatcher::rows_taken_apart(const ImportSeen& seen) {
@@ -72,12 +84,17 @@ void ImportWatcher::rows_taken_apart(const ImportSeen& seen) {
   findings_.account = account_of(seen, *places_);
   header_ = header_of(seen, *places_);
   named_axes_ = header_ ? named_axes(*header_, *seen.verdict.fmt) : std::nullopt;
-  Evidence evidence{seen, findings_.account, *places_, header_};
+  Evidence evidence{seen, *places_, header_};
   if (!seen.read.punkty.empty()) {
     findings_.doubts = doubts_of_rows(evidence);
   } else if (auto doubt = doubt_height(evidence)) {
     findings_.doubts.push_back(std::move(*doubt));
   }
+}
+
+void ImportWatcher::made_of(std::string path, std::vector<Findings::RowNotTakenOver> left_out) {
+  made_of_ = std::move(path);
+  not_taken_over_ = std::move(left_out);
 }
 
 void ImportWatcher::ended(const ImportSeen& seen) {
@@ -87,6 +104,9 @@ void ImportWatcher::ended(const ImportSeen& seen) {
     findings_.account = account_without_points(seen);
   }
   findings_.path = seen.path;
+  findings_.prepared_from = made_of_;
+  findings_.prepared_left_out = not_taken_over_;
+  if (!not_taken_over_.empty()) findings_.doubts.push_back(doubt_not_taken_over(not_taken_over_));
   findings_.outcome = outcome_of(seen);
   if (places_ && findings_.outcome == Outcome::failed) take_points_back(findings_.account, seen, *places_);
   if (seen.verdict.fmt) findings_.layout = layout_code(*seen.verdict.fmt);
@@ -95,7 +115,7 @@ void ImportWatcher::ended(const ImportSeen& seen) {
     findings_.systems.push_back({candidate, vexo_xyz_impl::_uklad_nazwa(candidate.srid)});
   findings_.axes = axes_of(seen);
   if (places_ && findings_.outcome == Outcome::imported) {
-    Evidence evidence{seen, findings_.account, *places_, header_};
+    Evidence evidence{seen, *places_, header_};
     append(findings_.doubts, doubts_of_import(evidence));
   }
   if (seen.loaded.typ == vexo_xyz_impl::FileType::xlsx && seen.loaded.rows)

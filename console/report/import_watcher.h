@@ -1,9 +1,9 @@
 // Watches an import and comes to what is to be told of it: the account, the doubts, what the report holds.
 #pragma once
 
-#include <cstddef>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "console/doubts/doubts.h"
 #include "console/report/findings.h"
@@ -20,6 +20,9 @@ class ImportWatcher final : public vexo_xyz_impl::host::ImportWatch {
   /// What the file says for or against a reading of its axes, for when its rows were taken apart: lines for the user.
   [[nodiscard]] std::string beside_reading(vexo_xyz_impl::host::AxisOrder order, double share) const;
 
+  /// The file that is imported next was made of another, of which these rows were not taken over.
+  void made_of(std::string path, std::vector<Findings::RowNotTakenOver> left_out);
+
   /// The drawing was not saved, or may not be.
   void drawing_failed() { findings_.outcome = Outcome::failed; }
 
@@ -28,6 +31,8 @@ class ImportWatcher final : public vexo_xyz_impl::host::ImportWatch {
 
  private:
   Findings findings_;
+  std::string made_of_;
+  std::vector<Findings::RowNotTakenOver> not_taken_over_;
   std::optional<Places> places_;  // of the import going on
   std::optional<Header> header_;
   std::optional<NamedAxes> named_axes_;

@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "intake/cell_number.h"
 #include "intake/dialect.h"
 #include "intake/encoding.h"
 #include "intake/file_kind.h"
@@ -15,6 +16,7 @@
 #include "intake/workbook.h"
 #include "vexo_xyz_impl/messages.h"
 #include "vexo_xyz_impl/table/numbers.h"
+#include "vexo_xyz_impl/text/lines.h"
 
 namespace console {
 namespace {
@@ -24,8 +26,6 @@ using vexo_xyz_impl::ImportSeen;
 using vexo_xyz_impl::Row;
 using vexo_xyz_impl::T;
 
-Reason named(std::string_view code) { return {code, T("konsola.powod_" + std::string(code))}; }
-
 // The beginning of a text, decoded, up to its last whole line.
 std::vector<char> beginning_of(const std::string& path) {
   constexpr std::size_t kEnough = std::size_t{1} << 18U;
@@ -34,37 +34,23 @@ std::vector<char> beginning_of(const std::string& path) {
   file.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
   bytes.resize(static_cast<std::size_t>(file.gcount()));
   if (bytes.size() == kEnough) {
-    const auto end = std::find_if(bytes.rbegin(), bytes.rend(), [](char c) { return c == '\n' || c == '\r'; });
+    const auto end = std::find_if(bytes.rbegin(), bytes.rend(), vexo_xyz_impl::text::is_line_end);
     if (end != bytes.rend()) bytes.erase(end.base(), bytes.end());
   }
   return intake::decoded(std::move(bytes)).utf8;
 }
 
-// Whether degrees stand before minutes: 52°13'45", 52° 13' N.
-bool has_degrees_and_minutes(std::string_view line) {
-  constexpr std::array<std::string_view, 2> kSigns = {"\u00B0", "\u00BA"};
-  for (const std::string_view sign : kSigns) {
-    for (std::size_t at = line.find(sign); at != std::string_view::npos; at = line.find(sign, at + 1)) {
-      const std::size_t next = line.find_first_not_of(' ', at + sign.size());
-      const bool digit_follows = next != std::string_view::npos && line[next] >= '0' && line[next] <= '9';
-      if (at > 0 && line[at - 1] >= '0' && line[at - 1] <= '9' && digit_follows) return true;
-    }
-  }
-  return false;
-}
-
-// Whether most lines are written in degrees, minutes and seconds.
-bool is_in_minutes(std::string_view text) {
-  std::size_t lines = 0;
-  std::size_t in_minutes = 0;
-  while (!text.empty()) {
-    const std::size_t end = std::min(text.find_first_of("\r\n"), text.size());
-    const std::string_view line = text.substr(0, end);
-    lines += line.empty() ? 0 : 1;
-    in_minutes += has_degrees_and_minutes(line) ? 1 : 0;
-    text.remove_prefix(std::min(end + 1, text.size()));
-  }
-  return in_minutes * 2 > lines;
+// Whether most rows have two cells, or more, that are angles.
+bool are_angles(std::span<const Row> rows) {
+  constexpr std::size_t kSample = 200;
+  const auto sample = rows.first(std::min(rows.size(), kSample));
+  const auto angular = std::count_if(sample.begin(), sample.end(), [](Row row) {
+    std::size_t angles = 0;
+    row.for_each_stored(
+        [&angles](std::size_t, std::string_view cell) { angles += intake::is_sexagesimal(cell) ? 1 : 0; });
+    return angles >= 2;
+  });
+  return static_cast<std::size_t>(angular) * 2 > sample.size();
 }
 
 // The first line that has a number beside something that is none, and no third cell, where two columns prevail.
@@ -81,39 +67,44 @@ std::optional<std::size_t> line_of_odd_row(const ImportSeen& seen) {
 // Whether the user was asked about the columns, and left it open.
 bool was_asked(const ImportSeen& seen) { return !seen.verdict.fmt && !seen.verdict.dane.empty(); }
 
-// The reason of a workbook of which no row was read.
+// The reason of a workbook of which no row was read: its values stand on another sheet, or in a spelling of their own.
 Reason reason_without_rows(const std::string& path) {
   try {
     intake::Workbook workbook(path);
-    const intake::Sheet* const sheet = workbook.seen_first();
-    intake::Record record;
-    const bool has_values = sheet != nullptr && workbook.records(*sheet)->next(record);
-    return named(has_values ? "cells_unreadable" : "empty");
+    for (const intake::Sheet& sheet : workbook.sheets()) {
+      intake::Record record;
+      if (sheet.member.empty() || !workbook.records(sheet)->next(record)) continue;
+      if (workbook.imported() == nullptr || &sheet == workbook.imported()) return reason_named("cells_unreadable");
+      const auto text = vexo_xyz_impl::filled(
+          "konsola.powod_inny_arkusz", {std::string_view(workbook.imported()->name), std::string_view(sheet.name)});
+      return {"cells_unreadable", text};
+    }
+    return reason_named("empty");
   } catch (const std::exception&) {
-    return named("unreadable");
+    return reason_named("unreadable");
   }
 }
 
 // Of rows of which none gave a point: no numbers where two are due, or only the height's missing, which is doubted.
 Reason reason_of_rows(const ImportSeen& seen, const Findings& findings) {
   if (!seen.read.punkty.empty() || was_asked(seen)) return {};
-  if (findings.doubts.empty()) return named("no_numbers");
+  if (findings.doubts.empty()) return reason_named("no_numbers");
   return {"no_numbers", T("konsola.powod_bez_wysokosci")};
 }
 
 Reason reason_of_text(const ImportSeen& seen, const Findings& findings) {
   const std::vector<char> text = beginning_of(seen.path);
   const std::string_view beginning(text.data(), text.size());
-  if (is_in_minutes(beginning)) return named("dms");
+  if (seen.loaded.rows && are_angles(seen.loaded.rows->rows())) return reason_named("dms");
   const intake::Dialect dialect = intake::dialect_of(beginning);
-  if (dialect.is_decided && dialect.separator == ',') return named("comma_separated");
-  if (dialect.is_decided && dialect.separator == '|') return named("pipe_separated");
+  if (dialect.is_decided && dialect.separator == ',') return reason_named("comma_separated");
+  if (dialect.is_decided && dialect.separator == '|') return reason_named("pipe_separated");
   if (seen.failure && seen.failure->kind == "IndexError") {
     if (const auto line = line_of_odd_row(seen))
       return {"mixed_separators", vexo_xyz_impl::filled("konsola.powod_linia", {static_cast<long long>(*line)})};
   }
-  if (dialect.mixed) return named("mixed_separators");
-  if (dialect.quoted) return named("quoted");
+  if (dialect.mixed) return reason_named("mixed_separators");
+  if (dialect.quoted) return reason_named("quoted");
   return reason_of_rows(seen, findings);
 }
 
@@ -126,6 +117,8 @@ bool is_suspicious(const ImportSeen& seen, const Findings& findings) {
 }
 
 }  // namespace
+
+Reason reason_named(std::string_view code) { return {code, T("konsola.powod_" + std::string(code))}; }
 
 std::string_view kind_code(FileKind kind) {
   switch (kind) {
@@ -167,7 +160,7 @@ Reason reason_of(const ImportSeen& seen, const Findings& findings) {
   if (had_points && findings.outcome != Outcome::imported) return {};  // the doubts say what was the matter with them
   if (!is_suspicious(seen, findings)) return {};
   const FileKind kind = intake::file_kind(seen.path);
-  if (const std::string_view code = kind_code(kind); !code.empty()) return named(code);
+  if (const std::string_view code = kind_code(kind); !code.empty()) return reason_named(code);
   if (kind == FileKind::text) return reason_of_text(seen, findings);
   if (findings.outcome == Outcome::imported) return {};
   if (seen.loaded.rows && findings.account.rows > 0) return reason_of_rows(seen, findings);

@@ -12,6 +12,9 @@ namespace console {
 /// The code of a kind of file that says all; none for texts and workbooks, which may be read.
 [[nodiscard]] std::string_view kind_code(intake::FileKind kind);
 
+/// The reason of that code, in the user's language. The module must be entered.
+[[nodiscard]] Reason reason_named(std::string_view code);
+
 /// The reason, named with the way on; none when the file is what the importer reads. To be asked when the import has
 /// ended, before what was seen is gone.
 [[nodiscard]] Reason reason_of(const vexo_xyz_impl::ImportSeen& seen, const Findings& findings);

@@ -2,8 +2,10 @@
 
 #include <cerrno>
 #include <cstddef>
+#include <fstream>
 #include <string>
 #include <system_error>
+#include <utility>
 
 #include <nlohmann/json.hpp>
 
@@ -15,6 +17,11 @@ namespace console {
 namespace {
 
 using nlohmann::ordered_json;
+
+// What reports begin with, by which one may be known again.
+constexpr std::string_view kJsonBeginning = "{\n \"outcome\": \"";
+constexpr std::string_view kTextBeginning = "vexo-xyz\n";
+
 using vexo_xyz_impl::filled;
 
 std::string_view name_of(Outcome outcome) {
@@ -27,21 +34,34 @@ std::string_view name_of(Axes axes) {
   return axes == Axes::swap ? "swap" : "keep";
 }
 
-ordered_json rows_as_json(const std::vector<RowWithoutPoint>& rows) {
-  ordered_json list = ordered_json::array();
-  for (const RowWithoutPoint& row : rows)
-    list.push_back({{"line", row.line}, {"reason", reason_of(row.why)}, {"text", row.text}});
-  return list;
+// As JSON, whatever bytes a name or a text holds.
+std::string json(const ordered_json& value) {
+  return value.dump(-1, ' ', false, ordered_json::error_handler_t::replace);
 }
 
-ordered_json account_as_json(const Account& account) {
-  return {{"lines", account.lines},
-          {"comments", account.comments},
-          {"blank", account.blank},
-          {"rows", account.rows},
-          {"points", account.points},
-          {"skipped", rows_as_json(account.skipped)},
-          {"left_out", rows_as_json(account.left_out)}};
+std::string_view reason_for(const Findings::RowNotTakenOver& row) { return row.reason; }
+std::string reason_for(const RowWithoutPoint& row) { return reason_of(row.why); }
+
+// A row a line, made one by one: there may be a million.
+template <class AnyRow>
+std::string rows_as_json(const std::vector<AnyRow>& rows) {
+  std::string list = "[";
+  for (const AnyRow& row : rows) {
+    list += list.size() > 1 ? ",\n   " : "\n   ";
+    list += "{\"line\": " + std::to_string(row.line) + ", \"reason\": " + json(reason_for(row)) +
+            ", \"text\": " + json(row.text) + "}";
+  }
+  return list + "]";
+}
+
+std::string account_as_json(const Account& account) {
+  std::string text = "{";
+  for (const auto& [name, count] :
+       {std::pair("lines", account.lines), std::pair("comments", account.comments), std::pair("blank", account.blank),
+        std::pair("rows", account.rows), std::pair("points", account.points)})
+    text += "\"" + std::string(name) + "\": " + std::to_string(count) + ", ";
+  return text + "\n  \"skipped\": " + rows_as_json(account.skipped) +
+         ",\n  \"left_out\": " + rows_as_json(account.left_out) + "}";
 }
 
 ordered_json system_as_json(const Findings& findings) {
@@ -53,31 +73,47 @@ ordered_json system_as_json(const Findings& findings) {
   return {{"candidates", std::move(candidates)}, {"axes", name_of(findings.axes)}};
 }
 
+ordered_json doubts_as_json(const std::vector<Doubt>& doubts) {
+  ordered_json list = ordered_json::array();
+  for (const Doubt& doubt : doubts)
+    list.push_back({{"code", doubt.code}, {"text", doubt.text}, {"lines", doubt.lines}});
+  return list;
+}
+
+ordered_json reason_as_json(const Reason& reason) {
+  if (reason.code.empty()) return nullptr;
+  return {{"code", reason.code}, {"text", reason.text}};
+}
+
 std::string as_json(const Findings& findings) {
-  ordered_json doubts = ordered_json::array();
-  for (const Doubt& doubt : findings.doubts)
-    doubts.push_back({{"code", doubt.code}, {"text", doubt.text}, {"lines", doubt.lines}});
-  ordered_json reason;
-  if (!findings.reason.code.empty()) reason = {{"code", findings.reason.code}, {"text", findings.reason.text}};
-  const ordered_json report = {
-      {"outcome", name_of(findings.outcome)},
-      {"file", {{"path", findings.path}, {"encoding", findings.encoding}, {"separators", findings.separators}}},
-      {"account", account_as_json(findings.account)},
-      {"layout", {{"code", findings.layout}, {"evidence", findings.evidence}}},
-      {"system", system_as_json(findings)},
-      {"doubts", std::move(doubts)},
-      {"reason", std::move(reason)},
+  const ordered_json file = {
+      {"path", findings.path}, {"encoding", findings.encoding}, {"separators", findings.separators}};
+  std::string text(kJsonBeginning);
+  text += std::string(name_of(findings.outcome)) + "\"";
+  const auto add = [&text](std::string_view name, std::string_view value) {
+    text += ",\n \"";
+    text += name;
+    text += "\": ";
+    text += value;
   };
-  constexpr int kIndent = 1;
-  // Names that a script gave may be no UTF-8.
-  return report.dump(kIndent, ' ', false, ordered_json::error_handler_t::replace) + "\n";
+  add("file", json(file));
+  add("account", account_as_json(findings.account));
+  add("layout", json({{"code", findings.layout}, {"evidence", findings.evidence}}));
+  add("system", json(system_as_json(findings)));
+  add("doubts", json(doubts_as_json(findings.doubts)));
+  add("reason", json(reason_as_json(findings.reason)));
+  if (!findings.prepared_from.empty())
+    add("prepared", "{\"from\": " + json(findings.prepared_from) +
+                        ", \"left_out\": " + rows_as_json(findings.prepared_left_out) + "}");
+  return text + "\n}\n";
 }
 
 long long count_of(std::size_t count) { return static_cast<long long>(count); }
 
-void add_rows(std::string& text, const std::vector<RowWithoutPoint>& rows) {
-  for (const RowWithoutPoint& row : rows) {
-    const std::string reason = reason_of(row.why);
+template <class AnyRow>
+void add_rows(std::string& text, const std::vector<AnyRow>& rows) {
+  for (const AnyRow& row : rows) {
+    const std::string reason(reason_for(row));
     text += filled("konsola.raport_wiersz", {count_of(row.line), std::string_view(reason), std::string_view(row.text)});
   }
 }
@@ -86,7 +122,8 @@ std::string as_text(const Findings& findings) {
   const Account& account = findings.account;
   std::string separators;
   for (const std::string& separator : findings.separators) separators += (separators.empty() ? "" : ", ") + separator;
-  std::string text = filled("konsola.raport_wynik", {name_of(findings.outcome)});
+  std::string text(kTextBeginning);
+  text += filled("konsola.raport_wynik", {name_of(findings.outcome)});
   if (!findings.encoding.empty())
     text += filled("konsola.raport_plik", {std::string_view(findings.encoding), std::string_view(separators)});
   text += filled("konsola.raport_linie", {count_of(account.lines), count_of(account.comments), count_of(account.blank),
@@ -102,12 +139,23 @@ std::string as_text(const Findings& findings) {
   text += filled("konsola.raport_osie", {name_of(findings.axes)});
   add_rows(text, account.left_out);
   add_rows(text, account.skipped);
+  if (!findings.prepared_from.empty())
+    text += filled("konsola.raport_przygotowano", {std::string_view(findings.prepared_from)});
+  add_rows(text, findings.prepared_left_out);
   for (const Doubt& doubt : findings.doubts) text += filled("konsola.watpliwosc", {std::string_view(doubt.text)});
   if (!findings.reason.code.empty()) text += filled("konsola.powod", {std::string_view(findings.reason.text)});
   return text;
 }
 
 }  // namespace
+
+bool is_report(const std::filesystem::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  std::string beginning(kJsonBeginning.size(), '\0');
+  file.read(beginning.data(), static_cast<std::streamsize>(beginning.size()));
+  beginning.resize(static_cast<std::size_t>(file.gcount()));
+  return beginning.empty() || beginning == kJsonBeginning || beginning.starts_with(kTextBeginning);
+}
 
 void write_report(const Findings& findings, const std::filesystem::path& path) {
   const std::string report = path.extension() == ".json" ? as_json(findings) : as_text(findings);

@@ -7,6 +7,9 @@
 
 namespace console {
 
+/// Whether the file there is a report, or empty: what may be replaced by another.
+[[nodiscard]] bool is_report(const std::filesystem::path& path);
+
 /// Writes it whole or not at all, in the place of an earlier one. Fails with std::system_error.
 void write_report(const Findings& findings, const std::filesystem::path& path);
 

@@ -54,6 +54,9 @@ std::span<const Text> account_texts() {
        "Osie: %s\n", "Achsen: %s\n", "Axe: %s\n", "Axes: %s\n"},
       {"konsola.raport_wiersz", "dss",  // line, reason, text
        "Linia %d: %s: %s\n", "Zeile %d: %s: %s\n", "Linia %d: %s: %s\n", "Line %d: %s: %s\n"},
+      {"konsola.raport_przygotowano", "s",  // path
+       "Plik przygotowano z: %s\n", "Die Datei wurde aufbereitet aus: %s\n", "Fișierul a fost pregătit din: %s\n",
+       "The file was made of: %s\n"},
       {"konsola.raport_zapisano", "s",  // path
        "Raport: %s\n", "Bericht: %s\n", "Raport: %s\n", "Report: %s\n"},
       {"konsola.raport_blad", "ss",  // path, reason

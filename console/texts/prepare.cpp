@@ -38,19 +38,18 @@ std::span<const Text> prepare_texts() {
        "from the line of the coordinate system above the data"},
       {"konsola.prep_z_etykiet", "", "pierwsza kolumna zawiera teksty", "die erste Spalte enthält Texte",
        "prima coloană conține texte", "the first column holds texts"},
-      {"konsola.prep_z_numeracji", "", "pierwsza kolumna numeruje wiersze", "die erste Spalte numeriert die Zeilen",
+      {"konsola.prep_z_numeracji", "", "pierwsza kolumna numeruje wiersze", "die erste Spalte nummeriert die Zeilen",
        "prima coloană numerotează rândurile", "the first column numbers the rows"},
       {"konsola.prep_z_kolejnosci", "", "z liczb w kolumnach", "nach den Zahlen in den Spalten",
        "după numerele din coloane", "from the numbers in the columns"},
-      {"konsola.prep_podane", "", "podane", "angegeben", "indicate", "as given"},
       {"konsola.prep_pytanie", "", "Nie jest jasne, co zawierają kolumny. Pierwsze wiersze:\n",
-       "Was die Spalten enthalten, ist nicht klar. Die "
-       "ersten Zeilen:\n",
+       "Was die Spalten enthalten, ist nicht klar. Die ersten Zeilen:\n",
        "Nu este clar ce conțin coloanele. Primele rânduri:\n",
        "It is not clear what the columns hold. The first rows:\n"},
       {"konsola.prep_mozliwe", "",
        "Możliwe odczyty (nr numer, e wschód, n północ, x, y współrzędne w kolejności pliku, z wysokość, - pomijana):\n",
-       "Mögliche Lesarten (nr Nummer, e Ost, n Nord, x, y Koordinaten in der Folge der Datei, z Höhe, - entfällt):\n",
+       "Mögliche Lesarten (nr Nummer, e Ost, n Nord, x, y Koordinaten in der Reihenfolge der Datei, z Höhe, - "
+       "entfällt):\n",
        "Citiri posibile (nr număr, e est, n nord, x, y coordonate în ordinea fișierului, z cotă, - omisă):\n",
        "Possible readings (nr number, e easting, n northing, x, y coordinates in the file's order, z height, - not "
        "taken):\n"},
@@ -64,9 +63,9 @@ std::span<const Text> prepare_texts() {
        "„%s” nu este numărul unei citiri și nici o listă de roluri pentru aceste coloane.\n",
        "“%s” is neither the number of a reading nor a list of roles for these columns.\n"},
       {"konsola.prep_bez_wyboru", "s",  // option
-       "Nic nie zgadywano i nic nie zapisano. Podaj kolumny opcją, na przykład: %s\n",
+       "Niczego nie zgadywano i niczego nie zapisano. Podaj kolumny opcją, na przykład: %s\n",
        "Nichts wurde geraten und nichts geschrieben. Bitte die Spalten angeben, zum Beispiel: %s\n",
-       "Nimic nu s-a ghicit și nu s-a scris. Indicați coloanele, de exemplu: %s\n",
+       "Nu s-a ghicit și nu s-a scris nimic. Indicați coloanele, de exemplu: %s\n",
        "Nothing was guessed and nothing written. Name the columns, for instance: %s\n"},
       {"konsola.prep_zle_kolumny", "ss",  // option's value, names and positions that there are
        "--columns %s nie pasuje: potrzebne są dwie współrzędne (e,n albo x,y), każda rola najwyżej raz; kolumny pliku: "
@@ -103,25 +102,20 @@ std::span<const Text> prepare_texts() {
        "every column (- for one not taken).\n"},
       {"konsola.prep_stopnie_zamiast_siatki", "",
        "Liczby są za małe na współrzędne E i N siatki państwowej: to zapewne stopnie, których rysunek nie przyjmie. "
-       "Jeśli "
-       "są to metry układu lokalnego, nazwij kolumny x i y. Nic nie zapisano.\n",
+       "Jeśli są to metry układu lokalnego, nazwij kolumny x i y. Nic nie zapisano.\n",
        "Die Zahlen sind zu klein für E und N eines Landesnetzes: wohl Grad, mit denen eine Zeichnung nichts anfängt. "
-       "Sind "
-       "es Meter eines örtlichen Netzes, bitte die Spalten x und y nennen. Nichts wurde geschrieben.\n",
+       "Sind es Meter eines örtlichen Netzes, bitte die Spalten x und y nennen. Nichts wurde geschrieben.\n",
        "Numerele sunt prea mici pentru E și N ale unei rețele naționale: probabil grade, pe care desenul nu le "
-       "folosește. "
-       "Dacă sunt metri ai unui sistem local, numiți coloanele x și y. Nu s-a scris nimic.\n",
+       "folosește. Dacă sunt metri ai unui sistem local, numiți coloanele x și y. Nu s-a scris nimic.\n",
        "The numbers are too small for E and N of a national grid: degrees, it seems, which are no drawing coordinates. "
-       "If "
-       "they are metres of a local system, call the columns x and y. Nothing was written.\n"},
+       "If they are metres of a local system, call the columns x and y. Nothing was written.\n"},
       {"konsola.prep_stopnie", "",
        "Współrzędne podano w stopniach, a rysunek wymaga współrzędnych płaskich w metrach: najpierw je przelicz. Nic "
        "nie zapisano.\n",
        "Die Koordinaten stehen in Grad; eine Zeichnung braucht ebene Koordinaten in Metern: bitte erst umrechnen. "
        "Nichts wurde geschrieben.\n",
        "Coordonatele sunt în grade, iar desenul cere coordonate plane în metri: transformați-le mai întâi. Nu s-a "
-       "scris "
-       "nimic.\n",
+       "scris nimic.\n",
        "The coordinates are degrees; a drawing needs grid coordinates in metres: transform them first. Nothing was "
        "written.\n"},
       {"konsola.prep_bez_wspolrzednych", "",
@@ -182,9 +176,9 @@ std::span<const Text> prepare_texts() {
       {"konsola.prep_bez_wysokosci", "", "brak wysokości", "keine Höhe", "fără cotă", "no height"},
       {"konsola.prep_wysokosc_zero", "", "brak wysokości, zapisano 0", "keine Höhe, 0 geschrieben",
        "fără cotă, s-a scris 0", "no height, 0 written"},
-      {"konsola.prep_numer_zmieniony", "", "z numeru usunięto znaki, które dzielą wiersz lub zaczynają uwagę",
-       "aus der Nummer entfielen Zeichen, die trennen oder eine Bemerkung beginnen",
-       "din număr s-au scos semne care despart sau încep o observație",
+      {"konsola.prep_numer_zmieniony", "", "z numeru usunięto znaki, które dzielą wiersz lub zaczynają komentarz",
+       "aus der Nummer entfielen Zeichen, die trennen oder einen Kommentar beginnen",
+       "din număr s-au scos semne care despart sau încep un comentariu",
        "signs that separate or begin a comment were taken out of the number"},
       {"konsola.prep_numer_nadany", "", "brak numeru, nadano L i numer linii",
        "keine Nummer, L und Zeilennummer gesetzt", "fără număr, s-a pus L și numărul liniei",
@@ -195,9 +189,9 @@ std::span<const Text> prepare_texts() {
        "kodowanie: %s; separator: %s\n", "Kodierung: %s; Trennzeichen: %s\n", "codificare: %s; separator: %s\n",
        "encoding: %s; separator: %s\n"},
       {"konsola.prep_log_suma_linii", "ddddd",  // lines, comments, blank, records, further lines of records
-       "linie %d = uwagi %d + puste %d + wiersze %d + dalsze linie wierszy %d\n",
-       "Zeilen %d = Bemerkungen %d + leere %d + Datensätze %d + deren weitere Zeilen %d\n",
-       "linii %d = observații %d + goale %d + rânduri %d + alte linii ale lor %d\n",
+       "linie %d = komentarze %d + puste %d + wiersze %d + dalsze linie wierszy %d\n",
+       "Zeilen %d = Kommentare %d + leere %d + Datensätze %d + deren weitere Zeilen %d\n",
+       "linii %d = comentarii %d + goale %d + rânduri %d + alte linii ale lor %d\n",
        "lines %d = comments %d + blank %d + records %d + their further lines %d\n"},
       {"konsola.prep_log_suma", "dddd",  // records, points, head, left out
        "wiersze %d = punkty %d + nagłówek %d + pominięte %d\n",

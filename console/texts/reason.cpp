@@ -27,11 +27,9 @@ std::span<const Text> reason_texts() {
        "Die Zeilen trennen ihre Werte verschieden: teils mit Tabulator oder Semikolon, teils mit Leerzeichen. Bitte "
        "vereinheitlichen oder: vexo-xyz prepare DATEI.",
        "liniile despart valorile diferit: unele cu tabulator sau punct și virgulă, altele cu spații. Uniformizați-le "
-       "sau "
-       "folosiți: vexo-xyz prepare FIȘIER.",
+       "sau folosiți: vexo-xyz prepare FIȘIER.",
        "the lines separate their values in different ways: some by tabs or semicolons, others by blanks. Make them "
-       "alike, "
-       "or use vexo-xyz prepare FILE."},
+       "alike, or use vexo-xyz prepare FILE."},
       {"konsola.powod_linia", "d",  // line
        "linia %d dzieli się na tekst i jedną liczbę, a większość wierszy na dwie kolumny: zapewne mieszają się w niej "
        "separatory lub brakuje współrzędnej. Popraw ją lub użyj: vexo-xyz prepare PLIK.",
@@ -47,36 +45,32 @@ std::span<const Text> reason_texts() {
        "the text is written in UTF-16. Save it as UTF-8, or use vexo-xyz prepare FILE."},
       {"konsola.powod_raster", "",
        "to siatka wysokości (raster), a nie lista punktów: jej liczby nie są współrzędnymi. Zamień ją najpierw na "
-       "listę "
-       "X Y Z w programie GIS.",
+       "listę X Y Z w programie GIS.",
        "Das ist ein Höhenraster, keine Punktliste: seine Zahlen sind keine Koordinaten. Bitte im GIS erst in eine "
-       "Liste "
-       "X Y Z umwandeln.",
+       "Liste X Y Z umwandeln.",
        "aceasta este o grilă de altitudini (raster), nu o listă de puncte: numerele ei nu sunt coordonate. "
        "Transformați-o mai întâi într-o listă X Y Z într-un program GIS.",
        "this is a raster grid, not a list of points: its numbers are no coordinates. Turn it into a list X Y Z in a "
-       "GIS "
-       "first."},
+       "GIS first."},
       {"konsola.powod_dms", "",
        "współrzędne zapisano w stopniach, minutach i sekundach, a rysunek wymaga współrzędnych płaskich w metrach: "
        "najpierw je przelicz.",
        "Die Koordinaten stehen in Grad, Minuten und Sekunden; eine Zeichnung braucht ebene Koordinaten in Metern: "
-       "bitte "
-       "erst umrechnen.",
+       "bitte erst umrechnen.",
        "coordonatele sunt scrise în grade, minute și secunde, iar desenul cere coordonate plane în metri: "
        "transformați-le mai întâi.",
        "the coordinates are written in degrees, minutes and seconds; a drawing needs grid coordinates in metres: "
        "transform them first."},
       {"konsola.powod_ods", "", "to arkusz OpenDocument (.ods). Zapisz go w arkuszu kalkulacyjnym jako .xlsx lub CSV.",
        "Das ist eine OpenDocument-Tabelle (.ods). Bitte als .xlsx oder CSV speichern.",
-       "aceasta este o foaie OpenDocument (.ods). Salvați-o ca .xlsx sau CSV.",
+       "aceasta este o foaie de calcul OpenDocument (.ods). Salvați-o ca .xlsx sau CSV.",
        "this is an OpenDocument spreadsheet (.ods). Save it as .xlsx or CSV."},
       {"konsola.powod_xlsb", "", "to skoroszyt binarny (.xlsb). Zapisz go w arkuszu kalkulacyjnym jako .xlsx lub CSV.",
        "Das ist eine binäre Arbeitsmappe (.xlsb). Bitte als .xlsx oder CSV speichern.",
        "acesta este un registru binar (.xlsb). Salvați-l ca .xlsx sau CSV.",
        "this is a binary workbook (.xlsb). Save it as .xlsx or CSV."},
       {"konsola.powod_encrypted", "",
-       "skoroszyt jest zaszyfrowany hasłem. Otwórz go, zdejmij hasło i zapisz ponownie jako .xlsx.",
+       "skoroszyt jest zaszyfrowany hasłem. Otwórz go, usuń hasło i zapisz ponownie jako .xlsx.",
        "Die Arbeitsmappe ist mit einem Kennwort verschlüsselt. Bitte öffnen, das Kennwort entfernen und als .xlsx "
        "speichern.",
        "registrul este criptat cu parolă. Deschideți-l, scoateți parola și salvați-l din nou ca .xlsx.",
@@ -110,37 +104,38 @@ std::span<const Text> reason_texts() {
        "aceasta este o imagine, nu un fișier cu puncte. Cereți coordonatele într-un fișier text sau într-un registru.",
        "this is an image, not a file of points. Ask for the coordinates as a text file or a workbook."},
       {"konsola.powod_cells_unreadable", "",
-       "w skoroszycie nie znaleziono komórek w zapisie, który tu się czyta. Użyj: vexo-xyz prepare PLIK, albo zapisz "
-       "arkusz jako CSV.",
+       "w skoroszycie nie znaleziono komórek, które można tu odczytać. Użyj: vexo-xyz prepare PLIK, albo zapisz arkusz "
+       "jako CSV.",
        "In der Arbeitsmappe fand sich keine Zelle in der Schreibweise, die hier gelesen wird. Bitte: vexo-xyz prepare "
        "DATEI, oder das Blatt als CSV speichern.",
-       "în registru nu s-au găsit celule în scrierea citită aici. Folosiți: vexo-xyz prepare FIȘIER sau salvați foaia "
-       "ca "
-       "CSV.",
+       "în registru nu s-au găsit celule care să poată fi citite aici. Folosiți: vexo-xyz prepare FIȘIER sau salvați "
+       "foaia ca CSV.",
        "the workbook holds no cells in the spelling that is read here. Use vexo-xyz prepare FILE, or save the "
-       "worksheet as "
-       "CSV."},
+       "worksheet as CSV."},
       {"konsola.powod_ponad_miare", "",
-       "skoroszyt jest większy, niż tu się czyta. Zostaw w nim tylko punkty lub zapisz arkusz jako CSV.",
-       "Die Arbeitsmappe ist größer, als hier gelesen wird. Bitte nur die Punkte darin lassen oder das Blatt als CSV "
-       "speichern.",
-       "registrul este mai mare decât se citește aici. Lăsați în el numai punctele sau salvați foaia ca CSV.",
-       "the workbook is larger than is read here. Keep the points alone in it, or save the worksheet as CSV."},
+       "skoroszyt jest zbyt duży, by go tu wczytać. Zostaw w nim tylko punkty lub zapisz arkusz jako CSV.",
+       "Die Arbeitsmappe ist zu groß, um hier gelesen zu werden. Bitte nur die Punkte darin lassen oder das Blatt als "
+       "CSV speichern.",
+       "registrul este prea mare pentru a fi citit aici. Lăsați în el numai punctele sau salvați foaia ca CSV.",
+       "the workbook is too large to be read here. Keep the points alone in it, or save the worksheet as CSV."},
+      {"konsola.powod_inny_arkusz", "ss",  // the worksheet that is read, one with values
+       "wczytywany arkusz „%s” jest pusty, a dane stoją w arkuszu „%s”. Odczytaj go: vexo-xyz prepare PLIK --sheet "
+       "NAZWA.",
+       "Das gelesene Blatt „%s“ ist leer, Werte stehen auf „%s“. Einlesen mit: vexo-xyz prepare DATEI --sheet NAME.",
+       "foaia citită „%s” este goală, iar valorile sunt în „%s”. Citiți-o cu: vexo-xyz prepare FIȘIER --sheet NUME.",
+       "the worksheet that is read, “%s”, is empty, and values stand on “%s”. Read it: vexo-xyz prepare FILE --sheet "
+       "NAME."},
       {"konsola.powod_empty", "", "plik jest pusty.", "Die Datei ist leer.", "fișierul este gol.",
        "the file is empty."},
       {"konsola.powod_no_numbers", "",
-       "w żadnym wierszu współrzędne nie stoją w pierwszych kolumnach. Jeśli są w innych, wskaż je: vexo-xyz prepare "
-       "PLIK "
-       "--columns …",
+       "w żadnym wierszu nie ma współrzędnych w pierwszych kolumnach. Jeśli są w innych, wskaż je: vexo-xyz prepare "
+       "PLIK --columns …",
        "In keiner Zeile stehen Koordinaten in den ersten Spalten. Stehen sie in anderen, bitte angeben: vexo-xyz "
-       "prepare "
-       "DATEI --columns …",
+       "prepare DATEI --columns …",
        "în niciun rând coordonatele nu stau în primele coloane. Dacă stau în altele, indicați-le: vexo-xyz prepare "
-       "FIȘIER "
-       "--columns …",
+       "FIȘIER --columns …",
        "in no row do coordinates stand in the first columns. If they stand in others, name these: vexo-xyz prepare "
-       "FILE "
-       "--columns …"},
+       "FILE --columns …"},
       {"konsola.powod_bez_wysokosci", "",
        "w żadnym wierszu nie ma liczby tam, gdzie powinna być wysokość. Wskaż kolumny: vexo-xyz prepare PLIK --columns "
        "…",
@@ -153,13 +148,11 @@ std::span<const Text> reason_texts() {
        "pliku nie można odczytać: nie istnieje, jest uszkodzony, nie wolno go czytać albo nie jest zwykłym plikiem. "
        "Sprawdź ścieżkę lub pobierz plik ponownie.",
        "Die Datei ist nicht lesbar: es gibt sie nicht, sie ist beschädigt, gesperrt oder keine gewöhnliche Datei. "
-       "Bitte "
-       "den Pfad prüfen oder die Datei neu beschaffen.",
-       "fișierul nu poate fi citit: nu există, este deteriorat, nu aveți dreptul sau nu este un fișier obișnuit. "
-       "Verificați calea sau obțineți din nou fișierul.",
+       "Bitte den Pfad prüfen oder die Datei neu beschaffen.",
+       "fișierul nu poate fi citit: nu există, este deteriorat, nu aveți drept de citire sau nu este un fișier "
+       "obișnuit. Verificați calea sau obțineți din nou fișierul.",
        "the file cannot be read: it does not exist, is damaged, may not be read or is no ordinary file. Check the "
-       "path, or "
-       "get the file again."},
+       "path, or get the file again."},
   });
   return kTexts;
 }

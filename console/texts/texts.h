@@ -3,7 +3,6 @@
 #pragma once
 
 #include <memory>
-#include <span>
 #include <string_view>
 #include <vector>
 

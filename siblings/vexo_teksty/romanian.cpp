@@ -75,22 +75,22 @@ constexpr auto kRomanian = [] {
       {"xyz.osie_wiersz", "  %s: %s, latitudine %.6f°, longitudine %.6f°\n"},
       {"xyz.osie_legenda_tpl",
        "%s sau Enter: se inserează așa cum stă în fișier; %s: se inversează X și Y.\n"
-       "Esc sau sfârșitul intrării: se inserează așa cum stă în fișier, fără confirmarea ordinii axelor.\n"},
+       "Esc sau sfârșitul datelor de intrare: se inserează așa cum stă în fișier, fără confirmarea ordinii axelor.\n"},
       {"xyz.prompt_zamien_osie_tpl", "Ordinea axelor este corectă? [%s] <%s>: "},
       {"xyz.kw_tak", "Da"},
       {"xyz.kw_zamien", "Inverseaza"},
       {"xyz.osie_podane_e",
-       "\nOrdinea axelor indicată dinainte: prima coordonată este cea est. Punctele se inserează așa cum stau în "
+       "\nOrdinea axelor indicată dinainte: prima coordonată este cea de est. Punctele se inserează așa cum stau în "
        "fișier.\n"},
       {"xyz.osie_podane_n",
-       "\nOrdinea axelor indicată dinainte: prima coordonată este cea nord. X și Y au fost inversate, pentru ca în "
+       "\nOrdinea axelor indicată dinainte: prima coordonată este cea de nord. X și Y au fost inversate, pentru ca în "
        "desen nordul să fie sus.\n"},
       {"xyz.osie_z_pliku",
        "\nOrdinea axelor indicată în prima linie a fișierului: E, N. Punctele se inserează așa cum stau în fișier.\n"},
       {"xyz.osie_wbrew_plikowi",
-       "Prima linie a fișierului indică ordinea E, N; hotărăște ordinea indicată dinainte.\n"},
+       "Prima linie a fișierului indică ordinea E, N; prevalează ordinea indicată dinainte.\n"},
       {"xyz.osie_wbrew_liczbom",
-       "Numerele singure ar arăta sistemul %s cu ordinea inversă a axelor; hotărăște ordinea indicată.\n"},
+       "Numerele singure ar indica sistemul %s cu ordinea inversă a axelor; prevalează ordinea indicată.\n"},
       {"xyz.osie_bez_ukladu", "Sistemul de coordonate nu a fost recunoscut (sistem local?).\n"},
       {"xyz.osie_pozostaje", "Numerele singure se potrivesc cu mai multe citiri; cu ordinea indicată se potrivește:\n"},
 

@@ -1,7 +1,6 @@
 #include "vexo_xyz_impl/command/import.h"
 
 #include <exception>
-#include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -54,7 +53,7 @@ CommandOutcome import_file(ImportSeen& seen) {
   if (!read_file(seen)) return CommandOutcome::failed;
 
   const std::vector<Row>& rows = seen.loaded.rows->rows();
-  const auto declared = columns_by_first_line(seen.path, rows);
+  const auto declared = columns_by_first_line(seen.loaded.rows->text(), rows);
   LayoutVerdict& verdict = seen.verdict;
   without_lock([&] { verdict = declared ? declared_layout(*declared, rows) : _wykryj_format(rows); });
   if (!verdict.fmt && !ask_layout(verdict)) return CommandOutcome::nothing_done;

@@ -4,7 +4,6 @@
 #include <array>
 #include <tuple>
 #include <utility>
-#include <vector>
 
 #include "vexo_xyz_impl/command/keywords.h"
 #include "vexo_xyz_impl/messages.h"
@@ -72,8 +71,8 @@ bool ask_layout(LayoutVerdict& verdict) {
   return true;
 }
 
-std::optional<DeclaredColumns> columns_by_first_line(const std::string& path, std::span<const Row> wiersze) {
-  const auto declared = declared_columns(path);
+std::optional<DeclaredColumns> columns_by_first_line(std::string_view text, std::span<const Row> wiersze) {
+  const auto declared = declared_columns(text);
   if (!declared || wiersze.empty()) return declared;
   const std::size_t columns = _liczba_kolumn(wiersze);
   if (columns == declared->count()) return declared;

@@ -24,10 +24,9 @@ namespace vexo_xyz_impl {
 /// Without a row of data neither answer could make a point: then nothing is asked and the layout stays open.
 [[nodiscard]] bool ask_layout(LayoutVerdict& verdict);
 
-/// What the first line of the file at `path` states of its columns. Empty when it states nothing or, with the user
+/// What the first line of a text file's `text` states of its columns. Empty when it states nothing or, with the user
 /// told, when that does not fit the rows.
-[[nodiscard]] std::optional<DeclaredColumns> columns_by_first_line(const std::string& path,
-                                                                   std::span<const Row> wiersze);
+[[nodiscard]] std::optional<DeclaredColumns> columns_by_first_line(std::string_view text, std::span<const Row> wiersze);
 
 /// The verdict that follows from it. All rows are data: those that give no point are to show among the skipped ones.
 [[nodiscard]] LayoutVerdict declared_layout(const DeclaredColumns& declared, std::span<const Row> wiersze);

@@ -21,11 +21,10 @@ struct DeclaredColumns {
   [[nodiscard]] std::size_t count() const { return (number ? 1U : 0U) + 2U + (height ? 1U : 0U); }
 };
 
-/// What the line states; empty when it is of any other form.
-[[nodiscard]] std::optional<DeclaredColumns> columns_of_line(std::string_view line);
+/// What the first line of a file's text states, a byte order mark aside; empty when it is of any other form.
+[[nodiscard]] std::optional<DeclaredColumns> declared_columns(std::string_view text);
 
-/// What the first line of the file at `path` states, a byte order mark aside; empty when it states nothing, and when
-/// the file cannot be read.
-[[nodiscard]] std::optional<DeclaredColumns> declared_columns(const std::string& path);
+/// The line that states them, without its end.
+[[nodiscard]] std::string line_of_columns(const DeclaredColumns& columns);
 
 }  // namespace vexo_xyz_impl

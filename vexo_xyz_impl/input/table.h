@@ -31,9 +31,6 @@ class Table {
   /// Takes over the buffer of the shared strings of a workbook.
   void adopt_shared(std::vector<char> buffer) { shared_ = adopt(std::move(buffer)); }
 
-  /// That buffer; empty when there is none.
-  [[nodiscard]] std::string_view shared_text() const { return shared_; }
-
   /// Whether the cell is a shared string of a workbook: all cells that share it are views of the same bytes.
   [[nodiscard]] bool shares(Cell cell) const;
 

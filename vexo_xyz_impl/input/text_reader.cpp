@@ -2,18 +2,16 @@
 
 #include <algorithm>
 #include <cstring>
-#include <span>
 #include <string_view>
 #include <utility>
 
 #include "vexo_xyz_impl/input/code_pages.h"
 #include "vexo_xyz_impl/input/file_bytes.h"
+#include "vexo_xyz_impl/text/lines.h"
 #include "vexo_xyz_impl/text/utf8.h"
 
 namespace vexo_xyz_impl {
 namespace {
-
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 // The lines of a text without their ends. Each kind of line end is looked for once, so that a file of lone carriage
 // returns is not searched for line feeds at every line.
@@ -49,8 +47,6 @@ std::size_t find_delimiter(std::string_view line) {
   return found == line.end() ? std::string_view::npos : static_cast<std::size_t>(found - line.begin());
 }
 
-bool is_comment(std::string_view line) { return line.starts_with('#') || line.starts_with("//"); }
-
 void add_piece(Table& wiersze, std::string_view piece) {
   if (const std::string_view cell = text::trim(piece); !cell.empty()) wiersze.add_cell(cell);
 }
@@ -78,7 +74,7 @@ void split_at_white_space(Table& wiersze, std::string_view line) {
 
 void add_line(Table& wiersze, std::string_view raw) {
   const std::string_view line = text::trim(raw);
-  if (line.empty() || is_comment(line)) return;
+  if (line.empty() || text::begins_comment(line)) return;
   if (const std::size_t first = find_delimiter(line); first != std::string_view::npos) {
     split_at_delimiters(wiersze, line, first);
   } else {
@@ -100,9 +96,9 @@ Table table_from_bytes(std::vector<char> bytes) {
   Table wiersze;
   auto [utf8, encoding] = to_utf8(std::move(bytes));
   wiersze.note_encoding(encoding);
-  std::string_view text = wiersze.adopt(std::move(utf8));
-  if (text.starts_with(kByteOrderMark)) text.remove_prefix(kByteOrderMark.size());
-  Lines lines(text);
+  std::string_view utf8_text = wiersze.adopt(std::move(utf8));
+  text::take_byte_order_mark(utf8_text);
+  Lines lines(utf8_text);
   while (const auto line = lines.next()) add_line(wiersze, *line);
   return wiersze;
 }
