@@ -149,7 +149,7 @@ class Preparation {
 
   // Each kind of note with the first lines it is of.
   void tell(const PreparedAccount& account) {
-    for (int kind = 0; kind <= static_cast<int>(RowNote::number_made); ++kind) {
+    for (int kind = 0; kind <= static_cast<int>(RowNote::hidden); ++kind) {
       const auto note = static_cast<RowNote>(kind);
       std::size_t count = 0;
       std::string lines;
@@ -160,8 +160,10 @@ class Preparation {
       if (count == 0) continue;
       if (count > kLinesNamed) lines += " ...";
       const std::string what = note_text(note);
-      print(filled(intake::is_left_out(note) ? "konsola.prep_pominieto" : "konsola.prep_zmieniono",
-                   {static_cast<long long>(count), std::string_view(what), std::string_view(lines)}));
+      const std::string_view key = note == RowNote::hidden     ? "konsola.prep_ukryte"
+                                   : intake::is_left_out(note) ? "konsola.prep_pominieto"
+                                                               : "konsola.prep_zmieniono";
+      print(filled(key, {static_cast<long long>(count), std::string_view(what), std::string_view(lines)}));
       if (note == RowNote::no_height) say("konsola.prep_bez_wysokosci_rada");
     }
   }

@@ -81,9 +81,15 @@ class Choosing {
         names += (i == 0 ? "" : ", ") + std::to_string(i + 1);
         if (!shape_.names[i].empty()) names += " " + shape_.names[i];
       }
-      say("konsola.prep_zle_kolumny", {columns, names});
+      const std::string twice(intake::ambiguous_name(shape_, columns));
+      if (twice.empty()) {
+        say("konsola.prep_zle_kolumny", {columns, names});
+      } else {
+        say("konsola.prep_nazwa_dwa_razy", {twice, names});
+      }
       return {std::nullopt, kUsage};
     }
+    if (is_short(*roles)) return {std::nullopt, kUsage};
     if (are_degrees(*roles)) return {};
     tell_order(*roles);
     return {roles};
@@ -115,6 +121,28 @@ class Choosing {
       say("konsola.prep_stopnie");
     }
     return true;
+  }
+
+  // Tells that roles are for fewer or more columns than there are; whether they seem to name the wrong ones.
+  bool is_short(const Roles& roles) {
+    const std::size_t columns = shape_.width;
+    if (roles.size() == columns) return false;
+    const auto is_filled = [](const intake::ColumnContent& column) { return column.filled > 0; };
+    const bool is_less = roles.size() < columns;
+    if (is_less && std::none_of(shape_.columns.begin() + static_cast<std::ptrdiff_t>(roles.size()),
+                                shape_.columns.end(), is_filled)) {
+      return false;
+    }
+    say(is_less ? "konsola.prep_mniej_rol" : "konsola.prep_wiecej_rol",
+        {std::to_string(columns), std::to_string(roles.size())});
+    const bool seem_short = intake::seem_one_short(shape_, roles);
+    if (seem_short) {
+      const auto first = std::find_if(roles.begin(), roles.end(), [](Role role) {
+        return role != Role::number && role != Role::height && role != Role::other;
+      });
+      say("konsola.prep_przesuniete", {std::to_string(first - roles.begin() + 1)});
+    }
+    return seem_short;
   }
 
   // The prepared file's X and Y are the file's first and second coordinate, which it may call otherwise.
@@ -157,10 +185,12 @@ class Choosing {
     while (const auto typed = lines_.read_line(without_control_characters(T("konsola.prep_wybor")), Completion::none)) {
       const std::string answer(vexo_xyz_impl::text::trim(*typed));
       const auto roles = meant(decision, answer);
-      if (roles && are_degrees(*roles)) return {};
-      if (roles) tell_order(*roles);
-      if (roles) return {roles};
-      say("konsola.prep_zly_wybor", {answer});
+      if (roles && !is_short(*roles)) {
+        if (are_degrees(*roles)) return {};
+        tell_order(*roles);
+        return {roles};
+      }
+      if (!roles) say("konsola.prep_zly_wybor", {answer});
       if (lines_.at_end()) break;
     }
     say("konsola.prep_bez_wyboru", {"--columns " + intake::spelled(decision.proposals.front().roles)});

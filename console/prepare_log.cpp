@@ -49,6 +49,8 @@ std::string note_text(RowNote note) {
       return T("konsola.prep_nie_liczba");
     case RowNote::not_finite:
       return T("konsola.prep_nieskonczona");
+    case RowNote::moved:
+      return T("konsola.prep_przesuniety");
     case RowNote::no_height:
       return T("konsola.prep_bez_wysokosci");
     case RowNote::height_set_to_zero:
@@ -57,6 +59,8 @@ std::string note_text(RowNote note) {
       return T("konsola.prep_numer_zmieniony");
     case RowNote::number_made:
       return T("konsola.prep_numer_nadany");
+    case RowNote::hidden:
+      return T("konsola.prep_ukryty");
   }
   return {};
 }

@@ -14,8 +14,8 @@ namespace {
 
 namespace text = vexo_xyz_impl::text;
 
-constexpr std::size_t kSurelyFinite = 200;  // digits; no more than these can pass the greatest double
-constexpr double kNoValue = 1e15;           // what is as large, 1E31 mostly, stands for a value that is missing
+constexpr std::size_t kSurelyAValue = 15;  // digits before the mark; with no more it is less than the next
+constexpr double kNoValue = 1e15;          // what is as large, 1E31 mostly, stands for a value that is missing
 constexpr std::string_view kMinus = "\xE2\x88\x92";
 
 constexpr bool is_digit(char c) { return c >= '0' && c <= '9'; }
@@ -38,16 +38,18 @@ bool is_plain(std::string_view cell) {
   std::size_t at = !cell.empty() && (cell.front() == '-' || cell.front() == '+') ? 1 : 0;
   bool mark = false;
   std::size_t digits = 0;
+  std::size_t whole = 0;
   for (; at < cell.size(); ++at) {
     if (is_digit(cell[at])) {
       ++digits;
+      whole += mark ? 0 : 1;
     } else if (cell[at] == '.' && !mark) {
       mark = true;
     } else {
       return false;
     }
   }
-  return digits > 0 && digits < kSurelyFinite;
+  return digits > 0 && whole <= kSurelyAValue;
 }
 
 // Whether `mark` comes again, so that it parts thousands.
@@ -208,6 +210,13 @@ bool append_number(std::string& out, std::string_view cell) {
   }
   out.resize(before);
   return false;
+}
+
+bool is_no_finite_number(std::string_view cell) {
+  std::string plain;
+  const bool is_spelled = spell(plain, cell) != NumberForm::none;
+  const auto value = vexo_xyz_impl::parse_number(is_spelled ? std::string_view(plain) : cell);
+  return value && !(std::abs(*value) < kNoValue);
 }
 
 std::size_t decimals_of(std::string_view cell) {

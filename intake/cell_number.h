@@ -18,6 +18,9 @@ enum class NumberForm { none, whole, point, comma };
 /// finite or so large that it stands for none, as 1E31 does.
 [[nodiscard]] bool append_number(std::string& out, std::string_view cell);
 
+/// Whether the cell is a number that `append_number` takes for none: nan, infinite or too large.
+[[nodiscard]] bool is_no_finite_number(std::string_view cell);
+
 /// Digits behind the mark of a plain number.
 [[nodiscard]] std::size_t decimals_of(std::string_view cell);
 

@@ -316,6 +316,15 @@ bool name_a_column_less(const TableShape& shape) {
   return is_numbering(shape, 0) || (first.numbers == 0 && first.filled == shape.rows);
 }
 
+std::vector<Column> coordinates_of(const TableShape& shape, const Roles& roles) {
+  std::vector<Column> coordinates;
+  for (Column i = 0; i < std::min(roles.size(), shape.width); ++i) {
+    if (roles[i] == Role::number || roles[i] == Role::height || roles[i] == Role::other) continue;
+    coordinates.push_back(i);
+  }
+  return coordinates;
+}
+
 void propose_names_behind_the_first(const TableShape& shape, Decision& decision) {
   TableShape moved = shape;
   moved.names = shape.loose_names;
@@ -329,6 +338,17 @@ void propose_names_behind_the_first(const TableShape& shape, Decision& decision)
 }
 
 }  // namespace
+
+bool seem_one_short(const TableShape& shape, const Roles& roles) {
+  const std::vector<Column> coordinates = coordinates_of(shape, roles);
+  if (roles.size() >= shape.width || coordinates.size() != 2) return false;
+  const auto is_measured = [&](Column i) {
+    const ColumnContent& content = shape.columns[i];
+    return content.is_numeric() && 2 * content.whole < content.numbers;
+  };
+  const ColumnContent& first = shape.columns[coordinates[0]];
+  return first.is_numeric() && !is_measured(coordinates[0]) && is_measured(coordinates[1]) && is_measured(roles.size());
+}
 
 Decision decide(const TableShape& shape) {
   if (shape.rows == 0) return {};
@@ -350,11 +370,7 @@ Decision decide(const TableShape& shape) {
 }
 
 Verdict judged(const TableShape& shape, const Roles& roles) {
-  std::vector<Column> coordinates;
-  for (Column i = 0; i < std::min(roles.size(), shape.width); ++i) {
-    if (roles[i] == Role::number || roles[i] == Role::height || roles[i] == Role::other) continue;
-    coordinates.push_back(i);
-  }
+  const std::vector<Column> coordinates = coordinates_of(shape, roles);
   if (coordinates.size() != 2) return Verdict::clear;
   const auto angle = [&](Column i) {
     const Named named = header_name(shape.names[i]).named;

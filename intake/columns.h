@@ -46,12 +46,20 @@ struct Decision {
 /// warning, `clear` when there is nothing to say.
 [[nodiscard]] Verdict judged(const TableShape& shape, const Roles& roles);
 
+/// Whether roles for fewer columns than there are seem to be one short: the first coordinate they name holds whole
+/// numbers, those behind it and the first column that none is for do not, as with a number of two parts, "PKT 1".
+[[nodiscard]] bool seem_one_short(const TableShape& shape, const Roles& roles);
+
 /// The column that holds both coordinates, "389301,508713": by its name or the points of both; or, with `roles`, when
 /// these take it for two. Empty without one.
 [[nodiscard]] std::optional<std::size_t> pair_column(const TableShape& shape, const Roles* roles);
 
 /// Roles as `--columns` gives them: by position, "nr,n,e,z", or by the header's names or positions, "nr=POINT,n=3".
-/// Empty when they are neither, name what the header does not or do not name two coordinates.
+/// Empty when they are neither, name what the header does not or has twice, or do not name two coordinates.
 [[nodiscard]] std::optional<Roles> roles_for(const TableShape& shape, std::string_view spelled);
+
+/// Of a list of roles by names the first name that several columns have, letter case aside where none has it exactly;
+/// empty when there is none.
+[[nodiscard]] std::string_view ambiguous_name(const TableShape& shape, std::string_view spelled);
 
 }  // namespace intake

@@ -4,6 +4,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <limits>
 #include <optional>
 #include <utility>
 
@@ -81,11 +82,6 @@ std::string changed(std::string_view number) {
   return std::string(text::trim(kept));
 }
 
-bool is_infinite_or_nan(std::string_view cell) {
-  const auto value = vexo_xyz_impl::parse_number(cell);
-  return value && !std::isfinite(*value);
-}
-
 class Writer {
  public:
   Writer(const PreparedForm& form, const std::function<void(std::string_view)>& write)
@@ -112,6 +108,7 @@ class Writer {
     }
     ++account_.points;
     if (row_note_) note(record, *row_note_);
+    if (record.hidden) note(record, RowNote::hidden);
     extend_runs(record.line);
     if (piece_.size() >= kPiece) flush();
   }
@@ -140,12 +137,13 @@ class Writer {
       if (filled + 1 != form_.kinds.size() || !fits(cells, places_.height)) return RowNote::too_few_cells;
       lacks_height = true;
     }
+    if (!form_.spreads.empty() && filled > form_.spreads.size() && has_moved(cells)) return RowNote::moved;
     append_point_number(record);
     for (const std::size_t place : places_.coordinates) {
       piece_ += ';';
       if (append_number(piece_, cells[place])) continue;
       if (cells[place].empty()) return RowNote::too_few_cells;
-      return is_infinite_or_nan(cells[place]) ? RowNote::not_finite : RowNote::no_coordinate;
+      return is_no_finite_number(cells[place]) ? RowNote::not_finite : RowNote::no_coordinate;
     }
     if (places_.height != kNowhere) {
       piece_ += ';';
@@ -157,6 +155,27 @@ class Writer {
     }
     piece_ += '\n';
     return std::nullopt;
+  }
+
+  // Whether both coordinates stand a cell further right: there they lie with the others, and here at least one does
+  // not.
+  [[nodiscard]] bool has_moved(const std::vector<std::string_view>& cells) const {
+    bool is_outside = false;
+    for (const std::size_t place : places_.coordinates) {
+      if (place >= form_.spreads.size()) return false;
+      const Spread& spread = form_.spreads[place];
+      std::array<double, 2> values{};
+      for (std::size_t i = 0; i < 2; ++i) {
+        std::string plain;
+        const bool is_number = append_number(plain, cells[place + i]);
+        if (!is_number && i == 1) return false;
+        values[i] = is_number ? vexo_xyz_impl::_num(plain) : std::numeric_limits<double>::infinity();
+      }
+      if (!(std::abs(values[1] - spread.median) < std::abs(values[0] - spread.median))) return false;
+      const double span = spread.greatest - spread.least;
+      is_outside |= values[0] < spread.least - span || values[0] > spread.greatest + span;
+    }
+    return is_outside;
   }
 
   // Whether the cells are of their columns' kinds, a cell missing before the column `gap`.

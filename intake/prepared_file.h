@@ -26,17 +26,22 @@ struct PreparedForm {
   /// Between blanks a value that is missing moves those behind it: what a row of fewer cells must hold, column by
   /// column, to be taken as one that ends early or lacks its height. Empty where cells do not move.
   std::vector<CellKind> kinds;
+  /// By column, of the rows with as many cells: what a row of more cells is held against, for a cell too many in front
+  /// moves its coordinates. Empty where cells do not move.
+  std::vector<Spread> spreads;
 };
 
 /// Why a row gives no point, or what was done to it.
 enum class RowNote {
   too_few_cells,       ///< a column that is taken is missing
   no_coordinate,       ///< no number where a coordinate is due
-  not_finite,          ///< nan or infinite
+  not_finite,          ///< nan, infinite or too large for a coordinate
+  moved,               ///< more cells than the others have, and the coordinates are further right
   no_height,           ///< left out
   height_set_to_zero,  ///< a point all the same
   number_changed,      ///< a point; its number held what the importer cannot read
   number_made,         ///< a point that had no number: named by its line
+  hidden,              ///< a point all the same; people do not see its row on the sheet
 };
 
 /// Whether the note is of a row that gave no point.

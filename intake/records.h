@@ -9,6 +9,7 @@ namespace intake {
 
 struct Record {
   std::size_t line = 0;                 ///< physical line, or the row of a worksheet as its program numbers it; from 1
+  bool hidden = false;                  ///< of a worksheet: by hand or by a filter
   std::vector<std::string_view> cells;  ///< UTF-8, without quotes and the blanks around; valid until the next record
 };
 

@@ -18,7 +18,8 @@ SeenTable::SeenTable(const ForeignTable& table, const Roles* roles)
 }
 
 PreparedForm SeenTable::form(const Roles& roles, MissingHeight missing_height) const {
-  PreparedForm form{roles, missing_height, shape_.header_line, shape_.first_data_line, {}};
+  PreparedForm form{roles, missing_height, shape_.header_line, shape_.first_data_line, {}, {}};
+  if (cells_ == Cells::counted) form.spreads = shape_.spreads;
   const bool cells_move = table_.dialect && table_.dialect->separator == ' ';
   if (!cells_move) return form;
   form.kinds = shape_.kinds;

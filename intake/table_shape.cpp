@@ -227,6 +227,22 @@ void see_kinds(TableShape& shape, const Sample& sample, const std::vector<bool>&
   }
 }
 
+void see_spreads(TableShape& shape, const Sample& sample, const std::vector<bool>& columns) {
+  shape.spreads.resize(shape.cells);
+  for (std::size_t i = 0; i < shape.cells; ++i) {
+    std::vector<double> values;
+    for (const Kept& row : sample) {
+      if (row.line < shape.first_data_line || row.cells.size() != shape.cells || !looks_like_row(row, columns))
+        continue;
+      std::string plain;
+      if (append_number(plain, row.cells[i])) values.push_back(vexo_xyz_impl::_num(plain));
+    }
+    if (values.empty()) continue;
+    std::sort(values.begin(), values.end());
+    shape.spreads[i] = {values.front(), values[values.size() / 2], values.back()};
+  }
+}
+
 void see_content(TableShape& shape, const Sample& sample, const std::vector<bool>& columns) {
   shape.columns.resize(shape.width);
   std::vector<std::unordered_set<std::string_view>> distinct(shape.width);
@@ -270,6 +286,7 @@ TableShape shape_of(Records& records, const std::vector<std::pair<std::size_t, s
   const Sample sample = sample_of(records);
   TableShape shape;
   shape.width = commonest_width(sample);
+  shape.cells = shape.width;
   const std::vector<bool> columns = value_columns(sample, shape.width);
   const auto first = first_row(sample, columns, shape.width);
   const Sample head(sample.begin(), first);
@@ -292,6 +309,7 @@ TableShape shape_of(Records& records, const std::vector<std::pair<std::size_t, s
   }
   shape.width = std::max(shape.width, std::min(shape.names.size(), shape.width + 1));
   see_kinds(shape, sample, columns);
+  see_spreads(shape, sample, columns);
   see_content(shape, sample, columns);
   shape.names.resize(shape.width);
   return shape;

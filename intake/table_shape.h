@@ -36,6 +36,13 @@ struct ColumnContent {
 /// What a column holds in all rows that have as many cells as there are columns.
 enum class CellKind { any, number, text };
 
+/// How a column's numbers lie; all zero without numbers.
+struct Spread {
+  double least = 0.0;
+  double median = 0.0;
+  double greatest = 0.0;
+};
+
 /// What a line above the data says of the coordinates' system.
 enum class Projection { none, projected, geographic };
 
@@ -49,6 +56,8 @@ struct TableShape {
   std::vector<std::string> loose_names;
   std::vector<ColumnContent> columns;
   std::vector<CellKind> kinds;                    ///< by column
+  std::size_t cells = 0;                          ///< the commonest number of cells in a row
+  std::vector<Spread> spreads;                    ///< by column, of the rows that have as many cells
   std::vector<std::vector<std::string>> preview;  ///< the first rows of data
   Projection projection = Projection::none;
 };

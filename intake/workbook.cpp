@@ -33,6 +33,7 @@ class SheetRecords final : public Records {
   bool next(Record& record) override {
     while (const WorksheetRow* const row = sheet_->next()) {
       record.line = row->number;
+      record.hidden = row->hidden;
       record.cells.clear();
       for (const WorksheetCell& cell : row->cells) set(record.cells, cell);
       if (!record.cells.empty()) return true;

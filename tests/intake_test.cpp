@@ -142,6 +142,8 @@ TEST(Intake, DecidesWhatIsBeyondDoubtAndAsksElse) {
   for (const Case& c : kCases) EXPECT_EQ(decided(c.text), c.decided) << c.text;
   const Table two_numbers("1,6,5701011.42,7501015.90,100.37\n2,6,5701022.72,7501046.70,100.74\n");
   EXPECT_EQ(spelled(decide(two_numbers.seen.shape()).proposals.front().roles), "nr,-,x,y,z");
+  EXPECT_TRUE(seem_one_short(two_numbers.seen.shape(), *roles_of("nr,n,e,z")));
+  EXPECT_FALSE(seem_one_short(two_numbers.seen.shape(), *roles_of("nr,-,n,e")));
   const Table thousands("P1,5'701'011.423,7'501'015.901,100.5\nP2,5'701'022.723,7'501'046.701,100.6\n");
   EXPECT_EQ(judged(thousands.seen.shape(), *roles_of("nr,x,y,z")), Verdict::clear);
 }
@@ -291,8 +293,8 @@ TEST(Intake, WritesWhatTheImporterReads) {
        "# columns: number;X;Y\n\"a;1.5;2.5\nb\"c;2.5;3.5\nd;4.5;5.5\n"},
   };
   for (const Case& c : kCases) EXPECT_EQ(prepared(c.text, c.columns).file, c.file) << c.text;
-  for (const string_view columns : {"nr,e", "e,n,e", "x,n", "nr=No,e=East,n=West", "e=2,n=2", "foo"})
-    EXPECT_EQ(prepared("No;East;North\n7;1.5;2.5\n", columns).file, "no roles") << columns;
+  for (const string_view columns : {"nr,e", "e,n,e", "x,n", "nr=No,e=East,n=West", "e=2,n=2", "foo", "", "e=East,n=N"})
+    EXPECT_EQ(prepared("No;East;North;N;n;N\n7;1.5;2.5;3.5;3.5;3.5\n", columns).file, "no roles") << columns;
 }
 
 TEST(Intake, KeepsRowsThatLackAHeight) {
@@ -310,7 +312,24 @@ TEST(Intake, KeepsRowsThatLackAHeight) {
   EXPECT_EQ(prepared(kEmpty, "nr,x,y,z", MissingHeight::zero).file,
             "# columns: number;X;Y;Z\n1;5.5;6.5;1.5\n2;5.5;6.5;0\n3;5.5;6.5;0\n4;5.5;6.5;0\n");
   EXPECT_EQ(prepared(kEmpty, "nr,x,y,z").account.left_out, 3U);
+  const auto large = prepared("1;1e308;6.5\n2;5.5;6.5\n" + ("3;" + string(150, '9')) + ";6.5\n", "nr,x,y").account;
+  ASSERT_EQ(large.noted.size(), 2U);
+  for (const NotedRow& row : large.noted) EXPECT_EQ(row.note, RowNote::not_finite) << row.line;
   EXPECT_EQ(prepared(kPlaced, "nr,x,y,z").account.points, 2U);
+}
+
+TEST(Intake, LeavesOutRowsWhoseCoordinatesStandFurtherRight) {
+  for (const string_view gap : {" ", ";"}) {
+    string text;
+    for (const string_view number : {"A1", "A2", "A3", "A 4", "A5", "A6"})
+      text += (number == "A 4" ? "A" + string(gap) + "4" : string(number)) + string(gap) + "5701011.5" + string(gap) +
+              "7501015.5" + string(gap) + "100.5" + (number == "A6" ? string(gap) + "rog" : "") + "\n";
+    const auto account = prepared(text, "nr,n,e,z").account;
+    EXPECT_EQ(account.points, 5U) << text;
+    ASSERT_EQ(account.noted.size(), 1U) << text;
+    EXPECT_EQ(account.noted[0].note, RowNote::moved);
+    EXPECT_EQ(account.noted[0].line, 4U);
+  }
 }
 
 TEST(Intake, TellsWhichLineBecameWhichRow) {

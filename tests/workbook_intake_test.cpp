@@ -65,6 +65,11 @@ void expect_as_seen(const json& book, const std::string& path) {
   EXPECT_EQ(rows, book.at("rows").get<Rows>());
   records->rewind();
   EXPECT_EQ(rows_of(*records), rows);
+  Flaws::Rows hidden;
+  records->rewind();
+  for (Record record; records->next(record);)
+    if (record.hidden) hidden.push_back(record.line);
+  EXPECT_EQ(hidden, flaws.hidden_rows);
   const auto expected = book.at("flaws").get<std::map<std::string, Flaws::Rows>>();
   EXPECT_EQ(flaws_of(flaws), expected);
   EXPECT_TRUE(expected.empty() || glance(workbook, path, *first));

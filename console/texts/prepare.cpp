@@ -76,6 +76,30 @@ std::span<const Text> prepare_texts() {
        "coloanele fișierului: %s\n",
        "--columns %s does not fit: two coordinates are needed (e,n or x,y), each role at most once; columns of the "
        "file: %s\n"},
+      {"konsola.prep_nazwa_dwa_razy", "ss",  // name, names and positions that there are
+       "Kilka kolumn nosi nazwę „%s”; podaj kolumnę numerem: %s\n",
+       "Mehrere Spalten heißen „%s“; bitte die Spalte mit ihrer Nummer angeben: %s\n",
+       "Mai multe coloane se numesc „%s”; indicați coloana prin număr: %s\n",
+       "Several columns are called “%s”; give the column's number: %s\n"},
+      {"konsola.prep_mniej_rol", "ss",  // columns, roles
+       "Tabela ma kolumn: %s, podano: %s; pozostałych się nie bierze.\n",
+       "Die Tabelle hat %s Spalten, angegeben sind %s; die übrigen entfallen.\n",
+       "Tabelul are %s coloane, s-au indicat %s; celelalte nu se iau.\n",
+       "The table has %s columns, %s were named; the rest is not taken.\n"},
+      {"konsola.prep_wiecej_rol", "ss",  // columns, roles
+       "Tabela ma kolumn: %s, podano: %s.\n", "Die Tabelle hat %s Spalten, angegeben sind %s.\n",
+       "Tabelul are %s coloane, s-au indicat %s.\n", "The table has %s columns, %s were named.\n"},
+      {"konsola.prep_przesuniete", "s",  // column
+       "Kolumna %s ma liczby całkowite, a następne z ułamkiem: to raczej część numeru niż współrzędna. Podaj rolę "
+       "każdej "
+       "kolumny (- pomija).\n",
+       "Die Spalte %s enthält ganze Zahlen, die folgenden solche mit Nachkommastellen: eher ein Teil der Nummer als "
+       "eine "
+       "Koordinate. Bitte jede Spalte angeben (- entfällt).\n",
+       "Coloana %s are numere întregi, iar următoarele cu zecimale: mai degrabă parte a numărului decât coordonată. "
+       "Indicați rolul fiecărei coloane (- omite).\n",
+       "Column %s holds whole numbers, those behind it decimals: rather a part of the number than a coordinate. Name "
+       "every column (- for one not taken).\n"},
       {"konsola.prep_stopnie_zamiast_siatki", "",
        "Liczby są za małe na współrzędne E i N siatki państwowej: to zapewne stopnie, których rysunek nie przyjmie. "
        "Jeśli są to metry układu lokalnego, nazwij kolumny x i y. Nic nie zapisano.\n",
@@ -120,6 +144,14 @@ std::span<const Text> prepare_texts() {
       {"konsola.prep_zmieniono", "dss",  // rows, what, lines
        "Zmienione wiersze: %d: %s (linie: %s)\n", "Geänderte Zeilen: %d: %s (Zeilen: %s)\n",
        "Rânduri modificate: %d: %s (linii: %s)\n", "Rows changed: %d: %s (lines: %s)\n"},
+      {"konsola.prep_ukryte", "dss",  // rows, what, lines
+       "Wiersze wzięte, choć ich nie widać: %d: %s (wiersze: %s)\n",
+       "Übernommen, obwohl nicht zu sehen: %d: %s (Zeilen: %s)\n",
+       "Rânduri luate, deși nu se văd: %d: %s (rânduri: %s)\n",
+       "Rows taken though nobody sees them: %d: %s (rows: %s)\n"},
+      {"konsola.prep_ukryty", "", "ukryte w arkuszu, ręcznie albo filtrem",
+       "im Blatt ausgeblendet, von Hand oder vom Filter", "ascunse în foaie, manual sau de un filtru",
+       "hidden on the sheet, by hand or by a filter"},
       {"konsola.prep_bez_wysokosci_rada", "", "Z wysokością 0 zapisze je: --missing-height zero\n",
        "Mit Höhe 0 schreibt sie: --missing-height zero\n", "Cu cota 0 le scrie: --missing-height zero\n",
        "With height 0 they are written by: --missing-height zero\n"},
@@ -134,8 +166,13 @@ std::span<const Text> prepare_texts() {
        "a value that is needed is missing"},
       {"konsola.prep_nie_liczba", "", "zamiast współrzędnej nie ma liczby", "anstelle der Koordinate steht keine Zahl",
        "în locul coordonatei nu este un număr", "no number where a coordinate is due"},
-      {"konsola.prep_nieskonczona", "", "współrzędna nieskończona lub NaN", "Koordinate unendlich oder NaN",
-       "coordonată infinită sau NaN", "a coordinate that is infinite or NaN"},
+      {"konsola.prep_nieskonczona", "", "współrzędna nieskończona, zbyt wielka lub NaN",
+       "Koordinate unendlich, viel zu groß oder NaN", "coordonată infinită, mult prea mare sau NaN",
+       "a coordinate that is infinite, far too large or NaN"},
+      {"konsola.prep_przesuniety", "", "o komórkę więcej przed współrzędnymi niż w innych wierszach",
+       "eine Zelle mehr vor den Koordinaten als in den anderen Zeilen",
+       "o celulă în plus înaintea coordonatelor față de celelalte rânduri",
+       "a cell more in front of the coordinates than in the other rows"},
       {"konsola.prep_bez_wysokosci", "", "brak wysokości", "keine Höhe", "fără cotă", "no height"},
       {"konsola.prep_wysokosc_zero", "", "brak wysokości, zapisano 0", "keine Höhe, 0 geschrieben",
        "fără cotă, s-a scris 0", "no height, 0 written"},

@@ -27,6 +27,7 @@ CASES = {
     "a first column not taken": (UNCLEAR, ["--columns", "-,e,n"], "", 0,
                                  "# columns: number;E;N\n1;5355.18;4601.15\n2;5357.20;4608.54\n3;5351.30;4603.36\n"),
     "roles that do not fit": (UNCLEAR, ["--columns", "nr,e"], "", 2, None),
+    "roles one short": ("PKT 1 55.18 46.15 91.05\nPKT 2 57.20 46.54 91.15\n", ["--columns", "nr,n,e,z"], "", 2, None),
     "names": (NAMED, [], "", 0, "# columns: number;E;N;Z\nP1;7499689.075;5780353.017;114.029\n"),
     "no height": (NAMED, ["--missing-height", "zero"], "", 0,
                   "# columns: number;E;N;Z\nP1;7499689.075;5780353.017;114.029\nP2;7499689.175;5780353.117;0\n"),
