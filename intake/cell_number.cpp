@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 #include <initializer_list>
-#include <iterator>
 
 #include "vexo_xyz_impl/table/numbers.h"
 #include "vexo_xyz_impl/text/ascii.h"
@@ -131,12 +130,11 @@ class Angle {
 
  private:
   bool take_any(std::initializer_list<std::string_view> signs) {
-    for (const std::string_view sign : signs) {
-      if (!rest_.starts_with(sign)) continue;
-      rest_.remove_prefix(sign.size());
-      return true;
-    }
-    return false;
+    const auto* const sign =
+        std::find_if(signs.begin(), signs.end(), [&](auto each) { return rest_.starts_with(each); });
+    if (sign == signs.end()) return false;
+    rest_.remove_prefix(sign->size());
+    return true;
   }
 
   void skip_blanks() { rest_ = text::trim(rest_); }
@@ -236,11 +234,9 @@ bool is_nearly_number(std::string_view cell) {
   if (from == std::string_view::npos) return false;
   const std::size_t to = cell.find_last_of(kDigits) + 1;
   const NumberForm form = number_form(cell.substr(from, to - from));
-  const std::string_view around[] = {cell.substr(0, from), cell.substr(to)};
-  const bool are_signs = std::all_of(std::begin(around), std::end(around), [](std::string_view signs) {
-    return std::none_of(signs.begin(), signs.end(),
-                        [](char c) { return text::ascii_lower(c) >= 'a' && text::ascii_lower(c) <= 'z'; });
-  });
+  const std::string around = std::string(cell.substr(0, from)).append(cell.substr(to));
+  const bool are_signs = std::none_of(
+      around.begin(), around.end(), [](char c) { return text::ascii_lower(c) >= 'a' && text::ascii_lower(c) <= 'z'; });
   return are_signs && to - from < cell.size() && (form == NumberForm::point || form == NumberForm::comma);
 }
 

@@ -189,8 +189,9 @@ Decision by_names(const TableShape& shape) {
       heights.size() == 1 || (heights.empty() && possible.empty() && !hides_a_height(shape, named, pair));
   decision.verdict = one_pair && height_told ? Verdict::clear : Verdict::unclear;
   if (heights.empty()) {
+    const Roles bare = decision.proposals.front().roles;
     for (const Candidate& height : possible) {
-      Roles with = decision.proposals.back().roles;
+      Roles with = bare;
       with[height.column] = Role::height;
       decision.proposals.insert(decision.proposals.begin(), {std::move(with), Ground::names});
     }
@@ -330,6 +331,12 @@ void propose_names_behind_the_first(const TableShape& shape, Decision& decision)
   moved.names = shape.loose_names;
   moved.names.insert(moved.names.begin(), std::string());
   auto named = by_names(moved).proposals;
+  std::erase_if(named, [&](const Proposal& made) {  // no point is numbered by what is measured
+    const auto number = std::find(made.roles.begin(), made.roles.end(), Role::number) - made.roles.begin();
+    if (number == static_cast<std::ptrdiff_t>(made.roles.size())) return false;
+    const ColumnContent& content = shape.columns[static_cast<Column>(number)];
+    return content.is_numeric() && !content.is_whole();
+  });
   for (const Proposal& made : decision.proposals) {
     const auto same = [&](const Proposal& other) { return other.roles == made.roles; };
     if (std::none_of(named.begin(), named.end(), same)) named.push_back(made);
