@@ -15,6 +15,7 @@ bool is_no_coordinate(Named name) {
   switch (name) {
     case Named::number:
     case Named::height:
+    case Named::maybe_height:
     case Named::code:
     case Named::zone:
     case Named::error:
