@@ -103,12 +103,12 @@ bool holds_minutes_and_seconds(Row row, std::size_t x) {
   constexpr double kDegrees = 180;
   constexpr double kSixty = 60;
   if (row.size() < x + kColumns) return false;
-  for (const std::size_t at : {x, x + 3}) {
+  const auto is_angle = [&](std::size_t at) {
     const auto seconds = vexo_xyz_impl::parse_number(row[at + 2]);
-    if (!is_whole_below(row[at], kDegrees) || !is_whole_below(row[at + 1], kSixty - 1)) return false;
-    if (!seconds || *seconds < 0.0 || *seconds >= kSixty) return false;
-  }
-  return true;
+    return is_whole_below(row[at], kDegrees) && is_whole_below(row[at + 1], kSixty - 1) && seconds && *seconds >= 0.0 &&
+           *seconds < kSixty;
+  };
+  return is_angle(x) && is_angle(x + 3);
 }
 
 // Degrees and minutes with a blank between them, which elsewhere parts thousands: 50 13.115.
