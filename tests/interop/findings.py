@@ -5,12 +5,16 @@ Usage: findings.py PROGRAM. A case is a file's content, options, and what the re
 doubts, code of the reason, lines left out, lines skipped. For every file the sums must close.
 """
 
+import datetime
+import io
 import json
 import subprocess
 import sys
 import tempfile
 import zipfile
 from pathlib import Path
+
+import openpyxl
 
 PROGRAM = sys.argv[1]
 
@@ -134,6 +138,72 @@ CASES = {
 }
 
 
+def workbook(change, sheets=("Points",), active=0):
+    """A workbook whose sheets hold the points of GRID; `change` is told each of them."""
+    book = openpyxl.Workbook()
+    book.remove(book.active)
+    for name in sheets:
+        sheet = book.create_sheet(name)
+        for i, (x, y, z) in enumerate(GRID):
+            sheet.append([f"P{i + 1}", x, y, z])
+        change(sheet)
+    book.active = active
+    packed = io.BytesIO()
+    book.save(packed)
+    return packed.getvalue()
+
+
+def empty_unless(name):
+    return lambda sheet: sheet.title == name or sheet.delete_rows(1, sheet.max_row)
+
+
+def broken_off(packed):
+    """The workbook with its first sheet cut behind the row before the last."""
+    cut = io.BytesIO()
+    with zipfile.ZipFile(io.BytesIO(packed)) as whole, zipfile.ZipFile(cut, "w") as broken:
+        for name in whole.namelist():
+            content = whole.read(name)
+            broken.writestr(name, content[:content.rindex(b"<row")] if name.endswith("sheet1.xml") else content)
+    return cut.getvalue()
+
+
+WORKBOOKS = {
+    "sound sheet": (workbook(lambda sheet: None), [], "imported", 12, [], None, [], []),
+    "another sheet is seen": (workbook(lambda sheet: None, ("Old", "New"), 1), [], "imported", 12, ["sheet_choice"], None,
+                              [], []),
+    "values on another sheet": (workbook(empty_unless("New"), ("Old", "New")), [], "nothing", 0, [], "cells_unreadable", [],
+                                []),
+    "formula": (workbook(lambda sheet: sheet.__setitem__("D5", "=D4+1")), [], "imported", 11,
+                ["height", "formula_without_value"], None, [], [5]),
+    "date": (workbook(lambda sheet: sheet.__setitem__("A3", datetime.date(2024, 2, 1))), [], "imported", 12, ["date"], None,
+             [], []),
+    "entity": (workbook(lambda sheet: sheet.__setitem__("A2", "a<b")), [], "imported", 12, ["entity"], None, [], []),
+    "hidden row": (workbook(lambda sheet: setattr(sheet.row_dimensions[6], "hidden", True)), [], "imported", 12,
+                   ["filtered_rows"], None, [], []),
+    "sheet that breaks off": (broken_off(workbook(lambda sheet: None)), [], "imported", 11, ["rows_left_out"], None, [], []),
+    "bytes that are no UTF-8": (b"P\xb31 brak\n" + SOUND.encode(), [], "imported", 12, [], None, [1], []),
+}
+
+
+def check_names_of_reports(folder):
+    """A report replaces a report, and nothing else; whatever is refused, the drawing is there."""
+    source = folder / "points.txt"
+    source.write_text(SOUND)
+    other = folder / "other.csv"
+    other.write_text("mine\n")
+    for name, code, written in (("new.json", 0, True), ("new.json", 0, True), ("other.csv", 3, False),
+                                ("points.txt", 3, False), ("points.dxf", 3, False), ("text.txt", 0, True)):
+        for drawing in folder.glob("*.dxf"):
+            drawing.unlink()
+        before = (folder / name).read_bytes() if (folder / name).exists() else b""
+        run = subprocess.run([PROGRAM, source, "--report", folder / name], stdin=subprocess.DEVNULL, capture_output=True,
+                             check=False, timeout=60)
+        assert run.returncode == code, (name, run)
+        after = (folder / name).read_bytes() if (folder / name).exists() else b""
+        assert written or after == before or b"SECTION" in after[:99], name
+        assert not after.startswith(b"{") or json.loads(after)["outcome"] == "imported", name
+
+
 def write(path, content):
     if isinstance(content, dict):
         with zipfile.ZipFile(path, "w") as package:
@@ -170,9 +240,11 @@ def check(name, found, case):
 
 def main():
     with tempfile.TemporaryDirectory() as folder:
-        for name, case in CASES.items():
+        for name, case in (CASES | WORKBOOKS).items():
             check(name, report_of(Path(folder), case[0], case[1]), case)
-    print(f"{len(CASES)} files")
+    with tempfile.TemporaryDirectory() as folder:
+        check_names_of_reports(Path(folder))
+    print(f"{len(CASES) + len(WORKBOOKS)} files")
 
 
 if __name__ == "__main__":
