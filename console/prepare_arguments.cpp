@@ -8,7 +8,8 @@ namespace {
 constexpr const char* kFooter =
     "ROLES by position, one for each column from the left: nr (number), e (easting), n (northing), x, y (coordinates\n"
     "whose axes are not known, written in the file's order), z (height), - (not taken): --columns nr,n,e,z. Or by the\n"
-    "header's names or by positions: --columns nr=POINT,n=NORTH,e=EAST,z=4. Without nr the points are counted.\n"
+    "header's names or by positions: --columns nr=POINT,n=NORTH,e=EAST,z=4, without the role where the name says it:\n"
+    "--columns POINT,NORTH,EAST,ELEV. Without a number the points are counted.\n"
     "What neither the file nor --columns tells is asked; answers may be piped in, and nothing is guessed.\n"
     "\n"
     "Exit codes:\n"

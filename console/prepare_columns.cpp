@@ -12,6 +12,7 @@
 #include "console/report/reasons.h"
 #include "intake/columns.h"
 #include "intake/header_words.h"
+#include "intake/role_spelling.h"
 #include "vexo_xyz_impl/messages.h"
 #include "vexo_xyz_impl/text/utf8.h"
 

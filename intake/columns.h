@@ -54,12 +54,4 @@ struct Decision {
 /// these take it for two. Empty without one.
 [[nodiscard]] std::optional<std::size_t> pair_column(const TableShape& shape, const Roles* roles);
 
-/// Roles as `--columns` gives them: by position, "nr,n,e,z", or by the header's names or positions, "nr=POINT,n=3".
-/// Empty when they are neither, name what the header does not or has twice, or do not name two coordinates.
-[[nodiscard]] std::optional<Roles> roles_for(const TableShape& shape, std::string_view spelled);
-
-/// Of a list of roles by names the first name that several columns have, letter case aside where none has it exactly;
-/// empty when there is none.
-[[nodiscard]] std::string_view ambiguous_name(const TableShape& shape, std::string_view spelled);
-
 }  // namespace intake

@@ -11,6 +11,7 @@
 #include "intake/encoding.h"
 #include "intake/foreign_table.h"
 #include "intake/header_words.h"
+#include "intake/role_spelling.h"
 #include "intake/seen_table.h"
 #include "intake/text_records.h"
 

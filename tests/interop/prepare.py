@@ -33,6 +33,8 @@ CASES = {
                   "# columns: number;E;N;Z\nP1;7499689.075;5780353.017;114.029\nP2;7499689.175;5780353.117;0\n"),
     "by name": (NAMED, ["--columns", "x=NORTH,y=east,nr=5"], "", 0,
                 "# columns: number;X;Y\nP1;5780353.017;7499689.075\nP2;5780353.117;7499689.175\n"),
+    "by name alone": (NAMED, ["--columns", "NORTH,EAST,POINT"], "", 0,
+                      "# columns: number;E;N\nP1;7499689.075;5780353.017\nP2;7499689.175;5780353.117\n"),
     "degrees": (DEGREES, [], "", 1, None),
     "degrees all the same": (DEGREES, ["--columns", "nr,n,e"], "", 1, None),
     "no points": ("a,b\nc,d\n", [], "", 1, None),
