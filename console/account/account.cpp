@@ -2,14 +2,11 @@
 
 #include <algorithm>
 
-#include "console/drawing/drawing.h"
-
 namespace console {
 namespace {
 
 using vexo_xyz_impl::FileType;
 using vexo_xyz_impl::ImportSeen;
-using vexo_xyz_impl::PointRecord;
 using vexo_xyz_impl::Row;
 using vexo_xyz_impl::SkippedLine;
 using vexo_xyz_impl::Table;
@@ -60,7 +57,7 @@ Account begun(const ImportSeen& seen) {
 
 Why why_left_out(Row row, std::size_t columns) { return row.size() < columns ? Why::too_few_columns : Why::no_number; }
 
-void add_left_out(Account& account, const ImportSeen& seen, Places& places) {
+void add_left_out(Account& account, const ImportSeen& seen, RowPlaces& places) {
   const auto& rows = seen.loaded.rows->rows();
   const std::size_t columns = vexo_xyz_impl::_liczba_kolumn(rows);
   account.left_out.reserve(places.left_out().size());
@@ -75,68 +72,57 @@ void sort_by_line(std::vector<RowWithoutPoint>& rows) {
   std::stable_sort(rows.begin(), rows.end(), [](const auto& a, const auto& b) { return a.line < b.line; });
 }
 
-void add_refused(Account& account, const ImportSeen& seen, Places& places) {
-  const auto& punkty = seen.read.punkty;
-  const auto& rows = seen.loaded.rows->rows();
-  for (std::size_t i = 0; i < punkty.size(); ++i) {
-    if (is_sound(Position{punkty[i].x, punkty[i].y, punkty[i].z})) continue;
-    account.skipped.push_back({places.line_of_point(i), Why::refused, row_text(rows[places.row_of_point(i)])});
-  }
-}
-
 }  // namespace
 
-Places::Places(const ImportSeen& seen)
+RowPlaces::RowPlaces(const ImportSeen& seen)
     : seen_(seen), is_text_(is_text(seen)), left_out_(rows_left_out(seen)), finder_(seen.loaded.rows->text()) {
   skipped_.reserve(seen.read.pominiete.size());
   for (const SkippedLine& line : seen.read.pominiete) skipped_.push_back(line.row - 1);
 }
 
-std::size_t Places::row_of_data(std::size_t data_row) const { return data_row + before(left_out_, data_row); }
+std::size_t RowPlaces::row_of_data(std::size_t data_row) const { return data_row + before(left_out_, data_row); }
 
-std::size_t Places::row_of_point(std::size_t point) const { return row_of_data(point + before(skipped_, point)); }
+std::size_t RowPlaces::row_of_point(std::size_t point) const { return row_of_data(point + before(skipped_, point)); }
 
-std::size_t Places::line_of_row(std::size_t row) {
+std::size_t RowPlaces::line_of_row(std::size_t row) {
   return is_text_ ? finder_.line_of(seen_.loaded.rows->rows()[row][0].data()) : row + 1;
 }
 
-std::size_t Places::line_of_point(std::size_t point) {
+std::size_t RowPlaces::line_of_point(std::size_t point) {
   const bool rows_forgotten = seen_.loaded.rows->size() == 0;
   if (!is_text_ || !rows_forgotten) return line_of_row(row_of_point(point));
   return finder_.line_of(seen_.read.punkty[point].nr.data());
 }
 
-Account account_of(const ImportSeen& seen, Places& places) {
+Account account_of(const ImportSeen& seen, RowPlaces& places) {
   Account account = begun(seen);
   add_left_out(account, seen, places);
   for (const SkippedLine& line : seen.read.pominiete) {
     account.skipped.push_back({places.line_of_row(places.row_of_data(line.row - 1)),
                                line.cells_needed != 0 ? Why::too_few_columns : Why::no_number, row_text(line.cells)});
   }
-  add_refused(account, seen, places);
-  sort_by_line(account.skipped);
-  account.points = account.rows - account.left_out.size() - account.skipped.size();
+  account.points = seen.read.punkty.size();
   return account;
 }
 
-void take_points_back(Account& account, const ImportSeen& seen, const Places& places) {
+void take_back(Account& account, const ImportSeen& seen, const RowPlaces& places, std::span<const std::size_t> points,
+               Why why) {
+  if (points.empty()) return;
   std::vector<Line> lines;
   if (is_text(seen)) lines = lines_with_rows(seen.loaded.rows->text());
-  for (std::size_t i = 0; i < seen.read.punkty.size(); ++i) {
-    const PointRecord& point = seen.read.punkty[i];
-    if (!is_sound(Position{point.x, point.y, point.z})) continue;  // counted before
-    const std::size_t row = places.row_of_point(i);
-    const Line line = is_text(seen) ? lines[row] : Line{row + 1, point.nr};
-    account.skipped.push_back({line.number, Why::not_imported, row_text(Row(std::span(&line.text, 1)))});
+  for (const std::size_t point : points) {
+    const std::size_t row = places.row_of_point(point);
+    const Line line = is_text(seen) ? lines[row] : Line{row + 1, seen.read.punkty[point].nr};
+    account.skipped.push_back({line.number, why, row_text(Row(std::span(&line.text, 1)))});
   }
   sort_by_line(account.skipped);
-  account.points = 0;
+  account.points -= points.size();
 }
 
 Account account_without_points(const ImportSeen& seen) {
   if (!seen.loaded.rows) return {};
   Account account = begun(seen);
-  Places places(seen);
+  RowPlaces places(seen);
   add_left_out(account, seen, places);
   const auto& dane = seen.verdict.dane;
   for (std::size_t i = 0; i < dane.size(); ++i)

@@ -5,6 +5,7 @@
 #pragma once
 
 #include <cstddef>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -38,10 +39,10 @@ struct Account {
 };
 
 /// Where rows and points of an import stand in its file. Rows by their index in the table, points by theirs.
-class Places {
+class RowPlaces {
  public:
   /// To be made while the table still has its rows; valid while what was seen lives.
-  explicit Places(const vexo_xyz_impl::ImportSeen& seen);
+  explicit RowPlaces(const vexo_xyz_impl::ImportSeen& seen);
 
   [[nodiscard]] std::size_t line_of_row(std::size_t row);
   /// Once the table's rows are forgotten, only of points with numbers of their own, which show where they stand.
@@ -64,10 +65,11 @@ class Places {
 };
 
 /// The account of an import whose rows were taken apart just now.
-[[nodiscard]] Account account_of(const vexo_xyz_impl::ImportSeen& seen, Places& places);
+[[nodiscard]] Account account_of(const vexo_xyz_impl::ImportSeen& seen, RowPlaces& places);
 
-/// Corrects the account of an import that failed after it was taken: no point is in a drawing.
-void take_points_back(Account& account, const vexo_xyz_impl::ImportSeen& seen, const Places& places);
+/// Takes points back that are not in the drawing after all: those that it refused, or all when the import failed.
+void take_back(Account& account, const vexo_xyz_impl::ImportSeen& seen, const RowPlaces& places,
+               std::span<const std::size_t> points, Why why);
 
 /// The account of an import that made no points: each row with the reason it would have had, or that nothing was
 /// imported.

@@ -119,7 +119,7 @@ bool parts_minutes(std::string_view cell) {
   return digits == 1 || digits == 2;
 }
 
-bool is_sexagesimal(std::span<const Row> dane, std::size_t x) {
+bool are_parted(std::span<const Row> dane, std::size_t x) {
   constexpr std::size_t kSample = 200;
   constexpr std::size_t kFewest = 3;  // of fewer rows nothing is the rule
   const auto sample = dane.first(std::min(dane.size(), kSample));
@@ -138,7 +138,7 @@ std::optional<Doubt> doubt_degrees(Evidence& evidence) {
   const bool on_globe = extent.x.within(-180, 180) && extent.y.within(-180, 180);
   const bool decimal =
       on_globe && (named_degrees(evidence.header, x) || look_like_degrees(extent, seen.verdict.dane, x));
-  if (!decimal && !is_sexagesimal(seen.verdict.dane, x)) return std::nullopt;
+  if (!decimal && !are_parted(seen.verdict.dane, x)) return std::nullopt;
   const PointRecord& first = seen.read.punkty.front();
   const auto line = evidence.places.line_of_point(0);
   return Doubt{"degrees", filled("konsola.watp_stopnie", {first.x, first.y, static_cast<long long>(line)}), {}};

@@ -57,7 +57,7 @@ std::vector<Doubt> all_of(std::span<const DoubtFunction> functions, Evidence& ev
 
 }  // namespace
 
-std::optional<Header> header_of(const ImportSeen& seen, Places& places) {
+std::optional<Header> header_of(const ImportSeen& seen, RowPlaces& places) {
   const auto& dane = seen.verdict.dane;
   if (dane.empty()) return std::nullopt;
   const auto above = std::span(seen.loaded.rows->rows()).first(places.row_of_data(0));

@@ -40,14 +40,14 @@ struct NamedAxes {
 /// What doubts are drawn from.
 struct Evidence {
   const vexo_xyz_impl::ImportSeen& seen;
-  Places& places;
+  RowPlaces& places;
   std::optional<Header> header;
 };
 
 using DoubtFunction = std::optional<Doubt> (*)(Evidence&);
 
 /// The header among the rows left out; none when no row is one.
-[[nodiscard]] std::optional<Header> header_of(const vexo_xyz_impl::ImportSeen& seen, Places& places);
+[[nodiscard]] std::optional<Header> header_of(const vexo_xyz_impl::ImportSeen& seen, RowPlaces& places);
 
 /// None when the names do not say which coordinate is the northing.
 [[nodiscard]] std::optional<NamedAxes> named_axes(const Header& header, vexo_xyz_impl::Layout fmt);
@@ -59,7 +59,7 @@ using DoubtFunction = std::optional<Doubt> (*)(Evidence&);
 [[nodiscard]] std::vector<Doubt> doubts_of_import(Evidence& evidence);
 
 /// Doubts about a workbook that was read, for when its import has ended; `places` null when no points were made.
-[[nodiscard]] std::vector<Doubt> doubts_of_workbook(const vexo_xyz_impl::ImportSeen& seen, Places* places);
+[[nodiscard]] std::vector<Doubt> doubts_of_workbook(const vexo_xyz_impl::ImportSeen& seen, RowPlaces* places);
 
 /// Columns of the layout, 0 for the first of the file.
 [[nodiscard]] inline std::size_t x_column(vexo_xyz_impl::Layout fmt) { return has_number(fmt) ? 1 : 0; }

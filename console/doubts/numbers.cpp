@@ -94,7 +94,7 @@ Repeated repeated_among(std::span<const PointRecord> punkty) {
   return repeated;
 }
 
-std::vector<std::size_t> lines_of(Places& places, std::span<const std::size_t> points) {
+std::vector<std::size_t> lines_of(RowPlaces& places, std::span<const std::size_t> points) {
   std::vector<std::size_t> lines;
   lines.reserve(points.size());
   for (const std::size_t point : points) lines.push_back(places.line_of_point(point));

@@ -42,7 +42,7 @@ bool holds_entity(std::string_view label) {
   return end != std::string_view::npos && end > begin + 1 && end - begin <= kLongest;
 }
 
-std::vector<std::size_t> rows_with_entities(const ImportSeen& seen, Places& places) {
+std::vector<std::size_t> rows_with_entities(const ImportSeen& seen, RowPlaces& places) {
   std::vector<std::size_t> rows;
   if (!has_number(*seen.verdict.fmt)) return rows;
   for (std::size_t i = 0; i < seen.read.punkty.size(); ++i)
@@ -67,7 +67,7 @@ bool breaks_off(std::string_view xml) {
 
 }  // namespace
 
-std::vector<Doubt> doubts_of_workbook(const ImportSeen& seen, Places* places) {
+std::vector<Doubt> doubts_of_workbook(const ImportSeen& seen, RowPlaces* places) {
   std::vector<Doubt> doubts;
   if (breaks_off(seen.loaded.rows->text()))
     doubts.push_back({"rows_left_out", vexo_xyz_impl::T("konsola.watp_urwany"), {}});

@@ -15,6 +15,8 @@ constexpr double kFarthest = 1e250;
 
 bool is_near(double value) { return std::abs(value) <= kFarthest; }  // false for a nan
 
+bool is_sound(const Position& position) { return is_near(position.x) && is_near(position.y) && is_near(position.z); }
+
 std::string lower_case(std::string_view name) {
   std::string lower(name);
   std::transform(lower.begin(), lower.end(), lower.begin(), vexo_xyz_impl::text::ascii_lower);
@@ -22,8 +24,6 @@ std::string lower_case(std::string_view name) {
 }
 
 }  // namespace
-
-bool is_sound(const Position& position) { return is_near(position.x) && is_near(position.y) && is_near(position.z); }
 
 template <class Geometry>
 std::optional<Handle> Drawing::place(Kind kind, Column<Geometry>& all, const Geometry& one) {

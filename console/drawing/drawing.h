@@ -23,10 +23,6 @@ namespace console {
 using Handle = std::uint64_t;
 using Position = vexo_xyz_impl::host::GcGePoint3d;
 
-/// Whether a drawing takes things at that position: no coordinate is infinite, no number, or further away than programs
-/// read.
-[[nodiscard]] bool is_sound(const Position& position);
-
 /// Handles of the objects that every drawing has; those of everything else begin behind them.
 enum class Fixed : Handle {
   vport_table = 1,

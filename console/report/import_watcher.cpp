@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <iterator>
+#include <numeric>
 #include <set>
 #include <string_view>
 #include <utility>
@@ -52,12 +53,19 @@ void note_file(Findings& findings, const ImportSeen& seen) {
 
 Outcome outcome_of(const ImportSeen& seen) {
   if (seen.outcome == CommandOutcome::failed) return Outcome::failed;
-  return seen.outcome == CommandOutcome::done && seen.points_taken > 0 ? Outcome::imported : Outcome::nothing;
+  const bool has_points = seen.read.punkty.size() > seen.refused.size();
+  return seen.outcome == CommandOutcome::done && has_points ? Outcome::imported : Outcome::nothing;
 }
 
 Axes axes_of(const ImportSeen& seen) {
   if (seen.axes.how == AxesBy::unconfirmed) return Axes::unconfirmed;
   return seen.axes.swap ? Axes::swap : Axes::keep;
+}
+
+std::vector<std::size_t> all_points(const ImportSeen& seen) {
+  std::vector<std::size_t> points(seen.read.punkty.size());
+  std::iota(points.begin(), points.end(), std::size_t{0});
+  return points;
 }
 
 void append(std::vector<Doubt>& doubts, std::vector<Doubt> more) {
@@ -108,7 +116,11 @@ void ImportWatcher::ended(const ImportSeen& seen) {
   findings_.prepared_left_out = not_taken_over_;
   if (!not_taken_over_.empty()) findings_.doubts.push_back(doubt_not_taken_over(not_taken_over_));
   findings_.outcome = outcome_of(seen);
-  if (places_ && findings_.outcome == Outcome::failed) take_points_back(findings_.account, seen, *places_);
+  if (places_ && seen.outcome == CommandOutcome::failed) {
+    take_back(findings_.account, seen, *places_, all_points(seen), Why::not_imported);
+  } else if (places_) {
+    take_back(findings_.account, seen, *places_, seen.refused, Why::refused);
+  }
   if (seen.verdict.fmt) findings_.layout = layout_code(*seen.verdict.fmt);
   findings_.evidence = seen.verdict.opis;
   for (const auto& candidate : seen.axes.candidates)

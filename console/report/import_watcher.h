@@ -33,7 +33,7 @@ class ImportWatcher final : public vexo_xyz_impl::host::ImportWatch {
   Findings findings_;
   std::string made_of_;
   std::vector<Findings::RowNotTakenOver> not_taken_over_;
-  std::optional<Places> places_;  // of the import going on
+  std::optional<RowPlaces> places_;  // of the import going on
   std::optional<Header> header_;
   std::optional<NamedAxes> named_axes_;
 };

@@ -61,7 +61,7 @@ std::optional<std::size_t> line_of_odd_row(const ImportSeen& seen) {
     return row.size() == 2 && !vexo_xyz_impl::_czy_liczba(row[0]) && vexo_xyz_impl::_czy_liczba(row[1]);
   });
   if (odd == rows.end()) return std::nullopt;
-  return Places(seen).line_of_row(static_cast<std::size_t>(odd - rows.begin()));
+  return RowPlaces(seen).line_of_row(static_cast<std::size_t>(odd - rows.begin()));
 }
 
 // Whether the user was asked about the columns, and left it open.

@@ -80,9 +80,8 @@ CommandOutcome import_file(ImportSeen& seen) {
     print("xyz.blad_model");
     return CommandOutcome::failed;
   }
-  const Inserted inserted = insert_points(*model.ms, read.punkty, txtH);
-  seen.placed = inserted.placed;
-  seen.points_taken = inserted.oidy_punktow.size();
+  Inserted inserted = insert_points(*model.ms, read.punkty, txtH);
+  seen.refused = std::move(inserted.refused);
   model.ms.finish();
   _setPointDisplayVars();
 

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "vexo_xyz_impl/command/axes.h"
 #include "vexo_xyz_impl/failure.h"
@@ -20,9 +21,8 @@ struct ImportSeen {
   LayoutVerdict verdict;  ///< its data rows likewise; without a layout when it stayed open
   Decomposition read;     ///< points in the file's order, axes exchanged when they were
   SettledAxes axes;
-  std::size_t dubli = 0;         ///< points less distinct numbers
-  std::size_t placed = 0;        ///< points tried on the drawing
-  std::size_t points_taken = 0;  ///< of them, those that the drawing took
+  std::size_t dubli = 0;             ///< points less distinct numbers
+  std::vector<std::size_t> refused;  ///< points that the drawing refused, by their index
   host::CommandOutcome outcome = host::CommandOutcome::failed;
   std::optional<FailureNote> failure;  ///< what ended it early
 };

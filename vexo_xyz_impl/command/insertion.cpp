@@ -43,7 +43,11 @@ Inserted insert_points(host::GcDbBlockTableRecord& ms, std::span<const PointReco
   inserted.oidy_punktow.reserve(punkty.size());
   for (const PointRecord& record : punkty) {
     host::Opened<host::GcDbPoint> point(database.newGcDbPoint({record.x, record.y, record.z}));
-    if (const auto oid = append_and_close(ms, point, *inserted.oidy)) inserted.oidy_punktow.push_back(*oid);
+    if (const auto oid = append_and_close(ms, point, *inserted.oidy)) {
+      inserted.oidy_punktow.push_back(*oid);
+    } else {
+      inserted.refused.push_back(inserted.placed);
+    }
     host::Opened<host::GcDbText> label(database.newGcDbText({record.x + off, record.y + off, record.z}, record.nr));
     bindings.loaded.style->nadaj_styl_pl(*label);
     label->setHeight(txtH);

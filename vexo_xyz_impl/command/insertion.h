@@ -11,10 +11,11 @@
 
 namespace vexo_xyz_impl {
 
-/// What an insertion left in the drawing; what the host refused is in neither list.
+/// What an insertion left in the drawing; what the host refused is in neither list of ids.
 struct Inserted {
   std::unique_ptr<host::GcDbObjectIdArray> oidy;  ///< points and labels, a point before its label
   std::vector<host::GcDbObjectId> oidy_punktow;   ///< points only
+  std::vector<std::size_t> refused;               ///< points that the host refused, by their index
   std::size_t placed = 0;                         ///< points tried
 };
 
