@@ -5,6 +5,9 @@
 #include <string>
 #include <utility>
 
+#include "console/account/account_lines.h"
+#include "vexo_xyz_impl/messages.h"
+
 namespace console {
 namespace {
 
@@ -67,6 +70,20 @@ std::optional<Header> header_of(const ImportSeen& seen, RowPlaces& places) {
   Header header{places.line_of_row(names->row), names->cells, {}};
   for (const std::string_view cell : names->cells) header.names.push_back(intake::header_name(cell).named);
   return header;
+}
+
+std::optional<Doubt> doubt_at(std::string_view code, std::string_view key, std::vector<std::size_t> lines) {
+  if (lines.empty()) return std::nullopt;
+  const std::string places = listed(lines);
+  return Doubt{code, vexo_xyz_impl::filled(key, {static_cast<long long>(lines.size()), std::string_view(places)}),
+               std::move(lines)};
+}
+
+std::vector<std::size_t> lines_of(RowPlaces& places, std::span<const std::size_t> points) {
+  std::vector<std::size_t> lines;
+  lines.reserve(points.size());
+  for (const std::size_t point : points) lines.push_back(places.line_of_point(point));
+  return lines;
 }
 
 std::vector<Doubt> doubts_of_rows(Evidence& evidence) { return all_of(kOfRows, evidence); }

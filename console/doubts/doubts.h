@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -43,6 +44,14 @@ struct Evidence {
   RowPlaces& places;
   std::optional<Header> header;
 };
+
+/// The doubt that shows in these lines, told by the text of `key`, which takes their count and the lines; nothing
+/// without a line.
+[[nodiscard]] std::optional<Doubt> doubt_at(std::string_view code, std::string_view key,
+                                            std::vector<std::size_t> lines);
+
+/// The lines of points.
+[[nodiscard]] std::vector<std::size_t> lines_of(RowPlaces& places, std::span<const std::size_t> points);
 
 using DoubtFunction = std::optional<Doubt> (*)(Evidence&);
 

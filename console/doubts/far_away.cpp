@@ -5,15 +5,12 @@
 #include <utility>
 #include <vector>
 
-#include "console/account/account_lines.h"
 #include "console/doubts/doubts.h"
 #include "console/doubts/range.h"
-#include "vexo_xyz_impl/messages.h"
 
 namespace console {
 namespace {
 
-using vexo_xyz_impl::filled;
 using vexo_xyz_impl::PointRecord;
 
 // The middle of the points along one axis, without the outermost fifths of a sample.
@@ -58,16 +55,6 @@ bool is_wild(double value, const Range& others) {
   return std::abs(value) < others.low / kTimes || std::abs(value) > others.high * kTimes;
 }
 
-std::optional<Doubt> doubt_about(Evidence& evidence, const char* key, std::span<const std::size_t> points) {
-  if (points.empty()) return std::nullopt;
-  std::vector<std::size_t> lines;
-  lines.reserve(points.size());
-  for (const std::size_t point : points) lines.push_back(evidence.places.line_of_point(point));
-  const std::string places = listed(lines);
-  return Doubt{"far_away", filled(key, {static_cast<long long>(lines.size()), std::string_view(places)}),
-               std::move(lines)};
-}
-
 // Points far from the middle of all: few of them wherever they are, more where they are nowhere near any survey.
 std::vector<std::size_t> far_from_the_middle(std::span<const PointRecord> punkty) {
   constexpr double kFar = 20.0;          // times the extent of the middle
@@ -99,19 +86,18 @@ std::optional<Doubt> doubt_not_finite(Evidence& evidence) {
   std::vector<std::size_t> lines;
   for (std::size_t i = 0; i < punkty.size(); ++i)
     if (!is_finite(punkty[i])) lines.push_back(evidence.places.line_of_point(i));
-  if (lines.empty()) return std::nullopt;
-  const std::string places = listed(lines);
-  return Doubt{"not_finite",
-               filled("konsola.watp_nieskonczone", {static_cast<long long>(lines.size()), std::string_view(places)}),
-               std::move(lines)};
+  return doubt_at("not_finite", "konsola.watp_nieskonczone", std::move(lines));
 }
 
 std::optional<Doubt> doubt_far_away(Evidence& evidence) {
   constexpr std::size_t kFewest = 5;  // of fewer points nothing is the rule
   const auto& punkty = evidence.seen.read.punkty;
   if (punkty.size() < kFewest) return std::nullopt;
-  if (auto doubt = doubt_about(evidence, "konsola.watp_odwrotnie", the_other_way_round(punkty))) return doubt;
-  return doubt_about(evidence, "konsola.watp_daleko", far_from_the_middle(punkty));
+  const auto doubt = [&evidence](const char* key, std::span<const std::size_t> points) {
+    return doubt_at("far_away", key, lines_of(evidence.places, points));
+  };
+  const auto exchanged = doubt("konsola.watp_odwrotnie", the_other_way_round(punkty));
+  return exchanged ? exchanged : doubt("konsola.watp_daleko", far_from_the_middle(punkty));
 }
 
 }  // namespace console

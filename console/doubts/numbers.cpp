@@ -94,13 +94,6 @@ Repeated repeated_among(std::span<const PointRecord> punkty) {
   return repeated;
 }
 
-std::vector<std::size_t> lines_of(RowPlaces& places, std::span<const std::size_t> points) {
-  std::vector<std::size_t> lines;
-  lines.reserve(points.size());
-  for (const std::size_t point : points) lines.push_back(places.line_of_point(point));
-  return lines;
-}
-
 std::string told_of(std::span<const std::size_t> elsewhere, std::span<const std::size_t> there) {
   const std::string places_elsewhere = listed(elsewhere);
   const std::string places_there = listed(there);
@@ -136,12 +129,7 @@ std::optional<Doubt> doubt_repeated_number(Evidence& evidence) {
 std::optional<Doubt> doubt_same_place(Evidence& evidence) {
   const auto& punkty = evidence.seen.read.punkty;
   const auto found = at_the_place_of_an_earlier_one(punkty, has_number(*evidence.seen.verdict.fmt));
-  if (found.empty()) return std::nullopt;
-  auto lines = lines_of(evidence.places, found);
-  const std::string places = listed(lines);
-  return Doubt{"same_place",
-               filled("konsola.watp_to_samo_miejsce", {static_cast<long long>(found.size()), std::string_view(places)}),
-               std::move(lines)};
+  return doubt_at("same_place", "konsola.watp_to_samo_miejsce", lines_of(evidence.places, found));
 }
 
 std::optional<Doubt> doubt_comma_in_label(Evidence& evidence) {

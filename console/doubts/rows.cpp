@@ -2,10 +2,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "console/account/account_lines.h"
 #include "console/doubts/doubts.h"
 #include "intake/cell_number.h"
-#include "vexo_xyz_impl/messages.h"
 #include "vexo_xyz_impl/table/numbers.h"
 
 namespace console {
@@ -36,13 +34,8 @@ std::optional<Doubt> doubt_rows_left_out(Evidence& evidence) {
     if (may_be_a_point(rows[row], row < first)) lines.push_back(evidence.places.line_of_row(row));
   for (const auto& line : evidence.seen.read.pominiete)
     if (line.cells_needed != 0) lines.push_back(evidence.places.line_of_row(evidence.places.row_of_data(line.row - 1)));
-  if (lines.empty()) return std::nullopt;
   std::sort(lines.begin(), lines.end());
-  const std::string places = listed(lines);
-  return Doubt{
-      "rows_left_out",
-      vexo_xyz_impl::filled("konsola.watp_wiersze", {static_cast<long long>(lines.size()), std::string_view(places)}),
-      std::move(lines)};
+  return doubt_at("rows_left_out", "konsola.watp_wiersze", std::move(lines));
 }
 
 }  // namespace console

@@ -7,7 +7,6 @@
 #include <string_view>
 #include <utility>
 
-#include "console/account/account_lines.h"
 #include "console/doubts/doubts.h"
 #include "vexo_xyz_impl/messages.h"
 
@@ -18,10 +17,7 @@ using vexo_xyz_impl::filled;
 using vexo_xyz_impl::ImportSeen;
 
 void add_rows(std::vector<Doubt>& doubts, std::string_view code, std::string_view key, std::vector<std::size_t> rows) {
-  if (rows.empty()) return;
-  const std::string places = listed(rows);
-  doubts.push_back(
-      {code, filled(key, {static_cast<long long>(rows.size()), std::string_view(places)}), std::move(rows)});
+  if (auto doubt = doubt_at(code, key, std::move(rows))) doubts.push_back(std::move(*doubt));
 }
 
 void add_sheet_choice(std::vector<Doubt>& doubts, const intake::Workbook& workbook) {

@@ -72,15 +72,10 @@ void append(std::vector<Doubt>& doubts, std::vector<Doubt> more) {
   std::move(more.begin(), more.end(), std::back_inserter(doubts));
 }
 
-Doubt doubt_not_taken_over(const std::vector<Findings::RowNotTakenOver>& rows) {
-  std::vector<std::size_t> lines;
-  lines.reserve(rows.size());
-  for (const auto& row : rows) lines.push_back(row.line);
-  const std::string places = listed(lines);
-  return {"rows_left_out",
-          vexo_xyz_impl::filled("konsola.watp_przygotowanie",
-                                {static_cast<long long>(lines.size()), std::string_view(places)}),
-          std::move(lines)};
+std::vector<std::size_t> lines_of(const std::vector<Findings::RowNotTakenOver>& rows) {
+  std::vector<std::size_t> lines(rows.size());
+  std::transform(rows.begin(), rows.end(), lines.begin(), [](const auto& row) { return row.line; });
+  return lines;
 }
 
 }  // namespace
@@ -114,7 +109,8 @@ void ImportWatcher::ended(const ImportSeen& seen) {
   findings_.path = seen.path;
   findings_.prepared_from = made_of_;
   findings_.prepared_left_out = not_taken_over_;
-  if (!not_taken_over_.empty()) findings_.doubts.push_back(doubt_not_taken_over(not_taken_over_));
+  if (auto doubt = doubt_at("rows_left_out", "konsola.watp_przygotowanie", lines_of(not_taken_over_)))
+    findings_.doubts.push_back(std::move(*doubt));
   findings_.outcome = outcome_of(seen);
   if (places_ && seen.outcome == CommandOutcome::failed) {
     take_back(findings_.account, seen, *places_, all_points(seen), Why::not_imported);

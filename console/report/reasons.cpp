@@ -3,14 +3,11 @@
 #include <algorithm>
 #include <array>
 #include <exception>
-#include <fstream>
 #include <optional>
 #include <string>
-#include <vector>
 
 #include "intake/cell_number.h"
 #include "intake/dialect.h"
-#include "intake/encoding.h"
 #include "intake/file_kind.h"
 #include "intake/raster.h"
 #include "intake/workbook.h"
@@ -26,18 +23,14 @@ using vexo_xyz_impl::ImportSeen;
 using vexo_xyz_impl::Row;
 using vexo_xyz_impl::T;
 
-// The beginning of a text, decoded, up to its last whole line.
-std::vector<char> beginning_of(const std::string& path) {
+// The beginning of the text that was read, up to its last whole line.
+std::string_view beginning_of(std::string_view text) {
   constexpr std::size_t kEnough = std::size_t{1} << 18U;
-  std::ifstream file(path, std::ios::binary);
-  std::vector<char> bytes(kEnough);
-  file.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-  bytes.resize(static_cast<std::size_t>(file.gcount()));
-  if (bytes.size() == kEnough) {
-    const auto end = std::find_if(bytes.rbegin(), bytes.rend(), vexo_xyz_impl::text::is_line_end);
-    if (end != bytes.rend()) bytes.erase(end.base(), bytes.end());
-  }
-  return intake::decoded(std::move(bytes)).utf8;
+  vexo_xyz_impl::text::take_byte_order_mark(text);
+  if (text.size() <= kEnough) return text;
+  const std::string_view beginning = text.substr(0, kEnough);
+  const std::size_t end = beginning.find_last_of("\r\n");
+  return end == std::string_view::npos ? beginning : beginning.substr(0, end + 1);
 }
 
 // Whether most rows have two cells, or more, that are angles.
@@ -55,7 +48,6 @@ bool are_angles(std::span<const Row> rows) {
 
 // The first line that has a number beside something that is none, and no third cell, where two columns prevail.
 std::optional<std::size_t> line_of_odd_row(const ImportSeen& seen) {
-  if (!seen.loaded.rows) return std::nullopt;
   const auto& rows = seen.loaded.rows->rows();
   const auto odd = std::find_if(rows.begin(), rows.end(), [](Row row) {
     return row.size() == 2 && !vexo_xyz_impl::_czy_liczba(row[0]) && vexo_xyz_impl::_czy_liczba(row[1]);
@@ -93,10 +85,9 @@ Reason reason_of_rows(const ImportSeen& seen, const Findings& findings) {
 }
 
 Reason reason_of_text(const ImportSeen& seen, const Findings& findings) {
-  const std::vector<char> text = beginning_of(seen.path);
-  const std::string_view beginning(text.data(), text.size());
-  if (seen.loaded.rows && are_angles(seen.loaded.rows->rows())) return reason_named("dms");
-  const intake::Dialect dialect = intake::dialect_of(beginning);
+  if (!seen.loaded.rows) return reason_named("unreadable");
+  if (are_angles(seen.loaded.rows->rows())) return reason_named("dms");
+  const intake::Dialect dialect = intake::dialect_of(beginning_of(seen.loaded.rows->text()));
   if (dialect.is_decided && dialect.separator == ',') return reason_named("comma_separated");
   if (dialect.is_decided && dialect.separator == '|') return reason_named("pipe_separated");
   if (seen.failure && seen.failure->kind == "IndexError") {
