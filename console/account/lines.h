@@ -29,7 +29,7 @@ struct Line {
 /// The lines that give rows, for when the rows are forgotten: all but comments and blank ones.
 [[nodiscard]] std::vector<Line> lines_with_rows(std::string_view text);
 
-/// Finds the line of places in a text. RowPlaces asked for in rising order cost one pass over the text in all.
+/// Finds the line of places in a text. Places asked for in rising order cost one pass over the text in all.
 class LineFinder {
  public:
   explicit LineFinder(std::string_view text) : text_(text) {}
