@@ -1,17 +1,16 @@
 #include "console/prepare.h"
 
-#include <ostream>
 #include <system_error>
 #include <vector>
 
 #include "console/dialogue/dialogue.h"
-#include "console/dialogue/shown_text.h"
 #include "console/drawing/database.h"
 #include "console/failure_text.h"
 #include "console/files.h"
 #include "console/prepare_columns.h"
 #include "console/prepare_log.h"
 #include "console/report/reasons.h"
+#include "console/texts/say.h"
 #include "intake/foreign_table.h"
 #include "intake/seen_table.h"
 #include "vexo_xyz_impl/command/module.h"
@@ -24,7 +23,7 @@ using intake::NotedRow;
 using intake::PreparedAccount;
 using intake::Roles;
 using intake::RowNote;
-using vexo_xyz_impl::filled;
+using vexo_xyz_impl::print;
 
 constexpr int kMostNames = 10000;       // prepared files of one name in one folder
 constexpr std::size_t kLinesNamed = 5;  // of each kind of rows left out
@@ -58,8 +57,7 @@ PrepareResult refused(ExitCode code) {
 
 class Preparation {
  public:
-  Preparation(const PrepareOptions& options, LineSource& lines, std::ostream& out)
-      : options_(options), lines_(lines), out_(out) {}
+  Preparation(const PrepareOptions& options, LineSource& lines) : options_(options), lines_(lines) {}
 
   PrepareResult run() {
     if (output_is_refused()) return refused(kFailure);
@@ -73,17 +71,12 @@ class Preparation {
     if (!sheet_is_there()) return refused(options_.sheet ? kUsage : kNothingImported);
     const auto by_position = options_.columns ? intake::roles_of(*options_.columns) : std::nullopt;
     const intake::SeenTable seen(*table_, by_position ? &*by_position : nullptr);
-    const ChosenColumns columns = choose_columns(seen, options_.columns, lines_, out_);
+    const ChosenColumns columns = choose_columns(seen, options_.columns, lines_);
     if (!columns.roles) return refused(columns.code);
     return written(seen, *columns.roles);
   }
 
  private:
-  void say(std::string_view key, const std::vector<std::string>& values = {}) {
-    print(filled(key, {values.begin(), values.end()}));
-  }
-  void print(std::string_view text) { out_ << shown_text(text) << std::flush; }
-
   // Of a workbook the sheet is told where there are several.
   bool sheet_is_there() {
     std::string all;
@@ -131,7 +124,8 @@ class Preparation {
         say("konsola.plik_istnieje", {output.string()});
         return refused(kFailure);
       }
-      say("konsola.prep_zapisano", output.string(), account.points);
+      const std::string name = output.string();
+      print("konsola.prep_zapisano", {std::string_view(name), static_cast<long long>(account.points)});
       tell(account);
       writing = log_of(output);
       write_log(output, account);
@@ -141,10 +135,6 @@ class Preparation {
       say("konsola.prep_blad_zapisu", {writing.string(), failure_text(failure)});
       return refused(kFailure);
     }
-  }
-
-  void say(std::string_view key, const std::string& text, std::size_t count) {
-    print(filled(key, {std::string_view(text), static_cast<long long>(count)}));
   }
 
   // Each kind of note with the first lines it is of.
@@ -163,7 +153,7 @@ class Preparation {
       const std::string_view key = note == RowNote::hidden     ? "konsola.prep_ukryte"
                                    : intake::is_left_out(note) ? "konsola.prep_pominieto"
                                                                : "konsola.prep_zmieniono";
-      print(filled(key, {static_cast<long long>(count), std::string_view(what), std::string_view(lines)}));
+      print(key, {static_cast<long long>(count), std::string_view(what), std::string_view(lines)});
       if (note == RowNote::no_height) say("konsola.prep_bez_wysokosci_rada");
     }
   }
@@ -187,18 +177,16 @@ class Preparation {
 
   const PrepareOptions& options_;
   LineSource& lines_;
-  std::ostream& out_;
   std::optional<intake::ForeignTable> table_;
 };
 
 }  // namespace
 
-PrepareResult prepare(const PrepareOptions& options, LineSource& lines, std::ostream& out) {
+PrepareResult prepare(const PrepareOptions& options, LineSource& lines) {
   try {
-    return Preparation(options, lines, out).run();
+    return Preparation(options, lines).run();
   } catch (const vexo_xyz_impl::Failure& failure) {
-    const std::string text = filled("konsola.prep_blad_odczytu", {failure.kind(), std::string_view(failure.what())});
-    out << shown_text(text) << std::flush;
+    say("konsola.prep_blad_odczytu", {failure.kind(), failure.what()});
     return refused(kFailure);
   }
 }
@@ -208,7 +196,7 @@ ExitCode run_prepare(const PrepareOptions& options, const Choice& choice, LineSo
   Dialogue dialogue(lines, out, database.drawing().variables, std::nullopt, {});
   SiblingRegistry siblings = family(database, choice);
   const vexo_xyz_impl::Entered entered({{dialogue, database, siblings}, vexo_xyz_impl::bind_siblings(siblings)});
-  return prepare(options, lines, out).code;
+  return prepare(options, lines).code;
 }
 
 }  // namespace console

@@ -32,7 +32,7 @@ struct PrepareResult {
 
 /// Reads, asks on `lines` where it must, writes the file and beside it its log (its name with ".log"). The user has
 /// been told everything. The module must be entered.
-[[nodiscard]] PrepareResult prepare(const PrepareOptions& options, LineSource& lines, std::ostream& out);
+[[nodiscard]] PrepareResult prepare(const PrepareOptions& options, LineSource& lines);
 
 /// The same with the texts of the user's choice, for a run of its own.
 [[nodiscard]] ExitCode run_prepare(const PrepareOptions& options, const Choice& choice, LineSource& lines,

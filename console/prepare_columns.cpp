@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <charconv>
-#include <ostream>
 #include <string_view>
 #include <system_error>
 #include <utility>
@@ -10,6 +9,7 @@
 
 #include "console/dialogue/shown_text.h"
 #include "console/report/reasons.h"
+#include "console/texts/say.h"
 #include "intake/columns.h"
 #include "intake/header_words.h"
 #include "intake/role_spelling.h"
@@ -25,7 +25,6 @@ using intake::Role;
 using intake::Roles;
 using intake::TableShape;
 using intake::Verdict;
-using vexo_xyz_impl::filled;
 using vexo_xyz_impl::T;
 
 constexpr std::size_t kCellsShown = 12;  // of a row in a question
@@ -48,7 +47,7 @@ std::string_view ground_key(Ground ground) {
 
 class Choosing {
  public:
-  Choosing(const TableShape& shape, LineSource& lines, std::ostream& out) : shape_(shape), lines_(lines), out_(out) {}
+  Choosing(const TableShape& shape, LineSource& lines) : shape_(shape), lines_(lines) {}
 
   ChosenColumns decided() {
     const Decision decision = intake::decide(shape_);
@@ -97,10 +96,7 @@ class Choosing {
   }
 
  private:
-  void say(std::string_view key, const std::vector<std::string>& values = {}) {
-    print(filled(key, {values.begin(), values.end()}));
-  }
-  void print(std::string_view text) { out_ << shown_text(text) << std::flush; }
+  static void print(std::string_view text) { vexo_xyz_impl::command_line().gcutPrintf(text); }
 
   void warn_of_degrees() {
     if (!std::exchange(is_warned_, true)) say("konsola.prep_moze_stopnie");
@@ -216,15 +212,14 @@ class Choosing {
 
   const TableShape& shape_;
   LineSource& lines_;
-  std::ostream& out_;
   bool is_warned_ = false;
 };
 
 }  // namespace
 
 ChosenColumns choose_columns(const intake::SeenTable& table, const std::optional<std::string>& columns,
-                             LineSource& lines, std::ostream& out) {
-  Choosing choosing(table.shape(), lines, out);
+                             LineSource& lines) {
+  Choosing choosing(table.shape(), lines);
   return columns ? choosing.given(*columns) : choosing.decided();
 }
 

@@ -2,7 +2,6 @@
 // chooses among numbered readings.
 #pragma once
 
-#include <iosfwd>
 #include <optional>
 #include <string>
 
@@ -20,6 +19,6 @@ struct ChosenColumns {
 /// The user has been told what was decided, or why nothing was. `columns` as `--columns` gives them. The module must be
 /// entered.
 [[nodiscard]] ChosenColumns choose_columns(const intake::SeenTable& table, const std::optional<std::string>& columns,
-                                           LineSource& lines, std::ostream& out);
+                                           LineSource& lines);
 
 }  // namespace console

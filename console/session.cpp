@@ -11,6 +11,7 @@
 #include "console/prepare_log.h"
 #include "console/report/reasons.h"
 #include "console/report/report_file.h"
+#include "console/texts/say.h"
 #include "vexo_xyz_impl/command/module.h"
 #include "vexo_xyz_impl/command/questions.h"
 #include "vexo_xyz_impl/messages.h"
@@ -38,7 +39,6 @@ std::vector<Findings::RowNotTakenOver> rows_not_taken_over(const intake::Prepare
 Session::Session(SessionOptions options, LineSource& lines, std::ostream& out)
     : options_(std::move(options)),
       lines_(lines),
-      out_(out),
       dialogue_(lines, out, database_.drawing().variables, options_.file, options_.answers),
       siblings_(family(database_, options_.choice)),
       entered_({{dialogue_, database_, siblings_, nullptr, this, &watcher_}, vexo_xyz_impl::bind_siblings(siblings_)}) {
@@ -135,7 +135,7 @@ bool Session::prepares_instead() {
   const std::filesystem::path file = source();
   PrepareOptions options;
   options.file = file.string();
-  const PrepareResult prepared = prepare(options, lines_, out_);
+  const PrepareResult prepared = prepare(options, lines_);
   if (prepared.code != kImported) return false;
   prepared_from_ = file;
   // What was told of the axes is the file's order, which the prepared one no longer has where it knows E and N.
@@ -155,12 +155,11 @@ ExitCode Session::import_and_save() {
   if (prepares_instead()) outcome = import_once();
   for (const std::string_view option : dialogue_.unused_options()) say("konsola.opcja_zbedna", {std::string(option)});
   if (outcome == CommandOutcome::failed) {
-    if (database_.drawing().entity_count() > 0) say("konsola.nie_zapisano", {});
+    if (database_.drawing().entity_count() > 0) say("konsola.nie_zapisano");
     return kFailure;
   }
   if (database_.refused_count() > 0) {
-    dialogue_.gcutPrintf(
-        vexo_xyz_impl::filled("konsola.odrzucone", {static_cast<long long>(database_.refused_count())}));
+    vexo_xyz_impl::print("konsola.odrzucone", {static_cast<long long>(database_.refused_count())});
   }
   return database_.drawing().entity_count() == 0 ? kNothingImported : save();
 }
@@ -206,11 +205,6 @@ std::filesystem::path Session::write_drawing() {
     if (file.commit(name, false)) return name;
   }
   throw FileFailure(FileStep::rename, EEXIST);
-}
-
-void Session::say(std::string_view key, const std::vector<std::string>& values) {
-  std::vector<vexo_xyz_impl::TemplateValue> template_values(values.begin(), values.end());
-  dialogue_.gcutPrintf(vexo_xyz_impl::filled(key, template_values));
 }
 
 }  // namespace console

@@ -55,11 +55,9 @@ class Session final : private vexo_xyz_impl::host::CommandTable, private vexo_xy
   ExitCode save();
   ExitCode save_report(ExitCode so_far);
   std::filesystem::path write_drawing();
-  void say(std::string_view key, const std::vector<std::string>& values);
 
   SessionOptions options_;
   LineSource& lines_;
-  std::ostream& out_;
   std::optional<std::filesystem::path> prepared_from_;  // the file that the user chose
   Database database_;
   Dialogue dialogue_;
