@@ -138,7 +138,7 @@ class Preparation {
   }
 
   // Each kind of note with the first lines it is of.
-  void tell(const PreparedAccount& account) {
+  static void tell(const PreparedAccount& account) {
     for (int kind = 0; kind <= static_cast<int>(RowNote::hidden); ++kind) {
       const auto note = static_cast<RowNote>(kind);
       std::size_t count = 0;
