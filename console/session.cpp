@@ -10,6 +10,7 @@
 #include "console/files.h"
 #include "console/prepare.h"
 #include "console/prepare_log.h"
+#include "console/repeat.h"
 #include "console/report/reasons.h"
 #include "console/report/report_file.h"
 #include "console/texts/say.h"
@@ -43,8 +44,10 @@ Session::Session(SessionOptions options, LineSource& lines, std::ostream& out)
       database_(options_.wishes.group_selectable),
       dialogue_(lines, out, database_.drawing().variables, options_.file, options_.answers),
       siblings_(family(database_, options_.choice)),
+      watcher_(options_.unattended),
       entered_({{dialogue_, database_, siblings_, nullptr, this, &watcher_}, vexo_xyz_impl::bind_siblings(siblings_)}) {
   vexo_xyz_impl::register_command(*this);
+  if (options_.quiet) dialogue_.hold();
 }
 
 void Session::command(std::string_view local_name, std::string_view /*global_name*/, std::string_view /*group_name*/,
@@ -83,13 +86,6 @@ bool Session::output_is_refused() {
   return false;
 }
 
-// The module takes such a market for the Polish one without a word.
-void Session::warn_of_unknown_market() {
-  using vexo_xyz_impl::host::load_sibling;
-  const std::string market = load_sibling<vexo_xyz_impl::host::Market>(siblings_, "vexo_rynek")->rynek();
-  if (!siblings_.has("vexo_xyz_dane_" + market)) say("konsola.nieznany_rynek", {market});
-}
-
 // Whether the report may not have its name, the user told: an earlier report is replaced, the files of points and of
 // the drawing never.
 bool Session::report_is_refused() {
@@ -114,11 +110,25 @@ bool Session::report_is_refused() {
 }
 
 ExitCode Session::run() {
-  warn_of_unknown_market();
   if (report_is_refused()) return kFailure;  // before any question
   const ExitCode code = output_is_refused() ? kFailure : import_and_save();
   if (code == kFailure) watcher_.drawing_failed();
-  return save_report(code);
+  const ExitCode all_told = save_report(code);
+  if (options_.quiet) end_quietly(all_told);
+  return all_told;
+}
+
+// Of an import that went well only the doubts are told.
+void Session::end_quietly(ExitCode code) {
+  if (code != kImported && !watcher_.is_set_aside()) {
+    dialogue_.say_held();
+    return;
+  }
+  dialogue_.drop_held();  // of a file set aside, what was told after the question left open
+  const bool is_plain = watcher_.findings().doubts.empty() && database_.refused_count() == 0;
+  if (is_plain && code == kImported) return;
+  print_findings(watcher_.findings());
+  dialogue_.say_held();
 }
 
 CommandOutcome Session::import_once() {
@@ -163,7 +173,7 @@ ExitCode Session::import_and_save() {
   if (database_.refused_count() > 0) {
     vexo_xyz_impl::print("konsola.odrzucone", {static_cast<long long>(database_.refused_count())});
   }
-  if (database_.drawing().entity_count() == 0) return kNothingImported;
+  if (database_.drawing().entity_count() == 0 || watcher_.is_set_aside()) return kNothingImported;
   if (options_.wishes.height_decimals && watcher_.findings().layout.ends_with('Z')) {
     add_heights(database_.drawing(), *options_.wishes.height_decimals);
   }
@@ -174,12 +184,20 @@ ExitCode Session::save() {
   if (output_is_refused()) return kFailure;  // a path that was typed is known only now
   const std::string wanted = options_.output ? options_.output->string() : drawing_name(source(), 1).string();
   try {
-    say("konsola.zapisano", {write_drawing().string()});
+    const std::string drawing = write_drawing().string();
+    say("konsola.zapisano", {drawing});
+    tell_repeating_command(drawing);
     return kImported;
   } catch (const std::system_error& failure) {
     say("konsola.blad_zapisu", {wanted, failure_text(failure)});
     return kFailure;
   }
+}
+
+void Session::tell_repeating_command(const std::string& drawing) {
+  const std::string repeat = repeating_command(dialogue_.path(), options_.words, watcher_.findings().answers);
+  watcher_.saved(drawing, repeat);
+  say("konsola.prep_powtorz", {repeat});
 }
 
 ExitCode Session::save_report(ExitCode so_far) {

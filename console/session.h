@@ -30,8 +30,11 @@ struct SessionOptions {
   std::optional<std::filesystem::path> into;           ///< the drawing that the points are added to
   std::optional<std::filesystem::path> preview;        ///< where a picture of the points is drawn
   DrawingWishes wishes;
-  bool prepare = false;      ///< a file that the importer does not read is made into one that it reads
-  bool interactive = false;  ///< somebody is there to be offered that
+  std::vector<std::string> words;  ///< the options as a command line has them, for the command that repeats the import
+  bool unattended = false;         ///< a file that leaves a question open is set aside
+  bool quiet = false;              ///< only questions, doubts and failures are told
+  bool prepare = false;            ///< a file that the importer does not read is made into one that it reads
+  bool interactive = false;        ///< somebody is there to be offered that
 };
 
 class Session final : private vexo_xyz_impl::host::CommandTable, private vexo_xyz_impl::host::Foreknowledge {
@@ -40,6 +43,9 @@ class Session final : private vexo_xyz_impl::host::CommandTable, private vexo_xy
 
   /// Runs the command and saves the drawing when something was imported. The user has been told everything.
   ExitCode run();
+
+  /// What came of it.
+  [[nodiscard]] const Findings& findings() const { return watcher_.findings(); }
 
  private:
   void command(std::string_view local_name, std::string_view global_name, std::string_view group_name,
@@ -52,12 +58,13 @@ class Session final : private vexo_xyz_impl::host::CommandTable, private vexo_xy
   [[nodiscard]] bool is_file_of_points(const std::filesystem::path& path) const;
   [[nodiscard]] bool output_is_refused();
   [[nodiscard]] bool report_is_refused();
-  void warn_of_unknown_market();
   ExitCode import_and_save();
   vexo_xyz_impl::host::CommandOutcome import_once();
   [[nodiscard]] bool prepares_instead();
   [[nodiscard]] std::filesystem::path source() const;
   ExitCode save();
+  void tell_repeating_command(const std::string& drawing);
+  void end_quietly(ExitCode code);
   ExitCode save_report(ExitCode so_far);
   std::filesystem::path write_drawing();
 

@@ -42,6 +42,12 @@ class Dialogue final : public vexo_xyz_impl::host::CommandLine {
   vexo_xyz_impl::host::PromptStatus gcedSetVar(std::string_view name,
                                                const vexo_xyz_impl::host::resbuf& value) override;
 
+  /// From now on nothing is printed but questions, and before each what led to it.
+  void hold() { holds_ = true; }
+  /// Prints what was held back, or forgets it.
+  void say_held();
+  void drop_held() { held_.clear(); }
+
   /// The file to be imported next, in the place of the one given or typed.
   void choose_file(std::string path) { file_ = std::move(path); }
 
@@ -66,6 +72,8 @@ class Dialogue final : public vexo_xyz_impl::host::CommandLine {
   std::vector<PreparedAnswer> answers_;
   std::string path_;
   std::vector<std::string> keywords_;
+  bool holds_ = false;
+  std::string held_;
 };
 
 }  // namespace console

@@ -38,11 +38,6 @@ std::span<const Text> program_texts() {
        "Achtung: von der Zeichnung abgewiesene Objekte: %d (Koordinaten sind unendlich, zu groß oder keine Zahlen).\n",
        "Atenție: obiecte respinse de desen: %d (coordonate infinite, prea mari sau care nu sunt numere).\n",
        "Note: objects refused by the drawing: %d (their coordinates are infinite, too large or no numbers).\n"},
-      {"konsola.nieznany_rynek", "s",  // market code
-       "VEXO_RYNEK: nieznany rynek „%s” (znane: PL, DE, RO); przyjęto PL.\n",
-       "VEXO_RYNEK: unbekannter Markt „%s“ (bekannt: PL, DE, RO); es gilt PL.\n",
-       "VEXO_RYNEK: piață necunoscută „%s” (cunoscute: PL, DE, RO); se folosește PL.\n",
-       "VEXO_RYNEK: unknown market “%s” (known: PL, DE, RO); PL is used.\n"},
       {"konsola.zapisano", "s",  // path
        "Rysunek: %s\n", "Zeichnung: %s\n", "Desen: %s\n", "Drawing: %s\n"},
       {"konsola.nie_zapisano", "", "Rysunku nie zapisano.\n", "Die Zeichnung wurde nicht gespeichert.\n",
