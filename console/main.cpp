@@ -71,6 +71,14 @@ void declare(CLI::App& app, Arguments& arguments) {
   console::declare_choice(app, arguments.choice);
 }
 
+// What can only be a slip, said before anything is done.
+void check(const CLI::App& app, const Arguments& arguments) {
+  if (app.count("-o") > 0 && arguments.output.empty()) throw CLI::ValidationError("--output", "a drawing needs a name");
+  if (arguments.output == "-")
+    throw CLI::ValidationError("--output", "a drawing is a file; it is not written to standard output");
+  if (arguments.force && app.count("-o") == 0) throw CLI::RequiresError("--force", "--output");
+}
+
 bool at_a_terminal() { return isatty(STDIN_FILENO) != 0 && isatty(STDOUT_FILENO) != 0; }
 
 console::SessionOptions options_of(const CLI::App& app, const Arguments& arguments) {
@@ -78,7 +86,7 @@ console::SessionOptions options_of(const CLI::App& app, const Arguments& argumen
   options.prepare = arguments.prepare_too;
   options.interactive = at_a_terminal();
   if (app.count("FILE") > 0) options.file = arguments.file;
-  if (app.count("-o") > 0) options.output = arguments.output;
+  if (app.count("-o") > 0) options.output = console::with_extension(arguments.output);
   options.force = arguments.force;
   if (app.count("--report") > 0) options.report = arguments.report;
   options.choice = arguments.choice;
@@ -120,6 +128,7 @@ int run(int argc, char** argv) {
   const CLI::App* const preparing = console::declare_prepare(app, prepare);
   try {
     app.parse(argc, argv);
+    check(app, arguments);
   } catch (const CLI::ParseError& error) {
     return app.exit(error) == 0 ? console::kImported : console::kUsage;
   }

@@ -9,9 +9,12 @@
 #include <utility>
 
 #include "console/account/account_lines.h"
+#include "console/dialogue/shown_text.h"
 #include "console/report/reasons.h"
 #include "vexo_xyz_impl/crs/systems.h"
+#include "vexo_xyz_impl/failure.h"
 #include "vexo_xyz_impl/messages.h"
+#include "vexo_xyz_impl/notices.h"
 
 namespace console {
 namespace {
@@ -129,6 +132,8 @@ void ImportWatcher::ended(const ImportSeen& seen) {
   if (seen.loaded.typ == vexo_xyz_impl::FileType::xlsx && seen.loaded.rows)
     append(findings_.doubts, doubts_of_workbook(seen, places_ ? &*places_ : nullptr));
   findings_.reason = reason_of(seen, findings_);
+  if (seen.outcome == CommandOutcome::failed && !seen.failure)  // the module tells the log of its own failures only
+    vexo_xyz_impl::notify_failure(vexo_xyz_impl::OSError(shown_text(seen.path) + ": " + findings_.reason.text));
   places_.reset();
   header_.reset();
 }
