@@ -213,6 +213,10 @@ std::vector<std::string> separate_arguments(int argc, const char* const* argv) {
 
 void check(const CLI::App& app, const Arguments& arguments) {
   check_market(arguments.choice);
+  if (app.count("-o") > 0 && arguments.output.empty()) throw CLI::ValidationError("--output", "a drawing needs a name");
+  if (arguments.output == "-")
+    throw CLI::ValidationError("--output", "a drawing is a file; it is not written to standard output");
+  if (arguments.force && app.count("-o") == 0) throw CLI::RequiresError("--force", "--output");
   if (arguments.files.size() < 2) return;
   for (const char* const option : {"--output", "--report", "--preview"})
     if (app.count(option) > 0) throw CLI::ValidationError(option, "is for one FILE; --json tells of several");
@@ -225,7 +229,7 @@ SessionOptions session_options(const CLI::App& app, const Arguments& arguments, 
   options.words = words_of(app, arguments);
   options.quiet = arguments.quiet;
   if (!arguments.files.empty()) options.file = arguments.files.front();
-  if (app.count("-o") > 0) options.output = arguments.output;
+  if (app.count("-o") > 0) options.output = with_extension(arguments.output);
   if (app.count("--into") > 0) options.into = arguments.into;
   options.force = arguments.force;
   if (app.count("--report") > 0) options.report = arguments.report;

@@ -50,10 +50,11 @@ CLI::App* declare_prepare(CLI::App& app, PrepareArguments& arguments) {
   prepare->footer(kFooter);
   PrepareOptions& options = arguments.options;
   prepare->add_option("FILE", options.file, "Table of points: text of any separator, or .xlsx")->required();
-  prepare
-      ->add_option("-o,--output", options.output,
-                   "File to write. Default: beside FILE, with _prepared.csv, or the next free one (_2, _3 ...)")
-      ->type_name("OUT.csv");
+  CLI::Option* const output =
+      prepare
+          ->add_option("-o,--output", options.output,
+                       "File to write. Default: beside FILE, with _prepared.csv, or the next free one (_2, _3 ...)")
+          ->type_name("OUT.csv");
   prepare->add_option("--columns", options.columns, "What the columns hold; see below")->type_name("ROLES");
   prepare->add_option("--sheet", options.sheet, "Sheet of a workbook. Default: the one that is seen first")
       ->type_name("NAME");
@@ -66,7 +67,8 @@ CLI::App* declare_prepare(CLI::App& app, PrepareArguments& arguments) {
           "What becomes of a row without a height where others have one: 'skip', the default, or 'zero'")
       ->type_name("WHAT")
       ->check(CLI::IsMember({"skip", "zero"}));
-  prepare->add_flag("--force", options.force, "Replace the file given by -o, and its log, if they exist");
+  prepare->add_flag("--force", options.force, "Replace the file given by -o, and its log, if they exist")
+      ->needs(output);
   declare_choice(*prepare, arguments.choice);
   return prepare;
 }

@@ -1,9 +1,11 @@
 #include "console/session.h"
 
 #include <cerrno>
+#include <string_view>
 #include <system_error>
 #include <utility>
 
+#include "console/dialogue/shown_text.h"
 #include "console/drawing/heights.h"
 #include "console/dxf/dxf_writer.h"
 #include "console/failure_text.h"
@@ -16,6 +18,7 @@
 #include "console/texts/say.h"
 #include "vexo_xyz_impl/command/module.h"
 #include "vexo_xyz_impl/command/questions.h"
+#include "vexo_xyz_impl/failure.h"
 #include "vexo_xyz_impl/messages.h"
 #include "vexo_xyz_impl/notices.h"
 
@@ -40,6 +43,7 @@ std::vector<Findings::RowNotTakenOver> rows_not_taken_over(const intake::Prepare
 
 Session::Session(SessionOptions options, LineSource& lines, std::ostream& out)
     : options_(std::move(options)),
+      targets_{options_.output, options_.force, options_.report},
       lines_(lines),
       database_(options_.wishes.group_selectable),
       dialogue_(lines, out, database_.drawing().variables, options_.file, options_.answers),
@@ -48,6 +52,10 @@ Session::Session(SessionOptions options, LineSource& lines, std::ostream& out)
       entered_({{dialogue_, database_, siblings_, nullptr, this, &watcher_}, vexo_xyz_impl::bind_siblings(siblings_)}) {
   vexo_xyz_impl::register_command(*this);
   if (options_.quiet) dialogue_.hold();
+  dialogue_.check_typed_path([this](const std::string& path) {
+    is_refused_ = report_is_refused() || drawing_is_refused(vexo_xyz_impl::clean_path(path));
+    return !is_refused_;
+  });
 }
 
 void Session::command(std::string_view local_name, std::string_view /*global_name*/, std::string_view /*group_name*/,
@@ -65,53 +73,27 @@ bool Session::is_file_of_points(const std::filesystem::path& path) const {
          is_same(dialogue_.path());
 }
 
-// Whether the drawing may not have the name asked for, the user told: an existing file is replaced only when that is
-// asked for, and the file of points never.
-bool Session::output_is_refused() {
-  if (!options_.output) return false;
-  std::error_code ignored;
-  if (is_file_of_points(*options_.output)) {
-    say("konsola.plik_zrodlowy", {options_.output->string()});
-    return true;
-  }
-  const auto status = std::filesystem::status(*options_.output, ignored);
-  if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status)) {
-    say("konsola.blad_zapisu", {options_.output->string(), vexo_xyz_impl::T("konsola.powod_nie_plik")});
-    return true;
-  }
-  if (!options_.force && std::filesystem::exists(status)) {
-    say("konsola.plik_istnieje", {options_.output->string()});
-    return true;
-  }
-  return false;
+bool Session::failed(const std::optional<std::string>& text) {
+  if (!text) return false;
+  dialogue_.gcutPrintf(*text);
+  vexo_xyz_impl::notify_failure(vexo_xyz_impl::OSError(shown_text(*text)));
+  return true;
 }
 
-// Whether the report may not have its name, the user told: an earlier report is replaced, the files of points and of
-// the drawing never.
-bool Session::report_is_refused() {
-  if (!options_.report) return false;
-  std::error_code ignored;
-  const bool is_drawing = options_.output && options_.report->lexically_normal() == options_.output->lexically_normal();
-  const auto status = std::filesystem::status(*options_.report, ignored);
-  std::string_view reason;
-  if (is_file_of_points(*options_.report)) {
-    reason = "konsola.powod_plik_punktow";
-  } else if (is_drawing) {
-    reason = "konsola.powod_rysunek";
-  } else if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status)) {
-    reason = "konsola.powod_nie_plik";
-  } else if (std::filesystem::exists(status) && !is_report(*options_.report)) {
-    reason = "konsola.powod_nie_raport";
-  } else {
-    return false;
-  }
-  say("konsola.raport_blad", {options_.report->string(), vexo_xyz_impl::T(reason)});
-  return true;
+bool Session::report_is_refused() { return failed(report_refused(targets_, is_points())); }
+
+bool Session::drawing_is_refused(const std::filesystem::path& points) {
+  return failed(drawing_refused(targets_, points, is_points()));
+}
+
+IsFileOfPoints Session::is_points() const {
+  return [this](const std::filesystem::path& path) { return is_file_of_points(path); };
 }
 
 ExitCode Session::run() {
   if (report_is_refused()) return kFailure;  // before any question
-  const ExitCode code = output_is_refused() ? kFailure : import_and_save();
+  const std::filesystem::path given = vexo_xyz_impl::clean_path(options_.file.value_or(std::string()));
+  const ExitCode code = drawing_is_refused(given) ? kFailure : import_and_save();
   if (code == kFailure) watcher_.drawing_failed();
   const ExitCode all_told = save_report(code);
   if (options_.quiet) end_quietly(all_told);
@@ -164,6 +146,7 @@ std::filesystem::path Session::source() const {
 
 ExitCode Session::import_and_save() {
   CommandOutcome outcome = import_once();
+  if (is_refused_) return kFailure;
   if (prepares_instead()) outcome = import_once();
   for (const std::string_view option : dialogue_.unused_options()) say("konsola.opcja_zbedna", {std::string(option)});
   if (outcome == CommandOutcome::failed) {
@@ -181,7 +164,7 @@ ExitCode Session::import_and_save() {
 }
 
 ExitCode Session::save() {
-  if (output_is_refused()) return kFailure;  // a path that was typed is known only now
+  if (drawing_is_refused(source())) return kFailure;  // also of what was prepared meanwhile
   const std::string wanted = options_.output ? options_.output->string() : drawing_name(source(), 1).string();
   try {
     const std::string drawing = write_drawing().string();
@@ -189,7 +172,8 @@ ExitCode Session::save() {
     tell_repeating_command(drawing);
     return kImported;
   } catch (const std::system_error& failure) {
-    say("konsola.blad_zapisu", {wanted, failure_text(failure)});
+    const std::string reason = failure_text(failure);
+    failed(vexo_xyz_impl::filled("konsola.blad_zapisu", {std::string_view(wanted), std::string_view(reason)}));
     return kFailure;
   }
 }
@@ -202,20 +186,22 @@ void Session::tell_repeating_command(const std::string& drawing) {
 
 ExitCode Session::save_report(ExitCode so_far) {
   if (!options_.report) return so_far;
-  if (report_is_refused()) return kFailure;  // a path that was typed is known only now
+  if (report_is_refused()) return kFailure;  // also of what was prepared meanwhile
   try {
     write_report(watcher_.findings(), *options_.report);
     say("konsola.raport_zapisano", {options_.report->string()});
     return so_far;
   } catch (const std::system_error& failure) {
-    say("konsola.raport_blad", {options_.report->string(), failure_text(failure)});
+    const std::string path = options_.report->string();
+    const std::string reason = failure_text(failure);
+    failed(vexo_xyz_impl::filled("konsola.raport_blad", {std::string_view(path), std::string_view(reason)}));
     return kFailure;
   }
 }
 
 std::filesystem::path Session::write_drawing() {
   const std::filesystem::path points = source();
-  AtomicFile file(options_.output ? options_.output->parent_path() : points.parent_path());
+  AtomicFile file((options_.output ? final_target(*options_.output) : points).parent_path());
   const std::string market =
       vexo_xyz_impl::host::load_sibling<vexo_xyz_impl::host::Market>(siblings_, "vexo_rynek")->rynek();
   write_dxf(database_.drawing(), options_.wishes, code_page_of(market), file);

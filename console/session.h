@@ -14,6 +14,7 @@
 #include "console/exit_code.h"
 #include "console/report/import_watcher.h"
 #include "console/sibling_registry.h"
+#include "console/targets.h"
 #include "vexo_xyz_impl/bindings.h"
 
 namespace console {
@@ -56,8 +57,11 @@ class Session final : private vexo_xyz_impl::host::CommandTable, private vexo_xy
   }
   std::optional<double> label_height() override { return options_.wishes.text_height; }
   [[nodiscard]] bool is_file_of_points(const std::filesystem::path& path) const;
-  [[nodiscard]] bool output_is_refused();
+  [[nodiscard]] IsFileOfPoints is_points() const;
+  // Whether there is a text of a failure: then the user is told and the log has it.
+  bool failed(const std::optional<std::string>& text);
   [[nodiscard]] bool report_is_refused();
+  [[nodiscard]] bool drawing_is_refused(const std::filesystem::path& points);
   ExitCode import_and_save();
   vexo_xyz_impl::host::CommandOutcome import_once();
   [[nodiscard]] bool prepares_instead();
@@ -69,12 +73,14 @@ class Session final : private vexo_xyz_impl::host::CommandTable, private vexo_xy
   std::filesystem::path write_drawing();
 
   SessionOptions options_;
+  Targets targets_;
   LineSource& lines_;
   std::optional<std::filesystem::path> prepared_from_;  // the file that the user chose
   Database database_;
   Dialogue dialogue_;
   SiblingRegistry siblings_;
   ImportWatcher watcher_;
+  bool is_refused_ = false;  // what comes of the path that was typed cannot be written
   vexo_xyz_impl::host::CommandFunction import_;
   vexo_xyz_impl::Entered entered_;  // for as long as the session lasts
 };

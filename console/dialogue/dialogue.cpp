@@ -64,6 +64,7 @@ std::pair<PromptStatus, std::string> Dialogue::gcedGetString(int /*spaces_allowe
   auto typed = lines_.read_line(prompt, Completion::file_names);
   if (!typed) return {RTCAN, {}};
   path_ = *typed;
+  if (accepts_ && !path_.empty() && !accepts_(path_)) return {RTCAN, {}};
   return {RTNORM, std::move(*typed)};
 }
 

@@ -9,9 +9,12 @@
 #include <utility>
 
 #include "console/account/account_lines.h"
+#include "console/dialogue/shown_text.h"
 #include "console/report/reasons.h"
 #include "vexo_xyz_impl/crs/systems.h"
+#include "vexo_xyz_impl/failure.h"
 #include "vexo_xyz_impl/messages.h"
+#include "vexo_xyz_impl/notices.h"
 
 namespace console {
 namespace {
@@ -149,6 +152,8 @@ void ImportWatcher::ended(const ImportSeen& seen) {
   findings_.reason = reason_of(seen, findings_);
   if (is_set_aside_ && findings_.reason.code.empty())
     findings_.reason = reason_named(seen.verdict.fmt ? "axes_open" : "columns_open");
+  if (seen.outcome == CommandOutcome::failed && !seen.failure)  // the module tells the log of its own failures only
+    vexo_xyz_impl::notify_failure(vexo_xyz_impl::OSError(shown_text(seen.path) + ": " + findings_.reason.text));
   places_.reset();
   header_.reset();
 }

@@ -167,7 +167,7 @@ bool is_report(const std::filesystem::path& path) {
 
 void write_report(const Findings& findings, const std::filesystem::path& path) {
   const std::string report = path.extension() == ".json" ? report_as_json(findings) : as_text(findings);
-  AtomicFile file(path.parent_path());
+  AtomicFile file(final_target(path).parent_path());
   file.write(report);
   file.flush();
   if (!file.commit(path, true)) throw std::system_error(EEXIST, std::generic_category());
