@@ -48,8 +48,8 @@ std::optional<double> Tag::real() const {
 
 std::optional<std::uint64_t> Tag::handle() const { return number_in<std::uint64_t>(trimmed(), 16); }
 
-TagReader::TagReader(std::string_view bytes) : bytes_(bytes) {
-  if (bytes_.starts_with("\xEF\xBB\xBF")) at_ = 3;
+TagReader::TagReader(std::string_view bytes, std::size_t from) : bytes_(bytes), at_(from) {
+  if (from == 0 && bytes_.starts_with("\xEF\xBB\xBF")) at_ = 3;
 }
 
 // The end of the code's line, or nowhere when it is no code.

@@ -30,14 +30,15 @@ struct Tag {
 
 class TagReader {
  public:
-  /// The bytes outlive the reader. A byte order mark before them is passed over.
-  explicit TagReader(std::string_view bytes);
+  /// Reads `bytes`, which outlive the reader, from offset `from` on, where a tag begins. A byte order mark before the
+  /// first tag is passed over.
+  explicit TagReader(std::string_view bytes, std::size_t from = 0);
 
   /// The next tag; false when all bytes are read. Throws DrawingFault with the line where a code is none or where the
   /// bytes end between a code and its value.
   bool next(Tag& tag);
 
-  /// The line of the code of the tag read last, from 1.
+  /// The line of the code of the tag read last, from 1 where reading began.
   [[nodiscard]] std::size_t line() const { return tags_ * 2 - 1; }
 
  private:
