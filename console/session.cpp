@@ -4,6 +4,7 @@
 #include <system_error>
 #include <utility>
 
+#include "console/drawing/heights.h"
 #include "console/dxf/dxf_writer.h"
 #include "console/failure_text.h"
 #include "console/files.h"
@@ -39,6 +40,7 @@ std::vector<Findings::RowNotTakenOver> rows_not_taken_over(const intake::Prepare
 Session::Session(SessionOptions options, LineSource& lines, std::ostream& out)
     : options_(std::move(options)),
       lines_(lines),
+      database_(options_.wishes.group_selectable),
       dialogue_(lines, out, database_.drawing().variables, options_.file, options_.answers),
       siblings_(family(database_, options_.choice)),
       entered_({{dialogue_, database_, siblings_, nullptr, this, &watcher_}, vexo_xyz_impl::bind_siblings(siblings_)}) {
@@ -161,7 +163,11 @@ ExitCode Session::import_and_save() {
   if (database_.refused_count() > 0) {
     vexo_xyz_impl::print("konsola.odrzucone", {static_cast<long long>(database_.refused_count())});
   }
-  return database_.drawing().entity_count() == 0 ? kNothingImported : save();
+  if (database_.drawing().entity_count() == 0) return kNothingImported;
+  if (options_.wishes.height_decimals && watcher_.findings().layout.ends_with('Z')) {
+    add_heights(database_.drawing(), *options_.wishes.height_decimals);
+  }
+  return save();
 }
 
 ExitCode Session::save() {
@@ -194,7 +200,7 @@ std::filesystem::path Session::write_drawing() {
   AtomicFile file(options_.output ? options_.output->parent_path() : points.parent_path());
   const std::string market =
       vexo_xyz_impl::host::load_sibling<vexo_xyz_impl::host::Market>(siblings_, "vexo_rynek")->rynek();
-  write_dxf(database_.drawing(), code_page_of(market), file);
+  write_dxf(database_.drawing(), options_.wishes, code_page_of(market), file);
   file.flush();
   if (options_.output) {
     if (file.commit(*options_.output, options_.force)) return *options_.output;

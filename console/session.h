@@ -10,6 +10,7 @@
 
 #include "console/dialogue/dialogue.h"
 #include "console/drawing/database.h"
+#include "console/drawing/wishes.h"
 #include "console/exit_code.h"
 #include "console/report/import_watcher.h"
 #include "console/sibling_registry.h"
@@ -26,6 +27,9 @@ struct SessionOptions {
   std::vector<PreparedAnswer> answers;
   std::optional<vexo_xyz_impl::host::AxisOrder> axes;  ///< which coordinate stands first, told beforehand
   std::optional<std::filesystem::path> report;         ///< where what came of the import is written
+  std::optional<std::filesystem::path> into;           ///< the drawing that the points are added to
+  std::optional<std::filesystem::path> preview;        ///< where a picture of the points is drawn
+  DrawingWishes wishes;
   bool prepare = false;      ///< a file that the importer does not read is made into one that it reads
   bool interactive = false;  ///< somebody is there to be offered that
 };
@@ -44,6 +48,7 @@ class Session final : private vexo_xyz_impl::host::CommandTable, private vexo_xy
   std::string beside_reading(vexo_xyz_impl::host::AxisOrder order, double share) override {
     return watcher_.beside_reading(order, share);
   }
+  std::optional<double> label_height() override { return options_.wishes.text_height; }
   [[nodiscard]] bool is_file_of_points(const std::filesystem::path& path) const;
   [[nodiscard]] bool output_is_refused();
   [[nodiscard]] bool report_is_refused();

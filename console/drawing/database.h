@@ -23,6 +23,9 @@ class Database final : public vexo_xyz_impl::host::DatabaseServices,
                        public vexo_cad_core::TextStyles,
                        public vexo_reaktywne_core::ControlledEntities {
  public:
+  /// `selectable_groups` false: groups are made unselectable whatever their maker says.
+  explicit Database(bool selectable_groups = true) : selectable_groups_(selectable_groups) {}
+
   [[nodiscard]] Drawing& drawing() { return drawing_; }
   [[nodiscard]] OpenObjects& open_objects() { return open_objects_; }
 
@@ -61,6 +64,7 @@ class Database final : public vexo_xyz_impl::host::DatabaseServices,
   bool keep(vexo_xyz_impl::host::GcDbObjectId oid, vexo_reaktywne_core::ControlRecord record) override;
 
  private:
+  bool selectable_groups_;
   Drawing drawing_;
   OpenObjects open_objects_;
   std::size_t open_newcomers_ = 0;
