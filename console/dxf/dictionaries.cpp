@@ -47,7 +47,7 @@ Dictionary read_dictionary(TagReader& reader, Tag& tag) {
 // Shows each dictionary to `visit` until that says so.
 template <class Visit>
 void visit_dictionaries(std::string_view bytes, const Stretch& objects, Visit visit) {
-  TagReader reader(bytes.substr(0, objects.end), objects.begin);
+  TagReader reader(bytes.substr(0, objects.end), objects.first);
   Tag tag;
   bool is_read = reader.next(tag);
   while (is_read) {

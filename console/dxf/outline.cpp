@@ -68,6 +68,7 @@ class OutlineReader {
     const std::string_view name = known_among(kSections, tag_);
     if (!name.empty() && outline_.sections.contains(name)) fail(Damage::out_of_place);
     advance();
+    const std::size_t first = tag_.begin;
     if (name == "HEADER") {
       read_header();
     } else if (name == "TABLES") {
@@ -78,7 +79,7 @@ class OutlineReader {
       while (tag_.code != 0) advance();
       while (!ends("ENDSEC")) read_record(5, [](const Tag&) {});
     }
-    if (!name.empty()) outline_.sections[name] = {begin, tag_.begin};
+    if (!name.empty()) outline_.sections[name] = {begin, first, tag_.begin};
     advance();
   }
 

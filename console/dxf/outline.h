@@ -32,9 +32,10 @@ struct NoCase {
 };
 using Names = std::set<std::string, NoCase>;
 
-/// Offsets of a section or a table: of its first tag and of the one that ends it.
+/// Offsets in a section or a table: of its first tag, of what it holds, and of the tag that ends it.
 struct Stretch {
   std::size_t begin = 0;
+  std::size_t first = 0;
   std::size_t end = 0;
 };
 
