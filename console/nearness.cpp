@@ -1,6 +1,8 @@
 #include "console/nearness.h"
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 #include <cmath>
 #include <limits>
 #include <span>
@@ -92,6 +94,18 @@ std::optional<double> least_distance(std::vector<PlanPoint> points, const Column
   for (std::size_t at = 0; at < places.size(); ++at) halves.search(places[at], best);
   if (!std::isfinite(best)) return std::nullopt;
   return std::sqrt(best);
+}
+
+std::string distance_text(double metres) {
+  constexpr double kKilometre = 1000.0;
+  constexpr double kWithDecimal = 10.0;  // below it the first decimal is of interest
+  const bool is_far = metres >= kKilometre;
+  const double value = is_far ? metres / kKilometre : metres;
+  std::array<char, 400> digits{};
+  char* const end = std::to_chars(digits.data(), digits.data() + digits.size(), value, std::chars_format::fixed,
+                                  value < kWithDecimal ? 1 : 0)
+                        .ptr;
+  return std::string(digits.data(), end) + (is_far ? " km" : " m");
 }
 
 }  // namespace console

@@ -113,9 +113,24 @@ bool Session::report_is_refused() {
   return true;
 }
 
+// Whether there is no adding to the drawing that was asked for, the user told; else the import begins with it.
+bool Session::existing_is_refused() {
+  if (!options_.into) return false;
+  if (is_file_of_points(*options_.into)) {
+    say("konsola.rys_plik_punktow", {options_.into->string()});
+    return true;
+  }
+  if (existing_) return false;
+  existing_ = open_existing(*options_.into);
+  if (!existing_) return true;
+  database_.drawing() = Drawing(existing_->ground());
+  watcher_.beside(existing_->places());
+  return false;
+}
+
 ExitCode Session::run() {
   warn_of_unknown_market();
-  if (report_is_refused()) return kFailure;  // before any question
+  if (report_is_refused() || existing_is_refused()) return kFailure;  // before any question
   const ExitCode code = output_is_refused() ? kFailure : import_and_save();
   if (code == kFailure) watcher_.drawing_failed();
   return save_report(code);
@@ -171,7 +186,10 @@ ExitCode Session::import_and_save() {
 }
 
 ExitCode Session::save() {
-  if (output_is_refused()) return kFailure;  // a path that was typed is known only now
+  if (output_is_refused() || existing_is_refused()) return kFailure;  // a path that was typed is known only now
+  if (existing_) {
+    return save_existing(*existing_, database_.drawing(), options_.wishes.layers) ? kImported : kFailure;
+  }
   const std::string wanted = options_.output ? options_.output->string() : drawing_name(source(), 1).string();
   try {
     say("konsola.zapisano", {write_drawing().string()});

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <functional>
 #include <iosfwd>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -11,6 +12,7 @@
 #include "console/dialogue/dialogue.h"
 #include "console/drawing/database.h"
 #include "console/drawing/wishes.h"
+#include "console/existing_drawing.h"
 #include "console/exit_code.h"
 #include "console/report/import_watcher.h"
 #include "console/sibling_registry.h"
@@ -53,6 +55,7 @@ class Session final : private vexo_xyz_impl::host::CommandTable, private vexo_xy
   [[nodiscard]] bool output_is_refused();
   [[nodiscard]] bool report_is_refused();
   void warn_of_unknown_market();
+  [[nodiscard]] bool existing_is_refused();
   ExitCode import_and_save();
   vexo_xyz_impl::host::CommandOutcome import_once();
   [[nodiscard]] bool prepares_instead();
@@ -64,6 +67,7 @@ class Session final : private vexo_xyz_impl::host::CommandTable, private vexo_xy
   SessionOptions options_;
   LineSource& lines_;
   std::optional<std::filesystem::path> prepared_from_;  // the file that the user chose
+  std::unique_ptr<ExistingDrawing> existing_;
   Database database_;
   Dialogue dialogue_;
   SiblingRegistry siblings_;

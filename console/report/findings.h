@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -43,6 +44,7 @@ struct Findings {
   };
   std::vector<System> systems;
   Axes axes = Axes::keep;
+  std::optional<double> from_drawing;  ///< least distance to what the drawing held before, metres
   std::vector<Doubt> doubts;
   Reason reason;
 };
