@@ -27,6 +27,13 @@ class LineEnds final : public ByteSink {
   std::string changed_;
 };
 
+// In steps, so that a disk is kept busy while what follows is still copied.
+void write_kept(ByteSink& sink, std::string_view bytes) {
+  constexpr std::size_t kStep = std::size_t{8} << 20U;
+  for (; bytes.size() > kStep; bytes.remove_prefix(kStep)) sink.write(bytes.substr(0, kStep));
+  sink.write(bytes);
+}
+
 }  // namespace
 
 void EditList::insert(std::size_t offset, std::string_view tags) {
@@ -51,13 +58,13 @@ void EditList::write(ByteSink& sink) {
   for (const Edit& edit : edits_) {
     if (edit.offset > at) {
       tags.flush();
-      sink.write(bytes_.substr(at, edit.offset - at));
+      write_kept(sink, bytes_.substr(at, edit.offset - at));
     }
     edit.writer(tags);
     at = edit.offset + edit.removed;
   }
   tags.flush();
-  sink.write(bytes_.substr(at));
+  write_kept(sink, bytes_.substr(at));
 }
 
 }  // namespace console
