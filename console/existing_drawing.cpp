@@ -12,7 +12,7 @@
 #include "console/dxf/drawing_fault.h"
 #include "console/failure_text.h"
 #include "console/files.h"
-#include "console/texts/say.h"
+#include "vexo_xyz_impl/messages.h"
 
 namespace console {
 namespace {
@@ -33,13 +33,15 @@ class Descriptor {
   int number_;
 };
 
-// Gives the file a second name in one step.
-void keep_as(const std::filesystem::path& path, const std::filesystem::path& backup) {
-  const std::string second = backup.string() + "~";
-  unlink(second.c_str());
-  if (link(path.c_str(), second.c_str()) != 0 || rename(second.c_str(), backup.c_str()) != 0) {
-    throw FileFailure(FileStep::rename, errno);
-  }
+std::string text_of(std::string_view key, const std::filesystem::path& path) {
+  const std::string name = path.string();
+  return vexo_xyz_impl::filled(key, {std::string_view(name)});
+}
+
+std::string text_of(std::string_view key, const std::filesystem::path& path, const std::system_error& failure) {
+  const std::string name = path.string();
+  const std::string reason = failure_text(failure);
+  return vexo_xyz_impl::filled(key, {std::string_view(name), std::string_view(reason)});
 }
 
 std::string_view key_of(Damage damage) {
@@ -62,11 +64,12 @@ std::string_view key_of(Damage damage) {
   return "konsola.rys_nie_na_miejscu";
 }
 
-void tell(const std::string& path, const DrawingFault& fault) {
-  if (fault.line() == 0) return say(key_of(fault.damage()), {path});
+std::string text_of(const std::filesystem::path& path, const DrawingFault& fault) {
+  if (fault.line() == 0) return text_of(key_of(fault.damage()), path);
+  const std::string name = path.string();
   const std::string what = vexo_xyz_impl::T(key_of(fault.damage()));
-  vexo_xyz_impl::print("konsola.rys_uszkodzony",
-                       {std::string_view(path), static_cast<long long>(fault.line()), std::string_view(what)});
+  return vexo_xyz_impl::filled("konsola.rys_uszkodzony",
+                               {std::string_view(name), static_cast<long long>(fault.line()), std::string_view(what)});
 }
 
 }  // namespace
@@ -113,45 +116,34 @@ void ExistingDrawing::save(const Drawing& added, const Layers& layers) const {
   AtomicFile file(path_.parent_path());
   write_added(bytes_, outline_, added, layers, file);
   file.flush();
-  keep_as(path_, backup());
-  static_cast<void>(file.commit(path_, true));
+  file.commit_keeping(path_, backup());
 }
 
-std::unique_ptr<ExistingDrawing> open_existing(const std::filesystem::path& path) {
+OpenedDrawing open_existing(const std::filesystem::path& path) {
   std::error_code ignored;
   const auto status = std::filesystem::status(path, ignored);
-  if (!std::filesystem::exists(status) && status.type() == std::filesystem::file_type::not_found) {
-    say("konsola.rys_brak", {path.string()});
-    return nullptr;
-  }
-  if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status)) {
-    say("konsola.rys_nie_plik", {path.string()});
-    return nullptr;
-  }
+  if (status.type() == std::filesystem::file_type::not_found) return text_of("konsola.rys_brak", path);
+  if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status))
+    return text_of("konsola.rys_nie_plik", path);
   try {
-    return std::make_unique<ExistingDrawing>(path);
+    auto drawing = std::make_unique<ExistingDrawing>(path);
+    if (const auto refusal = refusal_of(drawing->path())) return text_of("konsola.blad_zapisu", path, *refusal);
+    return drawing;
   } catch (const DrawingFault& fault) {
-    tell(path.string(), fault);
+    return text_of(path, fault);
   } catch (const std::system_error& failure) {
-    say("konsola.rys_nie_otwarto", {path.string(), failure_text(failure)});
+    return text_of("konsola.rys_nie_otwarto", path, failure);
   }
-  return nullptr;
 }
 
-bool save_existing(const ExistingDrawing& drawing, const Drawing& added, const Layers& layers) {
-  const std::string path = drawing.path().string();
-  if (!drawing.is_unchanged()) {
-    say("konsola.rys_zmieniony", {path});
-    return false;
-  }
+std::optional<std::string> save_existing(const ExistingDrawing& drawing, const Drawing& added, const Layers& layers) {
+  if (!drawing.is_unchanged()) return text_of("konsola.rys_zmieniony", drawing.path());
   try {
     drawing.save(added, layers);
   } catch (const std::system_error& failure) {
-    say("konsola.blad_zapisu", {path, failure_text(failure)});
-    return false;
+    return text_of("konsola.blad_zapisu", drawing.path(), failure);
   }
-  say("konsola.rys_zapisano", {path, drawing.backup().string()});
-  return true;
+  return std::nullopt;
 }
 
 }  // namespace console

@@ -5,7 +5,10 @@
 #include <cstdint>
 #include <filesystem>
 #include <memory>
+#include <optional>
+#include <string>
 #include <string_view>
+#include <variant>
 
 #include "console/drawing/drawing.h"
 #include "console/drawing/wishes.h"
@@ -51,10 +54,12 @@ class ExistingDrawing {
   Outline outline_;
 };
 
-/// The drawing at `path`; none where it is refused, the user told why and what to do.
-[[nodiscard]] std::unique_ptr<ExistingDrawing> open_existing(const std::filesystem::path& path);
+/// A drawing, or why there is no adding to it: a text for the user, as below.
+using OpenedDrawing = std::variant<std::unique_ptr<ExistingDrawing>, std::string>;
+[[nodiscard]] OpenedDrawing open_existing(const std::filesystem::path& path);
 
-/// Saves it with what was added, unless another program changed it meanwhile; the user is told what came of that.
-[[nodiscard]] bool save_existing(const ExistingDrawing& drawing, const Drawing& added, const Layers& layers);
+/// Saves it with what was added, unless another program changed it meanwhile; why it was not saved.
+[[nodiscard]] std::optional<std::string> save_existing(const ExistingDrawing& drawing, const Drawing& added,
+                                                       const Layers& layers);
 
 }  // namespace console
