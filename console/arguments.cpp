@@ -196,6 +196,8 @@ void declare_import(CLI::App& app, Arguments& arguments) {
   declare_files(app, arguments);
   declare_answers(app, arguments);
   declare_drawing(app, arguments);
+  app.add_flag("--unattended", arguments.unattended,
+               "Ask nothing: a file that leaves a question open is set aside, as of several FILEs each is");
   app.add_option("--jobs", arguments.jobs, "How many of several FILEs are imported at a time")
       ->type_name("N")
       ->check(CLI::Range(1, 256));
@@ -235,6 +237,7 @@ SessionOptions session_options(const CLI::App& app, const Arguments& arguments, 
   options.interactive = interactive;
   options.words = words_of(app, arguments);
   options.quiet = arguments.quiet;
+  options.unattended = arguments.unattended;
   if (!arguments.files.empty()) options.file = arguments.files.front();
   if (app.count("-o") > 0) options.output = with_extension(arguments.output);
   if (app.count("--into") > 0) options.into = arguments.into;

@@ -7,6 +7,7 @@
 #include <iostream>
 #include <memory>
 #include <ostream>
+#include <sstream>
 #include <utility>
 
 #include <CLI/CLI.hpp>
@@ -77,7 +78,9 @@ int run(int argc, char** argv) {
   std::ostream& reports = is_asked_for_json ? std::cout : nowhere;
   console::SessionOptions options = console::session_options(app, arguments, at_a_terminal());
   if (arguments.files.size() > 1) return console::run_batch({arguments.files, arguments.jobs, options}, out, reports);
-  console::Session session(std::move(options), *lines, out);
+  std::istringstream nobody;
+  const auto no_lines = console::lines_of_stream(nobody, out);
+  console::Session session(std::move(options), arguments.unattended ? *no_lines : *lines, out);
   const console::ExitCode code = session.run();
   reports << console::report_as_json(session.findings()) << std::flush;
   return code;
