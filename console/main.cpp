@@ -12,6 +12,7 @@
 #include <langinfo.h>
 #include <unistd.h>
 
+#include "console/dialogue/typed_path.h"
 #include "console/kept_memory.h"
 #include "console/prepare_arguments.h"
 #include "console/session.h"
@@ -85,7 +86,7 @@ console::SessionOptions options_of(const CLI::App& app, const Arguments& argumen
   console::SessionOptions options;
   options.prepare = arguments.prepare_too;
   options.interactive = at_a_terminal();
-  if (app.count("FILE") > 0) options.file = arguments.file;
+  if (app.count("FILE") > 0) options.file = console::existing_path(arguments.file);
   if (app.count("-o") > 0) options.output = console::with_extension(arguments.output);
   options.force = arguments.force;
   if (app.count("--report") > 0) options.report = arguments.report;
@@ -133,6 +134,7 @@ int run(int argc, char** argv) {
     return app.exit(error) == 0 ? console::kImported : console::kUsage;
   }
   const auto lines = typed_lines();
+  prepare.options.file = console::existing_path(prepare.options.file);
   if (preparing->parsed()) return console::run_prepare(prepare.options, prepare.choice, *lines, std::cout);
   return console::Session(options_of(app, arguments), *lines, std::cout).run();
 }

@@ -19,6 +19,7 @@
 #include "vexo_xyz_impl/failure.h"
 #include "vexo_xyz_impl/messages.h"
 #include "vexo_xyz_impl/notices.h"
+#include "vexo_xyz_impl/text/utf8.h"
 
 namespace console {
 namespace {
@@ -71,7 +72,7 @@ bool Session::is_file_of_points(const std::filesystem::path& path) const {
 bool Session::failed(const std::optional<std::string>& text) {
   if (!text) return false;
   dialogue_.gcutPrintf(*text);
-  vexo_xyz_impl::notify_failure(vexo_xyz_impl::OSError(shown_text(*text)));
+  vexo_xyz_impl::notify_failure(vexo_xyz_impl::OSError(shown_text(vexo_xyz_impl::text::trim(*text))));
   return true;
 }
 

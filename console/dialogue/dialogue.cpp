@@ -4,6 +4,7 @@
 #include <ostream>
 
 #include "console/dialogue/shown_text.h"
+#include "console/dialogue/typed_path.h"
 #include "vexo_xyz_impl/command/keywords.h"
 #include "vexo_xyz_impl/messages.h"
 #include "vexo_xyz_impl/text/ascii.h"
@@ -62,9 +63,9 @@ PromptStatus Dialogue::gcedGetFileD(std::string_view /*title*/, std::string_view
 std::pair<PromptStatus, std::string> Dialogue::gcedGetString(int /*spaces_allowed*/, std::string_view prompt) {
   auto typed = lines_.read_line(prompt, Completion::file_names);
   if (!typed) return {RTCAN, {}};
-  path_ = *typed;
+  path_ = existing_path(std::move(*typed));
   if (accepts_ && !path_.empty() && !accepts_(path_)) return {RTCAN, {}};
-  return {RTNORM, std::move(*typed)};
+  return {RTNORM, path_};
 }
 
 PromptStatus Dialogue::gcedInitGet(int /*flags*/, std::string_view keywords) {
