@@ -11,6 +11,7 @@
 #include "console/prepare_columns.h"
 #include "console/prepare_log.h"
 #include "console/report/reasons.h"
+#include "console/shell_word.h"
 #include "console/texts/say.h"
 #include "intake/foreign_table.h"
 #include "intake/seen_table.h"
@@ -42,15 +43,6 @@ std::filesystem::path free_name(const std::filesystem::path& file) {
     if (!std::filesystem::exists(name, ignored) && !std::filesystem::exists(log_of(name), ignored)) return name;
   }
   throw std::system_error(EEXIST, std::generic_category(), "finding a free name");
-}
-
-// As a shell takes it for one word.
-std::string quoted(const std::string& word) {
-  constexpr std::string_view kPlain = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789_-./,=:+@%";
-  if (!word.empty() && word.find_first_not_of(kPlain) == std::string::npos) return word;
-  std::string in_quotes = "'";
-  for (const char c : word) in_quotes += c == '\'' ? std::string("'\\''") : std::string(1, c);
-  return in_quotes + "'";
 }
 
 PrepareResult refused(ExitCode code) {
@@ -181,9 +173,9 @@ class Preparation {
   }
 
   [[nodiscard]] std::string repeating(const Roles& roles, const std::filesystem::path& output) const {
-    std::string command = "vexo-xyz prepare " + quoted(options_.file) + " -o " + quoted(output.string()) +
+    std::string command = "vexo-xyz prepare " + shell_word(options_.file) + " -o " + shell_word(output.string()) +
                           " --columns " + intake::spelled(roles);
-    if (options_.sheet || table_->sheets.size() > 1) command += " --sheet " + quoted(table_->sheet);
+    if (options_.sheet || table_->sheets.size() > 1) command += " --sheet " + shell_word(table_->sheet);
     if (options_.missing_height == intake::MissingHeight::zero) command += " --missing-height zero";
     return command;
   }

@@ -1,9 +1,17 @@
 #include "console/prepare_arguments.h"
 
+#include <algorithm>
+#include <array>
 #include <string>
+#include <string_view>
+#include <vector>
+
+#include "siblings/vexo_rynek/rynek.h"
 
 namespace console {
 namespace {
+
+constexpr std::array<std::string_view, 3> kMarkets = {"PL", "DE", "RO"};
 
 constexpr const char* kFooter =
     "ROLES by position, one for each column from the left: nr (number), e (easting), n (northing), x, y (coordinates\n"
@@ -20,10 +28,16 @@ constexpr const char* kFooter =
 
 }  // namespace
 
+void check_market(const Choice& choice) {
+  const std::string market = vexo_rynek::Market(choice.market).rynek();
+  if (std::find(kMarkets.begin(), kMarkets.end(), market) == kMarkets.end())
+    throw CLI::ValidationError("VEXO_RYNEK", market + " is no market; known are PL, DE, RO");
+}
+
 void declare_choice(CLI::App& app, Choice& choice) {
   app.add_option("--market", choice.market, "Country whose coordinate systems are tried. Default: $VEXO_RYNEK, else PL")
       ->type_name("PL|DE|RO")
-      ->transform(CLI::IsMember({"PL", "DE", "RO"}, CLI::ignore_case));
+      ->transform(CLI::IsMember(std::vector<std::string>(kMarkets.begin(), kMarkets.end()), CLI::ignore_case));
   app.add_option("--lang", choice.language, "Language of the messages. Default: the market's")
       ->type_name("PL|DE|RO|EN")
       ->transform(CLI::IsMember({"PL", "DE", "RO", "EN"}, CLI::ignore_case));

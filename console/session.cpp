@@ -6,11 +6,13 @@
 #include <utility>
 
 #include "console/dialogue/shown_text.h"
+#include "console/drawing/heights.h"
 #include "console/dxf/dxf_writer.h"
 #include "console/failure_text.h"
 #include "console/files.h"
 #include "console/prepare.h"
 #include "console/prepare_log.h"
+#include "console/repeat.h"
 #include "console/report/reasons.h"
 #include "console/report/report_file.h"
 #include "console/texts/say.h"
@@ -44,10 +46,13 @@ Session::Session(SessionOptions options, LineSource& lines, std::ostream& out)
     : options_(std::move(options)),
       targets_{options_.output, options_.force, options_.report},
       lines_(lines),
+      database_(options_.wishes.group_selectable),
       dialogue_(lines, out, database_.drawing().variables, options_.file, options_.answers),
       siblings_(family(database_, options_.choice)),
+      watcher_(options_.unattended),
       entered_({{dialogue_, database_, siblings_, nullptr, this, &watcher_}, vexo_xyz_impl::bind_siblings(siblings_)}) {
   vexo_xyz_impl::register_command(*this);
+  if (options_.quiet) dialogue_.hold();
   dialogue_.check_typed_path([this](const std::string& path) {
     is_refused_ = report_is_refused() || drawing_is_refused(vexo_xyz_impl::clean_path(path));
     return !is_refused_;
@@ -86,20 +91,27 @@ IsFileOfPoints Session::is_points() const {
   return [this](const std::filesystem::path& path) { return is_file_of_points(path); };
 }
 
-// The module takes such a market for the Polish one without a word.
-void Session::warn_of_unknown_market() {
-  using vexo_xyz_impl::host::load_sibling;
-  const std::string market = load_sibling<vexo_xyz_impl::host::Market>(siblings_, "vexo_rynek")->rynek();
-  if (!siblings_.has("vexo_xyz_dane_" + market)) say("konsola.nieznany_rynek", {market});
-}
-
 ExitCode Session::run() {
-  warn_of_unknown_market();
   if (report_is_refused()) return kFailure;  // before any question
   const std::filesystem::path given = vexo_xyz_impl::clean_path(options_.file.value_or(std::string()));
   const ExitCode code = drawing_is_refused(given) ? kFailure : import_and_save();
   if (code == kFailure) watcher_.drawing_failed();
-  return save_report(code);
+  const ExitCode all_told = save_report(code);
+  if (options_.quiet) end_quietly(all_told);
+  return all_told;
+}
+
+// Of an import that went well only the doubts are told.
+void Session::end_quietly(ExitCode code) {
+  if (code != kImported && !watcher_.is_set_aside()) {
+    dialogue_.say_held();
+    return;
+  }
+  dialogue_.drop_held();  // of a file set aside, what was told after the question left open
+  const bool is_plain = watcher_.findings().doubts.empty() && database_.refused_count() == 0;
+  if (is_plain && code == kImported) return;
+  print_findings(watcher_.findings());
+  dialogue_.say_held();
 }
 
 CommandOutcome Session::import_once() {
@@ -145,20 +157,32 @@ ExitCode Session::import_and_save() {
   if (database_.refused_count() > 0) {
     vexo_xyz_impl::print("konsola.odrzucone", {static_cast<long long>(database_.refused_count())});
   }
-  return database_.drawing().entity_count() == 0 ? kNothingImported : save();
+  if (database_.drawing().entity_count() == 0 || watcher_.is_set_aside()) return kNothingImported;
+  if (options_.wishes.height_decimals && watcher_.findings().layout.ends_with('Z')) {
+    add_heights(database_.drawing(), *options_.wishes.height_decimals);
+  }
+  return save();
 }
 
 ExitCode Session::save() {
   if (drawing_is_refused(source())) return kFailure;  // also of what was prepared meanwhile
   const std::string wanted = options_.output ? options_.output->string() : drawing_name(source(), 1).string();
   try {
-    say("konsola.zapisano", {write_drawing().string()});
+    const std::string drawing = write_drawing().string();
+    say("konsola.zapisano", {drawing});
+    tell_repeating_command(drawing);
     return kImported;
   } catch (const std::system_error& failure) {
     const std::string reason = failure_text(failure);
     failed(vexo_xyz_impl::filled("konsola.blad_zapisu", {std::string_view(wanted), std::string_view(reason)}));
     return kFailure;
   }
+}
+
+void Session::tell_repeating_command(const std::string& drawing) {
+  const std::string repeat = repeating_command(dialogue_.path(), options_.words, watcher_.findings().answers);
+  watcher_.saved(drawing, repeat);
+  say("konsola.prep_powtorz", {repeat});
 }
 
 ExitCode Session::save_report(ExitCode so_far) {
@@ -181,7 +205,7 @@ std::filesystem::path Session::write_drawing() {
   AtomicFile file((options_.output ? final_target(*options_.output) : points).parent_path());
   const std::string market =
       vexo_xyz_impl::host::load_sibling<vexo_xyz_impl::host::Market>(siblings_, "vexo_rynek")->rynek();
-  write_dxf(database_.drawing(), code_page_of(market), file);
+  write_dxf(database_.drawing(), options_.wishes, code_page_of(market), file);
   file.flush();
   if (options_.output) {
     if (file.commit(*options_.output, options_.force)) return *options_.output;

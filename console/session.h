@@ -10,6 +10,7 @@
 
 #include "console/dialogue/dialogue.h"
 #include "console/drawing/database.h"
+#include "console/drawing/wishes.h"
 #include "console/exit_code.h"
 #include "console/report/import_watcher.h"
 #include "console/sibling_registry.h"
@@ -27,8 +28,14 @@ struct SessionOptions {
   std::vector<PreparedAnswer> answers;
   std::optional<vexo_xyz_impl::host::AxisOrder> axes;  ///< which coordinate stands first, told beforehand
   std::optional<std::filesystem::path> report;         ///< where what came of the import is written
-  bool prepare = false;      ///< a file that the importer does not read is made into one that it reads
-  bool interactive = false;  ///< somebody is there to be offered that
+  std::optional<std::filesystem::path> into;           ///< the drawing that the points are added to
+  std::optional<std::filesystem::path> preview;        ///< where a picture of the points is drawn
+  DrawingWishes wishes;
+  std::vector<std::string> words;  ///< the options as a command line has them, for the command that repeats the import
+  bool unattended = false;         ///< a file that leaves a question open is set aside
+  bool quiet = false;              ///< only questions, doubts and failures are told
+  bool prepare = false;            ///< a file that the importer does not read is made into one that it reads
+  bool interactive = false;        ///< somebody is there to be offered that
 };
 
 class Session final : private vexo_xyz_impl::host::CommandTable, private vexo_xyz_impl::host::Foreknowledge {
@@ -38,6 +45,9 @@ class Session final : private vexo_xyz_impl::host::CommandTable, private vexo_xy
   /// Runs the command and saves the drawing when something was imported. The user has been told everything.
   ExitCode run();
 
+  /// What came of it.
+  [[nodiscard]] const Findings& findings() const { return watcher_.findings(); }
+
  private:
   void command(std::string_view local_name, std::string_view global_name, std::string_view group_name,
                vexo_xyz_impl::host::CommandFunction function) override;
@@ -45,18 +55,20 @@ class Session final : private vexo_xyz_impl::host::CommandTable, private vexo_xy
   std::string beside_reading(vexo_xyz_impl::host::AxisOrder order, double share) override {
     return watcher_.beside_reading(order, share);
   }
+  std::optional<double> label_height() override { return options_.wishes.text_height; }
   [[nodiscard]] bool is_file_of_points(const std::filesystem::path& path) const;
   [[nodiscard]] IsFileOfPoints is_points() const;
   // Whether there is a text of a failure: then the user is told and the log has it.
   bool failed(const std::optional<std::string>& text);
   [[nodiscard]] bool report_is_refused();
   [[nodiscard]] bool drawing_is_refused(const std::filesystem::path& points);
-  void warn_of_unknown_market();
   ExitCode import_and_save();
   vexo_xyz_impl::host::CommandOutcome import_once();
   [[nodiscard]] bool prepares_instead();
   [[nodiscard]] std::filesystem::path source() const;
   ExitCode save();
+  void tell_repeating_command(const std::string& drawing);
+  void end_quietly(ExitCode code);
   ExitCode save_report(ExitCode so_far);
   std::filesystem::path write_drawing();
 

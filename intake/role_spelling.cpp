@@ -15,18 +15,13 @@ namespace {
 
 namespace text = vexo_xyz_impl::text;
 
-bool same_name(std::string_view a, std::string_view b) {
-  return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                    [](char x, char y) { return text::ascii_lower(x) == text::ascii_lower(y); });
-}
-
 // The columns of a name as it stands, else in other letters.
 std::vector<std::size_t> columns_named(const TableShape& shape, std::string_view wanted) {
   std::vector<std::size_t> exact;
   std::vector<std::size_t> alike;
   for (std::size_t i = 0; i < shape.names.size(); ++i) {
     if (shape.names[i] == wanted) exact.push_back(i);
-    if (same_name(shape.names[i], wanted)) alike.push_back(i);
+    if (text::equal_ascii_case(shape.names[i], wanted)) alike.push_back(i);
   }
   return exact.empty() ? alike : exact;
 }

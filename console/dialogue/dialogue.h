@@ -43,6 +43,12 @@ class Dialogue final : public vexo_xyz_impl::host::CommandLine {
   vexo_xyz_impl::host::PromptStatus gcedSetVar(std::string_view name,
                                                const vexo_xyz_impl::host::resbuf& value) override;
 
+  /// From now on nothing is printed but questions, and before each what led to it.
+  void hold() { holds_ = true; }
+  /// Prints what was held back, or forgets it.
+  void say_held();
+  void drop_held() { held_.clear(); }
+
   /// Asks `accepts` about a path that was typed, before the command goes on with it; it says why not.
   void check_typed_path(std::function<bool(const std::string&)> accepts) { accepts_ = std::move(accepts); }
 
@@ -71,6 +77,8 @@ class Dialogue final : public vexo_xyz_impl::host::CommandLine {
   std::string path_;
   std::function<bool(const std::string&)> accepts_;
   std::vector<std::string> keywords_;
+  bool holds_ = false;
+  std::string held_;
 };
 
 }  // namespace console

@@ -250,7 +250,7 @@ std::unique_ptr<GcDbText> Database::newGcDbText(const Position& position, std::s
 }
 
 std::unique_ptr<GcDbGroup> Database::newGcDbGroup(std::string_view description, bool selectable) {
-  return std::make_unique<OpenGroup>(*this, description, selectable);
+  return std::make_unique<OpenGroup>(*this, description, selectable && selectable_groups_);
 }
 
 WithStatus<std::unique_ptr<GcDbBlockTable>> Database::getBlockTable(GcDb::OpenMode mode) {

@@ -23,7 +23,11 @@ class Database final : public vexo_xyz_impl::host::DatabaseServices,
                        public vexo_cad_core::TextStyles,
                        public vexo_reaktywne_core::ControlledEntities {
  public:
+  /// `selectable_groups` false: groups are made unselectable whatever their maker says.
+  explicit Database(bool selectable_groups = true) : selectable_groups_(selectable_groups) {}
+
   [[nodiscard]] Drawing& drawing() { return drawing_; }
+  [[nodiscard]] bool selectable_groups() const { return selectable_groups_; }
   [[nodiscard]] OpenObjects& open_objects() { return open_objects_; }
 
   /// Objects now open, those that belong to no drawing yet among them.
@@ -61,6 +65,7 @@ class Database final : public vexo_xyz_impl::host::DatabaseServices,
   bool keep(vexo_xyz_impl::host::GcDbObjectId oid, vexo_reaktywne_core::ControlRecord record) override;
 
  private:
+  bool selectable_groups_;
   Drawing drawing_;
   OpenObjects open_objects_;
   std::size_t open_newcomers_ = 0;

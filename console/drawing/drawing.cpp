@@ -9,13 +9,28 @@
 namespace console {
 namespace {
 
-// Programs in use cut a line of a drawing after 255 bytes, and a number cut short is another number. Far below what a
-// double holds, so that sums of coordinates stay finite.
-constexpr double kFarthest = 1e250;
+constexpr double kFarthest = 1e15;   // metres
+constexpr double kNearest = 1e-100;  // metres; what is less is 0: its decimals would be longer than lines may be
 
 bool is_near(double value) { return std::abs(value) <= kFarthest; }  // false for a nan
 
 bool is_sound(const Position& position) { return is_near(position.x) && is_near(position.y) && is_near(position.z); }
+
+void round_to_zero(Position& position) {
+  for (double* const value : {&position.x, &position.y, &position.z})
+    if (std::abs(*value) < kNearest) *value = 0.0;
+}
+
+// The text, or of a long one its beginning and an ellipsis, which `shortened` then holds.
+std::string_view bounded(std::string_view text, std::string& shortened) {
+  constexpr std::string_view kEllipsis = "…";
+  if (text.size() <= kLongestLabel) return text;
+  std::size_t end = kLongestLabel - kEllipsis.size();
+  while (end > 0 && (static_cast<unsigned char>(text[end]) & 0xC0U) == 0x80U) --end;  // no half characters
+  shortened = text.substr(0, end);
+  shortened += kEllipsis;
+  return shortened;
+}
 
 std::string lower_case(std::string_view name) {
   std::string lower(name);
@@ -38,14 +53,27 @@ std::optional<Handle> Drawing::place(Kind kind, Column<Geometry>& all, const Geo
 }
 
 std::optional<Handle> Drawing::add(const PointGeometry& point) {
-  return is_sound(point.position) ? place(Kind::point, points_, point) : std::nullopt;
+  if (!is_sound(point.position)) return std::nullopt;
+  PointGeometry sound = point;
+  round_to_zero(sound.position);
+  return place(Kind::point, points_, sound);
+}
+
+bool Drawing::take_over(TextGeometry& text) {
+  if (!is_sound(text.position) || !is_near(text.height) || !(text.height > kNearest)) return false;
+  round_to_zero(text.position);
+  std::string shortened;
+  const std::span<const char> kept = letters_.keep(bounded(text.text, shortened));
+  text.text = {kept.data(), kept.size()};
+  return true;
 }
 
 std::optional<Handle> Drawing::add(TextGeometry text) {
-  if (!is_sound(text.position) || !is_near(text.height) || !(text.height > 0.0)) return std::nullopt;
-  const std::span<const char> kept = letters_.keep(text.text);
-  text.text = {kept.data(), kept.size()};
-  return place(Kind::text, texts_, text);
+  return take_over(text) ? place(Kind::text, texts_, text) : std::nullopt;
+}
+
+std::optional<Handle> Drawing::add(HeightGeometry height) {
+  return take_over(height) ? place(Kind::height, heights_, height) : std::nullopt;
 }
 
 std::optional<Handle> Drawing::add(Group group) {
@@ -73,9 +101,20 @@ const PointGeometry* Drawing::point(Handle handle) const {
   return found.kind == Kind::point ? &points_[found.index] : nullptr;
 }
 
+const TextGeometry* Drawing::text(Handle handle) const {
+  const Slot found = slot(handle);
+  return found.kind == Kind::text ? &texts_[found.index] : nullptr;
+}
+
 TextGeometry* Drawing::text(Handle handle) {
   const Slot found = slot(handle);
   return found.kind == Kind::text ? &texts_[found.index] : nullptr;
+}
+
+const TextGeometry* Drawing::label_of(Handle point) const {
+  Handle behind = point + 1;
+  while (behind < next_handle_ && slot(behind).kind == Kind::none) ++behind;  // the text style's, made with the first
+  return text(behind);
 }
 
 Group* Drawing::group(Handle handle) {

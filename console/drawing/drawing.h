@@ -57,6 +57,11 @@ enum class Fixed : Handle {
   plot_style_dictionary,
   plot_style_normal,
   block_table,  // of the interface only; a file shows its records
+  layer_points,
+  layer_labels,
+  layer_heights,
+  control_dictionary,
+  control_list,
   first_free = 0x40,
 };
 
@@ -72,6 +77,9 @@ struct TextGeometry {
   Handle style = handle_of(Fixed::style_standard);
   std::string_view text = {};  ///< the caller's letters until it is added, then the drawing's
 };
+
+/// A height written beside the number of its point.
+struct HeightGeometry : TextGeometry {};
 
 struct TextStyle {
   Handle handle;
@@ -93,13 +101,18 @@ struct SystemVariables {
   double PDSIZE = 0.0;
 };
 
+/// Bytes of the longest label in a drawing: programs in use cut a line of a file after 255.
+inline constexpr std::size_t kLongestLabel = 250;
+
 class Drawing {
  public:
-  /// Takes an entity into model space, on layer 0, and gives it its handle; empty when a number of its geometry is not
-  /// finite or beyond 1e250, which no file could show to all programs, or when a text has no height. What a text says
-  /// is copied. A drawing holds a billion entities of a kind at most.
+  /// Takes an entity into model space and gives it its handle; empty when a number of its geometry is not finite or
+  /// beyond 1e15, where doubles no longer tell metres apart, or when a text has no height. What a text says is copied,
+  /// of a text longer than `kLongestLabel` the beginning and an ellipsis. A drawing holds a billion entities of a kind
+  /// at most.
   std::optional<Handle> add(const PointGeometry& point);
   std::optional<Handle> add(TextGeometry text);
+  std::optional<Handle> add(HeightGeometry height);
 
   /// Takes the group in under its name; empty when the name is empty or taken, letter case aside.
   std::optional<Handle> add(Group group);
@@ -113,12 +126,23 @@ class Drawing {
   /// The point, text or group of that handle; nullptr when there is none.
   [[nodiscard]] const PointGeometry* point(Handle handle) const;
   [[nodiscard]] TextGeometry* text(Handle handle);
+  [[nodiscard]] const TextGeometry* text(Handle handle) const;
+  /// The text added right behind the point, which is its label; nullptr when there is none.
+  [[nodiscard]] const TextGeometry* label_of(Handle point) const;
   [[nodiscard]] Group* group(Handle handle);
   [[nodiscard]] bool has_entity(Handle handle) const { return slot(handle).kind != Kind::none; }
   [[nodiscard]] bool has_group(std::string_view name) const;
   [[nodiscard]] const vexo_reaktywne_core::ControlRecord* control_record(Handle entity) const;
 
-  [[nodiscard]] std::size_t entity_count() const { return points_.size() + texts_.size(); }
+  [[nodiscard]] std::size_t entity_count() const { return points_.size() + texts_.size() + heights_.size(); }
+  [[nodiscard]] std::size_t height_count() const { return heights_.size(); }
+  [[nodiscard]] std::size_t control_record_count() const { return control_records_.size(); }
+
+  /// Calls `visit(entity, record)` for each control record, by rising handles.
+  template <class Visit>
+  void for_each_control_record(Visit visit) const {
+    for (const auto& [entity, record] : control_records_) visit(entity, record);
+  }
 
   /// Calls `visit(handle, geometry)` for each entity in the order they were added, which is that of rising handles.
   template <class Visit>
@@ -127,10 +151,12 @@ class Drawing {
       const Slot slot = slots_[i];
       if (slot.kind == Kind::point) visit(kFirstFree + i, points_[slot.index]);
       if (slot.kind == Kind::text) visit(kFirstFree + i, texts_[slot.index]);
+      if (slot.kind == Kind::height) visit(kFirstFree + i, heights_[slot.index]);
     }
   }
 
   [[nodiscard]] const std::deque<Group>& groups() const { return groups_; }
+  [[nodiscard]] std::deque<Group>& groups() { return groups_; }
   [[nodiscard]] const std::vector<TextStyle>& text_styles() const { return text_styles_; }
   [[nodiscard]] Handle next_handle() const { return next_handle_; }  ///< above every handle in use
 
@@ -140,7 +166,7 @@ class Drawing {
   static constexpr Handle kFirstFree = handle_of(Fixed::first_free);
 
   // Where the entity of a handle stands. What is of one kind stands together, so that no point takes a text's room.
-  enum class Kind : std::uint32_t { none, point, text };
+  enum class Kind : std::uint32_t { none, point, text, height };
   struct Slot {
     Kind kind : 2;
     std::uint32_t index : 30;
@@ -150,6 +176,7 @@ class Drawing {
   [[nodiscard]] Slot slot(Handle handle) const {
     return handle - kFirstFree < slots_.size() ? slots_[handle - kFirstFree] : Slot{};  // wraps below the first
   }
+  bool take_over(TextGeometry& text);  // its letters, when it is sound
   template <class Geometry>
   std::optional<Handle> place(Kind kind, Column<Geometry>& all, const Geometry& one);
 
@@ -157,6 +184,7 @@ class Drawing {
   std::vector<Slot> slots_;  // by handle above the first free one
   Column<PointGeometry> points_;
   Column<TextGeometry> texts_;
+  Column<HeightGeometry> heights_;
   vexo_xyz_impl::Groups<char> letters_;  // what the texts say
   std::deque<Group> groups_;
   std::map<std::string, Handle> group_names_;  // in lower case

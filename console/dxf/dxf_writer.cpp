@@ -4,15 +4,19 @@
 
 namespace console {
 
-void write_dxf(const Drawing& drawing, std::string_view code_page, ByteSink& sink) {
+void write_dxf(const Drawing& drawing, const DrawingWishes& wishes, std::string_view code_page, ByteSink& sink) {
+  DxfForm form{wishes.version, {}};
+  if (!form.is_utf8()) form.encoding = TextEncoding(code_page);
+  const NewDrawing file{drawing, form, wishes.layers, code_page, extents_of(drawing)};
   TagWriter tags(sink);
-  const Extents extents = extents_of(drawing);
-  write_header(tags, drawing, extents, code_page);
-  write_classes(tags);
-  write_tables(tags, drawing, extents);
+  write_header(tags, file);
+  write_classes(tags, file);
+  write_tables(tags, file);
   write_blocks(tags);
-  write_entities(tags, drawing);
-  write_objects(tags, drawing, extents);
+  tags.lines("0\nSECTION\n2\nENTITIES\n");
+  write_entities(tags, drawing, {form, wishes.layers, handle_of(Fixed::model_space)});
+  tags.lines("0\nENDSEC\n");
+  write_objects(tags, file);
   tags.lines("0\nEOF\n");
   tags.flush();
 }

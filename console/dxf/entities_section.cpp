@@ -4,7 +4,6 @@
 #include <utility>
 #include <vector>
 
-#include "console/dxf/dxf_writer.h"
 #include "console/dxf/sections.h"
 
 namespace console {
@@ -47,10 +46,24 @@ void write_control_record(TagWriter& tags, const vexo_reaktywne_core::ControlRec
   tags.position(1010, record.at_registration);
 }
 
+// The tags between an entity's owner and its geometry.
+std::string head_of(const DxfForm& form, std::string_view layer, std::string_view subclass) {
+  const std::string on_layer = "8\n" + form.encoding.name(layer) + "\n";
+  if (!form.has_subclasses()) return on_layer;
+  return "100\nAcDbEntity\n" + on_layer + "100\n" + std::string(subclass) + "\n";
+}
+
 class EntityWriter {
  public:
-  EntityWriter(TagWriter& tags, const Drawing& drawing)
-      : tags_(tags), drawing_(drawing), reactors_(drawing), owner_(handle_of(Fixed::model_space)) {}
+  EntityWriter(TagWriter& tags, const Drawing& drawing, const EntityPlaces& places)
+      : tags_(tags),
+        drawing_(drawing),
+        form_(places.form),
+        reactors_(drawing),
+        owner_(places.model_space),
+        point_head_(head_of(form_, places.layers.points, "AcDbPoint")),
+        label_head_(head_of(form_, places.layers.labels, "AcDbText")),
+        height_head_(head_of(form_, places.layers.heights, "AcDbText")) {}
 
   template <class Geometry>
   void operator()(Handle handle, const Geometry& geometry) {
@@ -62,24 +75,27 @@ class EntityWriter {
   void begin(std::string_view kind, Handle handle) {
     tags_.lines(kind);
     tags_.handle(5, handle);
-    reactors_.write(tags_, handle);
-    tags_.handle(330, owner_);
+    if (form_.has_subclasses()) reactors_.write(tags_, handle);
+    if (form_.has_owners()) tags_.handle(330, owner_);
   }
 
   void write(Handle handle, const PointGeometry& point) {
     begin("0\nPOINT\n", handle);
-    tags_.lines("100\nAcDbEntity\n8\n0\n100\nAcDbPoint\n");
+    tags_.lines(point_head_);
     tags_.position(10, point.position);
   }
 
-  void write(Handle handle, const TextGeometry& text) {
+  void write(Handle handle, const TextGeometry& text) { write(handle, text, label_head_); }
+  void write(Handle handle, const HeightGeometry& height) { write(handle, height, height_head_); }
+
+  void write(Handle handle, const TextGeometry& text, std::string_view head) {
     begin("0\nTEXT\n", handle);
-    tags_.lines("100\nAcDbEntity\n8\n0\n100\nAcDbText\n");
+    tags_.lines(head);
     tags_.position(10, text.position);
     tags_.real(40, text.height);
-    tags_.text(1, encoded_label(text.text, changed_label_));
+    tags_.text(1, form_.encoding.label(text.text, changed_label_));
     tags_.text(7, style_name(text.style));
-    tags_.lines("100\nAcDbText\n");
+    if (form_.has_subclasses()) tags_.lines("100\nAcDbText\n");
   }
 
   [[nodiscard]] std::string_view style_name(Handle style) const {
@@ -90,17 +106,19 @@ class EntityWriter {
 
   TagWriter& tags_;
   const Drawing& drawing_;
+  const DxfForm& form_;
   Reactors reactors_;
   Handle owner_;
+  std::string point_head_;
+  std::string label_head_;
+  std::string height_head_;
   std::string changed_label_;
 };
 
 }  // namespace
 
-void write_entities(TagWriter& tags, const Drawing& drawing) {
-  tags.lines("0\nSECTION\n2\nENTITIES\n");
-  drawing.for_each_entity(EntityWriter(tags, drawing));
-  tags.lines("0\nENDSEC\n");
+void write_entities(TagWriter& tags, const Drawing& drawing, const EntityPlaces& places) {
+  drawing.for_each_entity(EntityWriter(tags, drawing, places));
 }
 
 }  // namespace console

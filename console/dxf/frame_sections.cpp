@@ -4,13 +4,22 @@
 #include <string>
 
 #include "console/dxf/sections.h"
+#include "vexo_xyz_impl/text/ascii.h"
 
 namespace console {
+
+namespace text = vexo_xyz_impl::text;
+
 namespace {
 
 constexpr double kViewAspect = 1.6;     // width to height of an ordinary screen
 constexpr double kViewMargin = 1.15;    // of the extents' height
 constexpr double kSmallestView = 25.0;  // metres of height around a single point
+
+// Colours by number
+constexpr int kForeground = 7;  // black on white, white on black
+constexpr int kGreen = 3;
+constexpr int kOrange = 30;
 
 Handle at(Fixed object) { return handle_of(object); }
 
@@ -83,11 +92,19 @@ void write_line_type_table(TagWriter& tags) {
   end_table(tags);
 }
 
-void write_layer_table(TagWriter& tags) {
-  begin_table(tags, "LAYER", Fixed::layer_table, 1);
-  begin_record(tags, "LAYER", at(Fixed::layer_0), Fixed::layer_table, "AcDbLayerTableRecord", "0");
-  tags.lines("70\n0\n62\n7\n6\nContinuous\n370\n-3\n");
-  tags.handle(390, at(Fixed::plot_style_normal));  // a layer without one is repaired or refused
+void write_layer_table(TagWriter& tags, const NewDrawing& file) {
+  const std::vector<LayerRecord> own = layers_of(file.drawing, file.layers);
+  begin_table(tags, "LAYER", Fixed::layer_table, 1 + own.size());
+  const auto layer = [&](const LayerRecord& record) {
+    begin_record(tags, "LAYER", record.handle, Fixed::layer_table, "AcDbLayerTableRecord",
+                 file.form.encoding.name(record.name));
+    tags.lines("70\n0\n");
+    tags.whole(62, record.colour);
+    tags.lines("6\nContinuous\n370\n-3\n");
+    tags.handle(390, at(Fixed::plot_style_normal));  // a layer without one is repaired or refused
+  };
+  layer({at(Fixed::layer_0), "0", kForeground});
+  for (const LayerRecord& record : own) layer(record);
   end_table(tags);
 }
 
@@ -125,12 +142,12 @@ void write_dimension_style_table(TagWriter& tags) {
   end_table(tags);
 }
 
-void write_block_record_table(TagWriter& tags) {
+void write_block_record_table(TagWriter& tags, const DxfForm& form) {
   begin_table(tags, "BLOCK_RECORD", Fixed::block_record_table, 2);
   const auto block = [&](Fixed handle, std::string_view name, Fixed layout) {
     begin_record(tags, "BLOCK_RECORD", at(handle), Fixed::block_record_table, "AcDbBlockTableRecord", name);
     tags.handle(340, at(layout));
-    tags.lines("70\n6\n280\n1\n281\n0\n");
+    if (form.version >= DxfVersion::r2007) tags.lines("70\n6\n280\n1\n281\n0\n");
   };
   block(Fixed::model_space, "*Model_Space", Fixed::model_layout);
   block(Fixed::paper_space, "*Paper_Space", Fixed::paper_layout);
@@ -174,31 +191,48 @@ Extents extents_of(const Drawing& drawing) {
   return extents;
 }
 
-void write_header(TagWriter& tags, const Drawing& drawing, const Extents& extents, std::string_view code_page) {
+std::vector<LayerRecord> layers_of(const Drawing& drawing, const Layers& layers) {
+  std::vector<LayerRecord> records;
+  const auto add = [&records](Fixed handle, std::string_view name, int colour) {
+    const bool is_there = name == "0" || std::any_of(records.begin(), records.end(), [name](const LayerRecord& record) {
+                            return text::equal_ascii_case(record.name, name);
+                          });
+    if (!is_there) records.push_back({at(handle), name, colour});
+  };
+  if (drawing.entity_count() == 0) return records;
+  add(Fixed::layer_points, layers.points, kForeground);
+  add(Fixed::layer_labels, layers.labels, kGreen);
+  if (drawing.height_count() > 0) add(Fixed::layer_heights, layers.heights, kOrange);
+  return records;
+}
+
+void write_header(TagWriter& tags, const NewDrawing& file) {
   begin_section(tags, "HEADER");
-  tags.lines("9\n$ACADVER\n1\nAC1021\n9\n$DWGCODEPAGE\n");
-  tags.text(3, code_page);
+  tags.lines("9\n$ACADVER\n");
+  tags.text(1, "AC" + std::to_string(static_cast<int>(file.form.version)));
+  tags.lines("9\n$DWGCODEPAGE\n");
+  tags.text(3, file.code_page);
   tags.lines("9\n$INSBASE\n10\n0.0\n20\n0.0\n30\n0.0\n9\n$EXTMIN\n");
-  tags.position(10, extents.smallest);
+  tags.position(10, file.extents.smallest);
   tags.lines("9\n$EXTMAX\n");
-  tags.position(10, extents.largest);
-  tags.lines("9\n$PDMODE\n");
-  tags.whole(70, drawing.variables.PDMODE);
+  tags.position(10, file.extents.largest);
+  tags.lines("9\n$LUNITS\n70\n2\n9\n$LUPREC\n70\n3\n9\n$PDMODE\n");  // decimal, millimetres shown
+  tags.whole(70, file.drawing.variables.PDMODE);
   tags.lines("9\n$PDSIZE\n");
-  tags.real(40, drawing.variables.PDSIZE);
+  tags.real(40, file.drawing.variables.PDSIZE);
   tags.lines("9\n$MEASUREMENT\n70\n1\n9\n$INSUNITS\n70\n6\n9\n$HANDSEED\n");  // metric, metres
-  tags.handle(5, drawing.next_handle());
+  tags.handle(5, file.drawing.next_handle());
   end_section(tags);
 }
 
-void write_classes(TagWriter& tags) {
+void write_classes(TagWriter& tags, const NewDrawing& file) {
   begin_section(tags, "CLASSES");
   const auto object_class = [&](std::string_view record, std::string_view class_name, int instances) {
     tags.lines("0\nCLASS\n");
     tags.text(1, record);
     tags.text(2, class_name);
     tags.lines("3\nObjectDBX Classes\n90\n0\n");
-    tags.whole(91, instances);
+    if (file.form.version >= DxfVersion::r2004) tags.whole(91, instances);
     tags.lines("280\n0\n281\n0\n");
   };
   object_class("ACDBDICTIONARYWDFLT", "AcDbDictionaryWithDefault", 1);
@@ -207,19 +241,19 @@ void write_classes(TagWriter& tags) {
   end_section(tags);
 }
 
-void write_tables(TagWriter& tags, const Drawing& drawing, const Extents& extents) {
+void write_tables(TagWriter& tags, const NewDrawing& file) {
   begin_section(tags, "TABLES");
-  write_viewport_table(tags, extents);
+  write_viewport_table(tags, file.extents);
   write_line_type_table(tags);
-  write_layer_table(tags);
-  write_style_table(tags, drawing);
+  write_layer_table(tags, file);
+  write_style_table(tags, file.drawing);
   begin_table(tags, "VIEW", Fixed::view_table, 0);
   end_table(tags);
   begin_table(tags, "UCS", Fixed::ucs_table, 0);
   end_table(tags);
   write_application_table(tags);
   write_dimension_style_table(tags);
-  write_block_record_table(tags);
+  write_block_record_table(tags, file.form);
   end_section(tags);
 }
 

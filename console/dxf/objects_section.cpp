@@ -1,7 +1,6 @@
 #include <string>
 #include <string_view>
 
-#include "console/dxf/dxf_writer.h"
 #include "console/dxf/sections.h"
 
 namespace console {
@@ -31,11 +30,11 @@ void write_entry(TagWriter& tags, std::string_view name, Handle object) {
   tags.handle(350, object);
 }
 
-void write_group(TagWriter& tags, const Group& group) {
+void write_group(TagWriter& tags, const DxfForm& form, const Group& group) {
   write_owned(tags, "GROUP", group.handle, Fixed::group_dictionary);
   tags.lines("100\nAcDbGroup\n");
   std::string changed;
-  tags.text(300, encoded_label(group.description, changed));
+  tags.text(300, form.encoding.label(group.description, changed));
   tags.lines("70\n0\n");  // named
   tags.whole(71, group.selectable ? 1 : 0);
   for (const Handle member : group.members) tags.handle(340, member);
@@ -50,14 +49,15 @@ struct LayoutFacts {
   Extents extents;
 };
 
-void write_layout(TagWriter& tags, const LayoutFacts& layout) {
+void write_layout(TagWriter& tags, const DxfForm& form, const LayoutFacts& layout) {
   write_owned(tags, "LAYOUT", at(layout.handle), Fixed::layout_dictionary);
   tags.lines(
       "100\nAcDbPlotSettings\n1\n\n2\nnone_device\n4\n\n6\n\n40\n0.0\n41\n0.0\n42\n0.0\n43\n0.0\n44\n0.0\n45\n0.0\n"
       "46\n0.0\n47\n0.0\n48\n0.0\n49\n0.0\n140\n0.0\n141\n0.0\n142\n1.0\n143\n1.0\n");
   tags.whole(70, layout.plot_flags);
-  tags.lines(
-      "72\n1\n73\n0\n74\n5\n7\n\n75\n16\n76\n0\n77\n2\n78\n300\n147\n1.0\n148\n0.0\n149\n0.0\n100\nAcDbLayout\n");
+  tags.lines("72\n1\n73\n0\n74\n5\n7\n\n75\n16\n");
+  if (form.version >= DxfVersion::r2004) tags.lines("76\n0\n77\n2\n78\n300\n");  // shaded plots
+  tags.lines("147\n1.0\n148\n0.0\n149\n0.0\n100\nAcDbLayout\n");
   tags.text(1, layout.name);
   tags.lines("70\n1\n");
   tags.whole(71, layout.tab);
@@ -85,6 +85,7 @@ void write_dictionaries(TagWriter& tags, const Drawing& drawing) {
   write_entry(tags, "ACAD_GROUP", at(Fixed::group_dictionary));
   write_entry(tags, "ACAD_LAYOUT", at(Fixed::layout_dictionary));
   write_entry(tags, "ACAD_PLOTSTYLENAME", at(Fixed::plot_style_dictionary));
+  if (drawing.control_record_count() > 0) write_entry(tags, kControlDictionary, at(Fixed::control_dictionary));
 
   write_owned(tags, "DICTIONARY", at(Fixed::group_dictionary), Fixed::root_dictionary);
   tags.lines(kDictionaryTags);
@@ -96,18 +97,46 @@ void write_dictionaries(TagWriter& tags, const Drawing& drawing) {
   write_entry(tags, "Layout1", at(Fixed::paper_layout));
 }
 
+void write_controls(TagWriter& tags, const NewDrawing& file) {
+  if (file.drawing.control_record_count() == 0) return;
+  write_owned(tags, "DICTIONARY", at(Fixed::control_dictionary), Fixed::root_dictionary);
+  tags.lines(kDictionaryTags);
+  write_entry(tags, control_list_name(file.drawing), at(Fixed::control_list));
+  write_control_list(tags, file.drawing, file.form, at(Fixed::control_list), at(Fixed::control_dictionary));
+}
+
 }  // namespace
 
-void write_objects(TagWriter& tags, const Drawing& drawing, const Extents& extents) {
+std::string_view control_list_name(const Drawing& drawing) {
+  return drawing.groups().empty() ? std::string_view("PIKIETY") : drawing.groups().front().name;
+}
+
+void write_control_list(TagWriter& tags, const Drawing& drawing, const DxfForm& form, Handle list, Handle dictionary) {
+  tags.lines("0\nXRECORD\n");
+  tags.handle(5, list);
+  write_reactor(tags, dictionary);
+  tags.handle(330, dictionary);
+  tags.lines("100\nAcDbXrecord\n280\n1\n");
+  std::string changed;
+  drawing.for_each_control_record([&](Handle point, const vexo_reaktywne_core::ControlRecord& record) {
+    tags.handle(320, point);
+    tags.position(10, record.at_registration);
+    const TextGeometry* const label = drawing.label_of(point);
+    tags.text(1, label == nullptr ? std::string_view() : form.encoding.label(label->text, changed));
+  });
+}
+
+void write_objects(TagWriter& tags, const NewDrawing& file) {
   constexpr int kModelPlotFlags = 1712;  // what new drawings have: scaled to fit, of the model tab
   constexpr int kPaperPlotFlags = 688;
   constexpr Extents kSheet = {{0.0, 0.0, 0.0}, {420.0, 297.0, 0.0}};  // millimetres
   tags.lines("0\nSECTION\n2\nOBJECTS\n");
-  write_dictionaries(tags, drawing);
-  for (const Group& group : drawing.groups()) write_group(tags, group);
-  write_layout(tags, {Fixed::model_layout, Fixed::model_space, "Model", 0, kModelPlotFlags, extents});
-  write_layout(tags, {Fixed::paper_layout, Fixed::paper_space, "Layout1", 1, kPaperPlotFlags, kSheet});
+  write_dictionaries(tags, file.drawing);
+  for (const Group& group : file.drawing.groups()) write_group(tags, file.form, group);
+  write_layout(tags, file.form, {Fixed::model_layout, Fixed::model_space, "Model", 0, kModelPlotFlags, file.extents});
+  write_layout(tags, file.form, {Fixed::paper_layout, Fixed::paper_space, "Layout1", 1, kPaperPlotFlags, kSheet});
   write_plot_styles(tags);
+  write_controls(tags, file);
   tags.lines("0\nENDSEC\n");
 }
 

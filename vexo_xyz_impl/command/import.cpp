@@ -49,6 +49,12 @@ void take_rows_apart(ImportSeen& seen) {
   seen.loaded.rows->forget_rows();
 }
 
+double height_of_labels(std::span<const PointRecord> punkty) {
+  host::Foreknowledge* const foreknowledge = bound().host.foreknowledge;
+  const auto wanted = foreknowledge != nullptr ? foreknowledge->label_height() : std::nullopt;
+  return wanted ? *wanted : label_height(punkty);
+}
+
 CommandOutcome import_file(ImportSeen& seen) {
   if (!read_file(seen)) return CommandOutcome::failed;
 
@@ -74,7 +80,7 @@ CommandOutcome import_file(ImportSeen& seen) {
   if (seen.axes.swap)
     for (PointRecord& point : read.punkty) std::swap(point.x, point.y);
 
-  const double txtH = label_height(read.punkty);
+  const double txtH = height_of_labels(read.punkty);
   ModelSpace model = _openModelSpace();
   if (!model.ms) {
     print("xyz.blad_model");

@@ -60,7 +60,8 @@ class HostLock {
 /// Which of a file's two coordinates stands first.
 enum class AxisOrder { east_first, north_first };
 
-/// What is known of the file besides its numbers. A host that knows nothing leaves this role out.
+/// What is known of the file besides its numbers, and wanted of the drawing. A host that knows nothing leaves this role
+/// out.
 class Foreknowledge {
  public:
   virtual ~Foreknowledge() = default;
@@ -72,6 +73,9 @@ class Foreknowledge {
   /// What speaks for a reading with that order of the axes or against it, finished lines to print under it: the
   /// `share`, up to 1, of the points that it fits, names of columns and the like. Empty: nothing.
   virtual std::string beside_reading(AxisOrder order, double share) = 0;
+
+  /// The height that labels are to have, metres. Empty: what suits the points.
+  virtual std::optional<double> label_height() = 0;
 };
 
 class CommandTable {
