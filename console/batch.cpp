@@ -180,6 +180,7 @@ ExitCode run_batch(const BatchOptions& options, std::ostream& out, std::ostream&
   SessionOptions each = options.each;
   each.unattended = true;
   each.interactive = false;
+  each.shows_progress = false;  // many at a time
   each.quiet = true;
   std::vector<Task> tasks(options.files.size());
   for (std::size_t i = 0; i < tasks.size(); ++i) tasks[i].file = options.files[i];

@@ -68,6 +68,7 @@ int run(int argc, char** argv) {
   std::ostream nowhere(nullptr);
   std::ostream& reports = is_asked_for_json ? std::cout : nowhere;
   console::SessionOptions options = console::session_options(app, arguments, at_a_terminal());
+  options.shows_progress = isatty(STDOUT_FILENO) != 0 && !is_asked_for_json && !arguments.quiet;
   if (arguments.files.size() > 1) return console::run_batch({arguments.files, arguments.jobs, options}, out, reports);
   console::Session session(std::move(options), *lines, out);
   const console::ExitCode code = session.run();

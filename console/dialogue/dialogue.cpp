@@ -125,11 +125,13 @@ void Dialogue::gcutPrintf(std::string_view text) {
   if (holds_) {
     held_ += shown_text(text);
   } else {
+    const Progress::Pause pause(progress_);
     out_ << shown_text(text) << std::flush;
   }
 }
 
 void Dialogue::say_held() {
+  const Progress::Pause pause(progress_);
   out_ << held_ << std::flush;
   held_.clear();
 }
