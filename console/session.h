@@ -12,6 +12,7 @@
 #include "console/dialogue/dialogue.h"
 #include "console/drawing/database.h"
 #include "console/drawing/wishes.h"
+#include "console/existing_drawing.h"
 #include "console/exit_code.h"
 #include "console/progress.h"
 #include "console/report/import_watcher.h"
@@ -65,6 +66,8 @@ class Session final : private vexo_xyz_impl::host::CommandTable, private vexo_xy
   bool failed(const std::optional<std::string>& text);
   [[nodiscard]] bool report_is_refused();
   [[nodiscard]] bool drawing_is_refused(const std::filesystem::path& points);
+  std::optional<std::string> existing_refused();
+  ExitCode save_into_existing();
   ExitCode import_and_save();
   vexo_xyz_impl::host::CommandOutcome import_once();
   [[nodiscard]] bool prepares_instead();
@@ -82,6 +85,7 @@ class Session final : private vexo_xyz_impl::host::CommandTable, private vexo_xy
   std::unique_ptr<Progress> progress_;  // at a terminal
   PausedLines lines_;
   std::optional<std::filesystem::path> prepared_from_;  // the file that the user chose
+  std::unique_ptr<ExistingDrawing> existing_;
   Database database_;
   Dialogue dialogue_;
   SiblingRegistry siblings_;

@@ -23,5 +23,6 @@ struct Text {
 [[nodiscard]] std::span<const Text> doubt_texts();
 [[nodiscard]] std::span<const Text> reason_texts();
 [[nodiscard]] std::span<const Text> prepare_texts();
+[[nodiscard]] std::span<const Text> into_texts();
 
 }  // namespace console
