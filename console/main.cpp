@@ -75,6 +75,7 @@ int run(int argc, char** argv) {
   const bool is_asked_for_json = arguments.json && !preparing->parsed();
   std::ostream& out = is_asked_for_json ? std::cerr : std::cout;
   const auto lines = typed_lines(out);
+  prepare.options.shows_progress = isatty(STDOUT_FILENO) != 0;
   if (preparing->parsed()) return console::run_prepare(prepare.options, prepare.choice, *lines, std::cout);
   std::ostream nowhere(nullptr);
   std::ostream& reports = is_asked_for_json ? std::cout : nowhere;

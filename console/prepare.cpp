@@ -3,6 +3,8 @@
 #include <system_error>
 #include <vector>
 
+#include <unistd.h>
+
 #include "console/dialogue/dialogue.h"
 #include "console/dialogue/shown_text.h"
 #include "console/drawing/database.h"
@@ -199,10 +201,14 @@ PrepareResult prepare(const PrepareOptions& options, LineSource& lines) {
 
 ExitCode run_prepare(const PrepareOptions& options, const Choice& choice, LineSource& lines, std::ostream& out) {
   Database database;
-  Dialogue dialogue(lines, out, database.drawing().variables, std::nullopt, {});
+  const auto progress = options.shows_progress ? std::make_unique<Progress>(STDOUT_FILENO) : nullptr;
+  PausedLines paused(lines, progress.get());
+  Dialogue dialogue(paused, out, database.drawing().variables, std::nullopt, {});
+  dialogue.pause_for_texts(progress.get());
   SiblingRegistry siblings = family(database, choice);
   const vexo_xyz_impl::Entered entered({{dialogue, database, siblings}, vexo_xyz_impl::bind_siblings(siblings)});
-  return prepare(options, lines).code;
+  if (progress) progress->go_on(vexo_xyz_impl::T("konsola.postep_czytanie"), Progress::Measure::seconds);
+  return prepare(options, paused).code;
 }
 
 }  // namespace console

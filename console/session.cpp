@@ -211,7 +211,9 @@ ExitCode Session::save() {
 }
 
 ExitCode Session::save_into_existing() {
+  auto work = shown("konsola.postep_zapis", Progress::Measure::seconds);
   if (failed(save_existing(*existing_, database_.drawing(), options_.wishes.layers))) return kFailure;
+  work.reset();
   const std::string drawing = existing_->path().string();
   say("konsola.rys_zapisano", {drawing, existing_->backup().string()});
   tell_repeating_command(drawing);
