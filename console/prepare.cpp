@@ -14,6 +14,7 @@
 #include "console/prepare_log.h"
 #include "console/report/reasons.h"
 #include "console/shell_word.h"
+#include "console/speaking.h"
 #include "console/texts/say.h"
 #include "intake/foreign_table.h"
 #include "intake/seen_table.h"
@@ -200,13 +201,9 @@ PrepareResult prepare(const PrepareOptions& options, LineSource& lines) {
 }
 
 ExitCode run_prepare(const PrepareOptions& options, const Choice& choice, LineSource& lines, std::ostream& out) {
-  Database database;
   const auto progress = options.shows_progress ? std::make_unique<Progress>(STDOUT_FILENO) : nullptr;
   PausedLines paused(lines, progress.get());
-  Dialogue dialogue(paused, out, database.drawing().variables, std::nullopt, {});
-  dialogue.pause_for_texts(progress.get());
-  SiblingRegistry siblings = family(database, choice);
-  const vexo_xyz_impl::Entered entered({{dialogue, database, siblings}, vexo_xyz_impl::bind_siblings(siblings)});
+  const Speaking speaking(choice, paused, out, progress.get());
   if (progress) progress->go_on(vexo_xyz_impl::T("konsola.postep_czytanie"), Progress::Measure::seconds);
   return prepare(options, paused).code;
 }
