@@ -88,7 +88,9 @@ void declare_files(CLI::App& app, Arguments& arguments) {
                  "File of surveyed points: delimited text or .xlsx. Without it the path is asked for")
       ->configurable(false);
   app.add_option("-o,--output", arguments.output,
-                 "Drawing to write. Default: beside FILE, with its name, or the next free one (_2, _3 ...)")
+                 "Drawing to write, .dxf where the name has no extension. Default: beside FILE, with its name, or the "
+                 "next free "
+                 "one (_2, _3 ...)")
       ->type_name("OUT.dxf")
       ->configurable(false);
   app.add_option("--into", arguments.into,
