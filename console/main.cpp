@@ -16,6 +16,7 @@
 #include "console/arguments.h"
 #include "console/batch.h"
 #include "console/kept_memory.h"
+#include "console/manual.h"
 #include "console/prepare_arguments.h"
 #include "console/report/report_file.h"
 #include "console/session.h"
@@ -48,6 +49,16 @@ int run(int argc, char** argv) {
   console::PrepareArguments prepare;
   console::declare_import(app, arguments);
   const CLI::App* const preparing = console::declare_prepare(app, prepare);
+  const auto print = [&app](std::string (*text)(const CLI::App&)) {
+    return [&app, text] {
+      std::cout << text(app);
+      throw CLI::Success();
+    };
+  };
+  app.add_subcommand("man", "Prints the manual page")->callback(print(console::manual_page))->group("");
+  app.add_subcommand("completion", "Prints what bash reads to complete the options")
+      ->callback(print(console::bash_completion))
+      ->group("");
   try {
     app.parse(console::separate_arguments(argc, argv));
     if (preparing->parsed()) {
