@@ -10,6 +10,7 @@
 #include "console/files.h"
 #include "console/prepare.h"
 #include "console/prepare_log.h"
+#include "console/preview/svg.h"
 #include "console/report/reasons.h"
 #include "console/report/report_file.h"
 #include "console/texts/say.h"
@@ -45,6 +46,7 @@ Session::Session(SessionOptions options, LineSource& lines, std::ostream& out)
       siblings_(family(database_, options_.choice)),
       entered_({{dialogue_, database_, siblings_, nullptr, this, &watcher_}, vexo_xyz_impl::bind_siblings(siblings_)}) {
   vexo_xyz_impl::register_command(*this);
+  if (options_.preview) watcher_.take_pictures();
 }
 
 void Session::command(std::string_view local_name, std::string_view /*global_name*/, std::string_view /*group_name*/,
@@ -90,35 +92,44 @@ void Session::warn_of_unknown_market() {
   if (!siblings_.has("vexo_xyz_dane_" + market)) say("konsola.nieznany_rynek", {market});
 }
 
-// Whether the report may not have its name, the user told: an earlier report is replaced, the files of points and of
-// the drawing never.
+// The reason why what is written beside the drawing may not have that name, none when it may: what was written there
+// before is replaced, the files of points and of the drawing never.
+std::string_view Session::reason_against(const std::filesystem::path& path,
+                                         bool (*may_be_replaced)(const std::filesystem::path& path)) const {
+  std::error_code ignored;
+  const auto is_name_of = [&path](const std::optional<std::filesystem::path>& other) {
+    return other && path.lexically_normal() == other->lexically_normal();
+  };
+  const auto status = std::filesystem::status(path, ignored);
+  if (is_file_of_points(path)) return "konsola.powod_plik_punktow";
+  if (is_name_of(options_.output)) return "konsola.powod_rysunek";
+  if (!std::filesystem::exists(status)) return {};
+  if (!std::filesystem::is_regular_file(status)) return "konsola.powod_nie_plik";
+  return may_be_replaced(path) ? "" : "konsola.powod_nie_raport";
+}
+
 bool Session::report_is_refused() {
   if (!options_.report) return false;
-  std::error_code ignored;
-  const bool is_drawing = options_.output && options_.report->lexically_normal() == options_.output->lexically_normal();
-  const auto status = std::filesystem::status(*options_.report, ignored);
-  std::string_view reason;
-  if (is_file_of_points(*options_.report)) {
-    reason = "konsola.powod_plik_punktow";
-  } else if (is_drawing) {
-    reason = "konsola.powod_rysunek";
-  } else if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status)) {
-    reason = "konsola.powod_nie_plik";
-  } else if (std::filesystem::exists(status) && !is_report(*options_.report)) {
-    reason = "konsola.powod_nie_raport";
-  } else {
-    return false;
-  }
-  say("konsola.raport_blad", {options_.report->string(), vexo_xyz_impl::T(reason)});
-  return true;
+  const std::string_view reason = reason_against(*options_.report, is_report);
+  if (!reason.empty()) say("konsola.raport_blad", {options_.report->string(), vexo_xyz_impl::T(reason)});
+  return !reason.empty();
+}
+
+bool Session::preview_is_refused() {
+  if (!options_.preview) return false;
+  std::string_view reason = reason_against(*options_.preview, is_picture);
+  if (options_.report && options_.report->lexically_normal() == options_.preview->lexically_normal())
+    reason = "konsola.powod_raport";
+  if (!reason.empty()) say("konsola.podglad_blad", {options_.preview->string(), vexo_xyz_impl::T(reason)});
+  return !reason.empty();
 }
 
 ExitCode Session::run() {
   warn_of_unknown_market();
-  if (report_is_refused()) return kFailure;  // before any question
+  if (report_is_refused() || preview_is_refused()) return kFailure;  // before any question
   const ExitCode code = output_is_refused() ? kFailure : import_and_save();
   if (code == kFailure) watcher_.drawing_failed();
-  return save_report(code);
+  return save_report(save_preview(code));
 }
 
 CommandOutcome Session::import_once() {
@@ -178,6 +189,22 @@ ExitCode Session::save() {
     return kImported;
   } catch (const std::system_error& failure) {
     say("konsola.blad_zapisu", {wanted, failure_text(failure)});
+    return kFailure;
+  }
+}
+
+ExitCode Session::save_preview(ExitCode so_far) {
+  if (!options_.preview || so_far != kImported) return so_far;
+  if (preview_is_refused()) return kFailure;  // a path that was typed is known only now
+  Picture& picture = watcher_.picture();
+  picture.file = source().filename().string();
+  if (!database_.drawing().groups().empty()) picture.group = database_.drawing().groups().front().name;
+  try {
+    write_picture(picture, *options_.preview);
+    say("konsola.podglad_zapisano", {options_.preview->string()});
+    return so_far;
+  } catch (const std::system_error& failure) {
+    say("konsola.podglad_blad", {options_.preview->string(), failure_text(failure)});
     return kFailure;
   }
 }

@@ -51,13 +51,17 @@ class Session final : private vexo_xyz_impl::host::CommandTable, private vexo_xy
   std::optional<double> label_height() override { return options_.wishes.text_height; }
   [[nodiscard]] bool is_file_of_points(const std::filesystem::path& path) const;
   [[nodiscard]] bool output_is_refused();
+  [[nodiscard]] std::string_view reason_against(const std::filesystem::path& path,
+                                                bool (*may_be_replaced)(const std::filesystem::path& path)) const;
   [[nodiscard]] bool report_is_refused();
+  [[nodiscard]] bool preview_is_refused();
   void warn_of_unknown_market();
   ExitCode import_and_save();
   vexo_xyz_impl::host::CommandOutcome import_once();
   [[nodiscard]] bool prepares_instead();
   [[nodiscard]] std::filesystem::path source() const;
   ExitCode save();
+  ExitCode save_preview(ExitCode so_far);
   ExitCode save_report(ExitCode so_far);
   std::filesystem::path write_drawing();
 

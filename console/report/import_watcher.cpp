@@ -129,6 +129,8 @@ void ImportWatcher::ended(const ImportSeen& seen) {
   if (seen.loaded.typ == vexo_xyz_impl::FileType::xlsx && seen.loaded.rows)
     append(findings_.doubts, doubts_of_workbook(seen, places_ ? &*places_ : nullptr));
   findings_.reason = reason_of(seen, findings_);
+  if (takes_pictures_ && findings_.outcome == Outcome::imported)
+    picture_ = picture_of(seen, *places_, findings_.doubts);
   places_.reset();
   header_.reset();
 }

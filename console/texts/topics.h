@@ -22,5 +22,6 @@ struct Text {
 [[nodiscard]] std::span<const Text> doubt_texts();
 [[nodiscard]] std::span<const Text> reason_texts();
 [[nodiscard]] std::span<const Text> prepare_texts();
+[[nodiscard]] std::span<const Text> preview_texts();
 
 }  // namespace console
