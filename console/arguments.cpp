@@ -9,6 +9,7 @@
 #include <string_view>
 
 #include "console/prepare_arguments.h"
+#include "siblings/vexo_rynek/rynek.h"
 #include "vexo_xyz_impl/command/keywords.h"
 
 namespace console {
@@ -54,6 +55,20 @@ std::optional<double> text_height_of(std::string_view text) {
 
 std::string text_height_fault(const std::string& text) {
   return text_height_of(text) ? "" : "neither a height from 0.001 to 10000 metres nor a scale as 1:500";
+}
+
+// The options that were given, as a command line has them, but for the files.
+std::vector<std::string> words_of(const CLI::App& app, const Arguments& arguments) {
+  std::vector<std::string> words;
+  for (const CLI::Option* const option : app.get_options()) {
+    const bool is_ours = !option->get_lnames().empty() && option != app.get_config_ptr();
+    if (!is_ours || option->count() == 0) continue;
+    words.push_back("--" + option->get_lnames().front());
+    if (option->get_expected_max() > 0) words.push_back(option->as<std::string>());
+  }
+  if (app.count("--market") == 0)
+    words.insert(words.end(), {"--market", vexo_rynek::Market(arguments.choice.market).rynek()});
+  return words;
 }
 
 // What all programs take for the name of a layer.
@@ -196,12 +211,25 @@ std::vector<std::string> separate_arguments(int argc, const char* const* argv) {
   return last_first;
 }
 
+void check(const CLI::App& app, const Arguments& arguments) {
+  check_market(arguments.choice);
+  if (app.count("-o") > 0 && arguments.output.empty()) throw CLI::ValidationError("--output", "a drawing needs a name");
+  if (arguments.output == "-")
+    throw CLI::ValidationError("--output", "a drawing is a file; it is not written to standard output");
+  if (arguments.force && app.count("-o") == 0) throw CLI::RequiresError("--force", "--output");
+  if (arguments.files.size() < 2) return;
+  for (const char* const option : {"--output", "--report", "--preview"})
+    if (app.count(option) > 0) throw CLI::ValidationError(option, "is for one FILE; --json tells of several");
+}
+
 SessionOptions session_options(const CLI::App& app, const Arguments& arguments, bool interactive) {
   SessionOptions options;
   options.prepare = arguments.prepare;
   options.interactive = interactive;
+  options.words = words_of(app, arguments);
+  options.quiet = arguments.quiet;
   if (!arguments.files.empty()) options.file = arguments.files.front();
-  if (app.count("-o") > 0) options.output = arguments.output;
+  if (app.count("-o") > 0) options.output = with_extension(arguments.output);
   if (app.count("--into") > 0) options.into = arguments.into;
   options.force = arguments.force;
   if (app.count("--report") > 0) options.report = arguments.report;

@@ -41,6 +41,10 @@ void declare_import(CLI::App& app, Arguments& arguments);
 /// "--heights=2 FILE".
 [[nodiscard]] std::vector<std::string> separate_arguments(int argc, const char* const* argv);
 
+/// Fails with CLI::ValidationError where the market is not one of the list, be it named by an option or by the
+/// environment, or where an option for one file goes with several.
+void check(const CLI::App& app, const Arguments& arguments);
+
 /// What an import of the first file is to do. `interactive`: somebody is there to be asked.
 [[nodiscard]] SessionOptions session_options(const CLI::App& app, const Arguments& arguments, bool interactive);
 

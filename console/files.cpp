@@ -1,51 +1,35 @@
 #include "console/files.h"
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstdio>
-#include <cstring>
+#include <fstream>
+#include <string>
+#include <system_error>
+#include <vector>
 
 #include <fcntl.h>
-#include <signal.h>  // NOLINT(modernize-deprecated-headers): sigaction is not in <csignal>
 #include <sys/stat.h>
 #include <unistd.h>
+
+#include "console/file_rights.h"
+#include "vexo_xyz_impl/text/utf8.h"
 
 namespace console {
 namespace {
 
+// Answers of file systems that cannot do what was asked, as opposed to those that will not.
+constexpr std::array kNoExclusiveRename = {EINVAL, ENOSYS, ENOTSUP};
+constexpr std::array kNoHardLink = {EPERM, ENOTSUP, ENOSYS, EMLINK, EXDEV};
+constexpr std::array kNoFlush = {EINVAL, ENOSYS, ENOTSUP, EROFS};
+
+template <std::size_t N>
+bool is_one_of(const std::array<int, N>& numbers, int number) {
+  return std::find(numbers.begin(), numbers.end(), number) != numbers.end();
+}
+
 [[noreturn]] void fail(FileStep step) { throw FileFailure(step, errno); }
-
-// ---- An interrupt must leave no temporary file behind. The handler may touch nothing but plain memory.
-
-constexpr std::array kInterrupts = {SIGINT, SIGTERM, SIGHUP};
-// NOLINTBEGIN(cppcoreguidelines-avoid-non-const-global-variables): all that a signal handler can reach
-std::array<char, 4096> interrupted_file{};
-std::array<struct sigaction, kInterrupts.size()> usual_actions{};
-// NOLINTEND(cppcoreguidelines-avoid-non-const-global-variables)
-
-extern "C" void remove_and_end(int signal_number) {
-  if (interrupted_file[0] != '\0') unlink(interrupted_file.data());
-  signal(signal_number, SIG_DFL);
-  raise(signal_number);
-}
-
-void guard_against_interrupts(const std::string& temporary) {
-  if (temporary.size() >= interrupted_file.size()) return;  // longer than any path the system takes
-  std::memcpy(interrupted_file.data(), temporary.c_str(), temporary.size() + 1);
-  for (std::size_t i = 0; i < kInterrupts.size(); ++i) {
-    sigaction(kInterrupts[i], nullptr, &usual_actions[i]);
-    if (usual_actions[i].sa_handler == SIG_IGN) continue;  // as under nohup: it will not interrupt
-    struct sigaction action {};
-    action.sa_handler = remove_and_end;
-    sigaction(kInterrupts[i], &action, nullptr);
-  }
-}
-
-void end_guard() {
-  if (interrupted_file[0] == '\0') return;
-  for (std::size_t i = 0; i < kInterrupts.size(); ++i) sigaction(kInterrupts[i], &usual_actions[i], nullptr);
-  interrupted_file[0] = '\0';
-}
 
 std::filesystem::path or_current(const std::filesystem::path& folder) {
   return folder.empty() ? std::filesystem::path(".") : folder;
@@ -58,23 +42,51 @@ void flush_folder(const std::filesystem::path& target) {
   close(descriptor);
 }
 
+// Takes the name with an empty file, over which the rename goes.
+bool rename_over_claim(const char* from, const char* to) {
+  const SignalsHeld held;  // none may leave the claim
+  const int claim = open(to, O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+  if (claim < 0) return false;
+  close(claim);
+  if (std::rename(from, to) == 0) return true;
+  const int error_number = errno;
+  unlink(to);
+  errno = error_number;
+  return false;
+}
+
+// Gives the file a second name, which an older backup loses to it; false where the file system cannot.
+bool link_as(const std::filesystem::path& original, const std::filesystem::path& backup) {
+  try {
+    const TemporaryName second(backup.parent_path(),
+                               [&](const char* name) { return link(original.c_str(), name) == 0; });
+    if (std::rename(second.c_str(), backup.c_str()) != 0) fail(FileStep::rename);
+    flush_folder(backup);
+    return true;
+  } catch (const FileFailure& failure) {
+    if (failure.step() != FileStep::create || !is_one_of(kNoHardLink, failure.code().value())) throw;
+    return false;
+  }
+}
+
+// The first bytes of a name, ended at a character's boundary where it has such.
+std::string_view beginning(std::string_view name, std::size_t bytes) {
+  std::string_view begun = name.substr(0, bytes);
+  if (!vexo_xyz_impl::text::is_valid(name)) return begun;
+  while (!vexo_xyz_impl::text::is_valid(begun)) begun.remove_suffix(1);
+  return begun;
+}
+
 }  // namespace
 
 AtomicFile::AtomicFile(const std::filesystem::path& folder)
-    : temporary_((or_current(folder) / ".vexo-xyz-XXXXXX").string()),
-      descriptor_(mkostemp(temporary_.data(), O_CLOEXEC)) {
-  if (descriptor_ < 0) fail(FileStep::create);
-  guard_against_interrupts(temporary_);
-  // mkostemp makes it private; a drawing gets the rights that any new file gets.
-  const mode_t mask = umask(0);
-  umask(mask);
-  fchmod(descriptor_, 0666U & ~mask);
-}
+    : temporary_(folder, [this](const char* name) {
+        descriptor_ = open(name, O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+        return descriptor_ >= 0;
+      }) {}
 
 AtomicFile::~AtomicFile() {
   if (descriptor_ >= 0) close(descriptor_);
-  if (!temporary_.empty()) unlink(temporary_.c_str());
-  end_guard();
 }
 
 void AtomicFile::write(std::string_view bytes) {
@@ -100,33 +112,109 @@ void AtomicFile::begin_step() {
 void AtomicFile::flush() {
   // What is left of the room; where it cannot be given back, the drawing is whole all the same.
   if (has_room_ahead_) has_room_ahead_ = ftruncate(descriptor_, static_cast<off_t>(size_)) != 0;
-  if (fsync(descriptor_) != 0) fail(FileStep::flush);
+  if (fsync(descriptor_) != 0 && !is_one_of(kNoFlush, errno)) fail(FileStep::flush);
   const int closing = descriptor_;
   descriptor_ = -1;
-  if (close(closing) != 0) fail(FileStep::write);
+  if (close(closing) != 0) fail(FileStep::write);  // some file systems tell only now
 }
 
-bool AtomicFile::commit(const std::filesystem::path& target, bool replace) {
-  const unsigned flags = replace ? 0U : RENAME_NOREPLACE;
-  if (renameat2(AT_FDCWD, temporary_.c_str(), AT_FDCWD, target.c_str(), flags) != 0) {
-    if (errno == EEXIST && !replace) return false;
-    if (errno != EINVAL || replace) fail(FileStep::rename);
-    // A file system without the exclusive rename: a second name for the file is refused where one exists.
-    if (link(temporary_.c_str(), target.c_str()) != 0) {
-      if (errno == EEXIST) return false;
-      fail(FileStep::rename);
-    }
-    unlink(temporary_.c_str());
+void AtomicFile::replace(const std::filesystem::path& target, const std::filesystem::path& rights_of) {
+  struct stat was {};
+  if (stat(rights_of.c_str(), &was) == 0) {
+    const int descriptor = open(temporary_.c_str(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC);
+    if (descriptor >= 0) take_over_rights(descriptor, rights_of.c_str(), was);
+    if (descriptor >= 0) close(descriptor);
   }
-  temporary_.clear();
+  if (std::rename(temporary_.c_str(), target.c_str()) != 0) fail(FileStep::rename);
+  flush_folder(target);
+}
+
+bool AtomicFile::rename_to_free_name(const std::filesystem::path& target) {
+  if (renameat2(AT_FDCWD, temporary_.c_str(), AT_FDCWD, target.c_str(), RENAME_NOREPLACE) == 0) return true;
+  if (is_one_of(kNoExclusiveRename, errno)) {
+    // A second name is refused where there is a file of that name; the temporary one goes with its owner.
+    if (link(temporary_.c_str(), target.c_str()) == 0) return true;
+    if (is_one_of(kNoHardLink, errno) && rename_over_claim(temporary_.c_str(), target.c_str())) return true;
+  }
+  if (errno == EEXIST) return false;
+  fail(FileStep::rename);
+}
+
+bool AtomicFile::commit(const std::filesystem::path& target, bool replace_existing) {
+  if (replace_existing) {
+    const std::filesystem::path final = final_target(target);
+    replace(final, final);
+    return true;
+  }
+  if (!rename_to_free_name(target)) return false;
   flush_folder(target);
   return true;
 }
 
+void AtomicFile::commit_keeping(const std::filesystem::path& target, const std::filesystem::path& backup) {
+  const std::filesystem::path original = final_target(target);
+  std::error_code ignored;
+  if (std::filesystem::exists(original, ignored) && !link_as(original, backup)) copy(original, backup);
+  replace(original, original);
+}
+
+void AtomicFile::copy(const std::filesystem::path& original, const std::filesystem::path& backup) {
+  AtomicFile file(backup.parent_path());
+  std::ifstream bytes(original, std::ios::binary);
+  std::vector<char> piece(std::size_t{1} << 16U);
+  do {
+    bytes.read(piece.data(), std::ssize(piece));
+    file.write({piece.data(), static_cast<std::size_t>(bytes.gcount())});
+  } while (bytes);
+  if (!bytes.eof()) throw FileFailure(FileStep::write, EIO);
+  file.flush();
+  file.replace(backup, original);
+}
+
+std::filesystem::path final_target(std::filesystem::path path) {
+  constexpr int kMostLinks = 40;  // as many as the system follows
+  std::error_code not_a_link;
+  for (int i = 0; i < kMostLinks; ++i) {
+    const auto target = std::filesystem::read_symlink(path, not_a_link);
+    if (not_a_link) break;
+    path = path.parent_path() / target;  // an absolute one stands for itself
+  }
+  return path;
+}
+
+std::optional<FileFailure> refusal_in(const std::filesystem::path& folder) {
+  struct stat in {};
+  const std::filesystem::path path = or_current(folder);
+  if (stat(path.c_str(), &in) != 0) return FileFailure(FileStep::create, errno);
+  if (!S_ISDIR(in.st_mode)) return FileFailure(FileStep::create, ENOTDIR);
+  if (faccessat(AT_FDCWD, path.c_str(), W_OK | X_OK, AT_EACCESS) != 0) return FileFailure(FileStep::create, errno);
+  return std::nullopt;
+}
+
+std::optional<FileFailure> refusal_of(const std::filesystem::path& target) {
+  const std::filesystem::path final = final_target(target);
+  if (auto refusal = refusal_in(final.parent_path())) return refusal;
+  struct stat there {};
+  if (lstat(final.c_str(), &there) != 0)
+    return errno == ENOENT ? std::nullopt : std::optional(FileFailure(FileStep::rename, errno));
+  // In a folder such as /tmp only its owner and the file's may replace it; a file may also be immutable.
+  struct stat in {};
+  const uid_t user = geteuid();
+  const bool is_foreign = stat(or_current(final.parent_path()).c_str(), &in) == 0 && (in.st_mode & S_ISVTX) != 0 &&
+                          user != 0 && user != in.st_uid && user != there.st_uid;
+  const bool is_fixed = faccessat(AT_FDCWD, final.c_str(), W_OK, AT_EACCESS) != 0 && errno == EPERM;
+  if (is_foreign || is_fixed) return FileFailure(FileStep::rename, EPERM);
+  return std::nullopt;
+}
+
+std::filesystem::path named_after(const std::filesystem::path& path, const std::string& ending, std::size_t spare) {
+  constexpr std::size_t kMostBytes = 255;  // of a name, on most file systems
+  const std::string stem = path.stem().string();
+  return path.parent_path() / (std::string(beginning(stem, kMostBytes - ending.size() - spare)) + ending);
+}
+
 std::filesystem::path drawing_name(const std::filesystem::path& path, int number) {
-  std::string name = path.stem().string();
-  if (number > 1) name += "_" + std::to_string(number);
-  return path.parent_path() / (name + ".dxf");
+  return named_after(path, (number > 1 ? "_" + std::to_string(number) : std::string()) + ".dxf");
 }
 
 }  // namespace console

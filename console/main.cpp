@@ -6,14 +6,18 @@
 #include <exception>
 #include <iostream>
 #include <memory>
+#include <ostream>
+#include <utility>
 
 #include <CLI/CLI.hpp>
 #include <langinfo.h>
 #include <unistd.h>
 
 #include "console/arguments.h"
+#include "console/batch.h"
 #include "console/kept_memory.h"
 #include "console/prepare_arguments.h"
+#include "console/report/report_file.h"
 #include "console/session.h"
 
 namespace {
@@ -26,8 +30,10 @@ void use_utf8_locale() {
   std::setlocale(LC_CTYPE, "C.UTF-8");
 }
 
-std::unique_ptr<console::LineSource> typed_lines() {
-  return at_a_terminal() ? console::lines_of_terminal(std::cout) : console::lines_of_stream(std::cin, std::cout);
+// The editor writes to standard output, so that prompts that are to go elsewhere do without it.
+std::unique_ptr<console::LineSource> typed_lines(std::ostream& out) {
+  return at_a_terminal() && &out == &std::cout ? console::lines_of_terminal(out)
+                                               : console::lines_of_stream(std::cin, out);
 }
 
 int run(int argc, char** argv) {
@@ -44,12 +50,26 @@ int run(int argc, char** argv) {
   const CLI::App* const preparing = console::declare_prepare(app, prepare);
   try {
     app.parse(console::separate_arguments(argc, argv));
+    if (preparing->parsed()) {
+      console::check_market(prepare.choice);
+    } else {
+      console::check(app, arguments);
+    }
   } catch (const CLI::ParseError& error) {
     return app.exit(error) == 0 ? console::kImported : console::kUsage;
   }
-  const auto lines = typed_lines();
+  const bool is_asked_for_json = arguments.json && !preparing->parsed();
+  std::ostream& out = is_asked_for_json ? std::cerr : std::cout;
+  const auto lines = typed_lines(out);
   if (preparing->parsed()) return console::run_prepare(prepare.options, prepare.choice, *lines, std::cout);
-  return console::Session(console::session_options(app, arguments, at_a_terminal()), *lines, std::cout).run();
+  std::ostream nowhere(nullptr);
+  std::ostream& reports = is_asked_for_json ? std::cout : nowhere;
+  console::SessionOptions options = console::session_options(app, arguments, at_a_terminal());
+  if (arguments.files.size() > 1) return console::run_batch({arguments.files, arguments.jobs, options}, out, reports);
+  console::Session session(std::move(options), *lines, out);
+  const console::ExitCode code = session.run();
+  reports << console::report_as_json(session.findings()) << std::flush;
+  return code;
 }
 
 }  // namespace

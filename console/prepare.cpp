@@ -4,17 +4,21 @@
 #include <vector>
 
 #include "console/dialogue/dialogue.h"
+#include "console/dialogue/shown_text.h"
 #include "console/drawing/database.h"
 #include "console/failure_text.h"
 #include "console/files.h"
 #include "console/prepare_columns.h"
 #include "console/prepare_log.h"
 #include "console/report/reasons.h"
+#include "console/shell_word.h"
 #include "console/texts/say.h"
 #include "intake/foreign_table.h"
 #include "intake/seen_table.h"
 #include "vexo_xyz_impl/command/module.h"
+#include "vexo_xyz_impl/failure.h"
 #include "vexo_xyz_impl/messages.h"
+#include "vexo_xyz_impl/notices.h"
 
 namespace console {
 namespace {
@@ -25,28 +29,20 @@ using intake::Roles;
 using intake::RowNote;
 using vexo_xyz_impl::print;
 
-constexpr int kMostNames = 10000;       // prepared files of one name in one folder
+constexpr int kMostNames = 10000;  // prepared files of one name in one folder
+constexpr std::string_view kLogEnding = ".log";
 constexpr std::size_t kLinesNamed = 5;  // of each kind of rows left out
 
-std::filesystem::path log_of(std::filesystem::path output) { return output += ".log"; }
+std::filesystem::path log_of(std::filesystem::path output) { return output += kLogEnding; }
 
 std::filesystem::path free_name(const std::filesystem::path& file) {
   std::error_code ignored;
   for (int number = 1; number < kMostNames; ++number) {
     const std::string suffix = number == 1 ? "_prepared.csv" : "_prepared_" + std::to_string(number) + ".csv";
-    std::filesystem::path name = file.parent_path() / (file.stem().string() + suffix);
+    std::filesystem::path name = named_after(file, suffix, kLogEnding.size());
     if (!std::filesystem::exists(name, ignored) && !std::filesystem::exists(log_of(name), ignored)) return name;
   }
   throw std::system_error(EEXIST, std::generic_category(), "finding a free name");
-}
-
-// As a shell takes it for one word.
-std::string quoted(const std::string& word) {
-  constexpr std::string_view kPlain = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789_-./,=:+@%";
-  if (!word.empty() && word.find_first_not_of(kPlain) == std::string::npos) return word;
-  std::string in_quotes = "'";
-  for (const char c : word) in_quotes += c == '\'' ? std::string("'\\''") : std::string(1, c);
-  return in_quotes + "'";
 }
 
 PrepareResult refused(ExitCode code) {
@@ -61,6 +57,9 @@ class Preparation {
 
   PrepareResult run() {
     if (output_is_refused()) return refused(kFailure);
+    const std::filesystem::path folder = std::filesystem::path(options_.file).parent_path();
+    if (const auto failure = options_.output ? refusal_of(*options_.output) : refusal_in(folder))
+      return cannot_write(options_.output.value_or(folder), *failure);
     const intake::FileKind kind = intake::file_kind(options_.file);
     table_ = intake::open_table(options_.file, kind, options_.sheet);
     if (!table_) {
@@ -107,11 +106,18 @@ class Preparation {
     return false;
   }
 
+  static PrepareResult cannot_write(const std::filesystem::path& path, const std::system_error& failure) {
+    const std::string reason = failure_text(failure);
+    say("konsola.prep_blad_zapisu", {path.string(), reason});
+    vexo_xyz_impl::notify_failure(vexo_xyz_impl::OSError(shown_text(path.string()) + ": " + reason));
+    return refused(kFailure);
+  }
+
   PrepareResult written(const intake::SeenTable& seen, const Roles& roles) {
     std::filesystem::path writing = options_.file;  // for the message of a failure
     try {
       const std::filesystem::path output = writing = options_.output ? *options_.output : free_name(options_.file);
-      AtomicFile file(output.parent_path());
+      AtomicFile file(final_target(output).parent_path());
       const PreparedAccount account = intake::write_prepared(seen.records(), seen.form(roles, options_.missing_height),
                                                              [&file](std::string_view piece) { file.write(piece); });
       if (account.points == 0) {
@@ -132,8 +138,7 @@ class Preparation {
       say("konsola.prep_powtorz", {repeating(roles, output)});
       return {kImported, output, intake::has_role(roles, intake::Role::easting), account};
     } catch (const std::system_error& failure) {
-      say("konsola.prep_blad_zapisu", {writing.string(), failure_text(failure)});
-      return refused(kFailure);
+      return cannot_write(writing, failure);
     }
   }
 
@@ -160,7 +165,7 @@ class Preparation {
 
   void write_log(const std::filesystem::path& output, const PreparedAccount& account) {
     const std::filesystem::path path = log_of(output);
-    AtomicFile log(output.parent_path());
+    AtomicFile log(final_target(path).parent_path());
     log.write(prepare_log(options_.file, output.string(), *table_, account));
     log.flush();
     if (!log.commit(path, options_.force)) throw std::system_error(EEXIST, std::generic_category(), "renaming");
@@ -168,9 +173,9 @@ class Preparation {
   }
 
   [[nodiscard]] std::string repeating(const Roles& roles, const std::filesystem::path& output) const {
-    std::string command = "vexo-xyz prepare " + quoted(options_.file) + " -o " + quoted(output.string()) +
+    std::string command = "vexo-xyz prepare " + shell_word(options_.file) + " -o " + shell_word(output.string()) +
                           " --columns " + intake::spelled(roles);
-    if (options_.sheet || table_->sheets.size() > 1) command += " --sheet " + quoted(table_->sheet);
+    if (options_.sheet || table_->sheets.size() > 1) command += " --sheet " + shell_word(table_->sheet);
     if (options_.missing_height == intake::MissingHeight::zero) command += " --missing-height zero";
     return command;
   }
@@ -187,6 +192,7 @@ PrepareResult prepare(const PrepareOptions& options, LineSource& lines) {
     return Preparation(options, lines).run();
   } catch (const vexo_xyz_impl::Failure& failure) {
     say("konsola.prep_blad_odczytu", {failure.kind(), failure.what()});
+    vexo_xyz_impl::notify_failure(failure);
     return refused(kFailure);
   }
 }

@@ -1,9 +1,17 @@
 #include "console/prepare_arguments.h"
 
+#include <algorithm>
+#include <array>
 #include <string>
+#include <string_view>
+#include <vector>
+
+#include "siblings/vexo_rynek/rynek.h"
 
 namespace console {
 namespace {
+
+constexpr std::array<std::string_view, 3> kMarkets = {"PL", "DE", "RO"};
 
 constexpr const char* kFooter =
     "ROLES by position, one for each column from the left: nr (number), e (easting), n (northing), x, y (coordinates\n"
@@ -20,10 +28,16 @@ constexpr const char* kFooter =
 
 }  // namespace
 
+void check_market(const Choice& choice) {
+  const std::string market = vexo_rynek::Market(choice.market).rynek();
+  if (std::find(kMarkets.begin(), kMarkets.end(), market) == kMarkets.end())
+    throw CLI::ValidationError("VEXO_RYNEK", market + " is no market; known are PL, DE, RO");
+}
+
 void declare_choice(CLI::App& app, Choice& choice) {
   app.add_option("--market", choice.market, "Country whose coordinate systems are tried. Default: $VEXO_RYNEK, else PL")
       ->type_name("PL|DE|RO")
-      ->transform(CLI::IsMember({"PL", "DE", "RO"}, CLI::ignore_case));
+      ->transform(CLI::IsMember(std::vector<std::string>(kMarkets.begin(), kMarkets.end()), CLI::ignore_case));
   app.add_option("--lang", choice.language, "Language of the messages. Default: the market's")
       ->type_name("PL|DE|RO|EN")
       ->transform(CLI::IsMember({"PL", "DE", "RO", "EN"}, CLI::ignore_case));
@@ -36,10 +50,11 @@ CLI::App* declare_prepare(CLI::App& app, PrepareArguments& arguments) {
   prepare->footer(kFooter);
   PrepareOptions& options = arguments.options;
   prepare->add_option("FILE", options.file, "Table of points: text of any separator, or .xlsx")->required();
-  prepare
-      ->add_option("-o,--output", options.output,
-                   "File to write. Default: beside FILE, with _prepared.csv, or the next free one (_2, _3 ...)")
-      ->type_name("OUT.csv");
+  CLI::Option* const output =
+      prepare
+          ->add_option("-o,--output", options.output,
+                       "File to write. Default: beside FILE, with _prepared.csv, or the next free one (_2, _3 ...)")
+          ->type_name("OUT.csv");
   prepare->add_option("--columns", options.columns, "What the columns hold; see below")->type_name("ROLES");
   prepare->add_option("--sheet", options.sheet, "Sheet of a workbook. Default: the one that is seen first")
       ->type_name("NAME");
@@ -52,7 +67,8 @@ CLI::App* declare_prepare(CLI::App& app, PrepareArguments& arguments) {
           "What becomes of a row without a height where others have one: 'skip', the default, or 'zero'")
       ->type_name("WHAT")
       ->check(CLI::IsMember({"skip", "zero"}));
-  prepare->add_flag("--force", options.force, "Replace the file given by -o, and its log, if they exist");
+  prepare->add_flag("--force", options.force, "Replace the file given by -o, and its log, if they exist")
+      ->needs(output);
   declare_choice(*prepare, arguments.choice);
   return prepare;
 }

@@ -18,4 +18,7 @@ CLI::App* declare_prepare(CLI::App& app, PrepareArguments& arguments);
 /// Declares what the program and its subcommand have in common.
 void declare_choice(CLI::App& app, Choice& choice);
 
+/// Fails with CLI::ValidationError where the environment names a market that is none.
+void check_market(const Choice& choice);
+
 }  // namespace console

@@ -1,9 +1,11 @@
 #include "console/session.h"
 
 #include <cerrno>
+#include <string_view>
 #include <system_error>
 #include <utility>
 
+#include "console/dialogue/shown_text.h"
 #include "console/drawing/heights.h"
 #include "console/dxf/dxf_writer.h"
 #include "console/failure_text.h"
@@ -11,11 +13,13 @@
 #include "console/prepare.h"
 #include "console/prepare_log.h"
 #include "console/preview/svg.h"
+#include "console/repeat.h"
 #include "console/report/reasons.h"
 #include "console/report/report_file.h"
 #include "console/texts/say.h"
 #include "vexo_xyz_impl/command/module.h"
 #include "vexo_xyz_impl/command/questions.h"
+#include "vexo_xyz_impl/failure.h"
 #include "vexo_xyz_impl/messages.h"
 #include "vexo_xyz_impl/notices.h"
 
@@ -40,13 +44,20 @@ std::vector<Findings::RowNotTakenOver> rows_not_taken_over(const intake::Prepare
 
 Session::Session(SessionOptions options, LineSource& lines, std::ostream& out)
     : options_(std::move(options)),
+      targets_{options_.output, options_.force, options_.report, options_.preview},
       lines_(lines),
       database_(options_.wishes.group_selectable),
       dialogue_(lines, out, database_.drawing().variables, options_.file, options_.answers),
       siblings_(family(database_, options_.choice)),
+      watcher_(options_.unattended),
       entered_({{dialogue_, database_, siblings_, nullptr, this, &watcher_}, vexo_xyz_impl::bind_siblings(siblings_)}) {
   vexo_xyz_impl::register_command(*this);
   if (options_.preview) watcher_.take_pictures();
+  if (options_.quiet) dialogue_.hold();
+  dialogue_.check_typed_path([this](const std::string& path) {
+    is_refused_ = report_is_refused() || preview_is_refused() || drawing_is_refused(vexo_xyz_impl::clean_path(path));
+    return !is_refused_;
+  });
 }
 
 void Session::command(std::string_view local_name, std::string_view /*global_name*/, std::string_view /*group_name*/,
@@ -64,72 +75,46 @@ bool Session::is_file_of_points(const std::filesystem::path& path) const {
          is_same(dialogue_.path());
 }
 
-// Whether the drawing may not have the name asked for, the user told: an existing file is replaced only when that is
-// asked for, and the file of points never.
-bool Session::output_is_refused() {
-  if (!options_.output) return false;
-  std::error_code ignored;
-  if (is_file_of_points(*options_.output)) {
-    say("konsola.plik_zrodlowy", {options_.output->string()});
-    return true;
-  }
-  const auto status = std::filesystem::status(*options_.output, ignored);
-  if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status)) {
-    say("konsola.blad_zapisu", {options_.output->string(), vexo_xyz_impl::T("konsola.powod_nie_plik")});
-    return true;
-  }
-  if (!options_.force && std::filesystem::exists(status)) {
-    say("konsola.plik_istnieje", {options_.output->string()});
-    return true;
-  }
-  return false;
+bool Session::failed(const std::optional<std::string>& text) {
+  if (!text) return false;
+  dialogue_.gcutPrintf(*text);
+  vexo_xyz_impl::notify_failure(vexo_xyz_impl::OSError(shown_text(*text)));
+  return true;
 }
 
-// The module takes such a market for the Polish one without a word.
-void Session::warn_of_unknown_market() {
-  using vexo_xyz_impl::host::load_sibling;
-  const std::string market = load_sibling<vexo_xyz_impl::host::Market>(siblings_, "vexo_rynek")->rynek();
-  if (!siblings_.has("vexo_xyz_dane_" + market)) say("konsola.nieznany_rynek", {market});
+bool Session::report_is_refused() { return failed(report_refused(targets_, is_points())); }
+
+bool Session::preview_is_refused() { return failed(preview_refused(targets_, is_points())); }
+
+bool Session::drawing_is_refused(const std::filesystem::path& points) {
+  return failed(drawing_refused(targets_, points, is_points()));
 }
 
-// The reason why what is written beside the drawing may not have that name, none when it may: what was written there
-// before is replaced, the files of points and of the drawing never.
-std::string_view Session::reason_against(const std::filesystem::path& path,
-                                         bool (*may_be_replaced)(const std::filesystem::path& path)) const {
-  std::error_code ignored;
-  const auto is_name_of = [&path](const std::optional<std::filesystem::path>& other) {
-    return other && path.lexically_normal() == other->lexically_normal();
-  };
-  const auto status = std::filesystem::status(path, ignored);
-  if (is_file_of_points(path)) return "konsola.powod_plik_punktow";
-  if (is_name_of(options_.output)) return "konsola.powod_rysunek";
-  if (!std::filesystem::exists(status)) return {};
-  if (!std::filesystem::is_regular_file(status)) return "konsola.powod_nie_plik";
-  return may_be_replaced(path) ? "" : "konsola.powod_nie_raport";
-}
-
-bool Session::report_is_refused() {
-  if (!options_.report) return false;
-  const std::string_view reason = reason_against(*options_.report, is_report);
-  if (!reason.empty()) say("konsola.raport_blad", {options_.report->string(), vexo_xyz_impl::T(reason)});
-  return !reason.empty();
-}
-
-bool Session::preview_is_refused() {
-  if (!options_.preview) return false;
-  std::string_view reason = reason_against(*options_.preview, is_picture);
-  if (options_.report && options_.report->lexically_normal() == options_.preview->lexically_normal())
-    reason = "konsola.powod_raport";
-  if (!reason.empty()) say("konsola.podglad_blad", {options_.preview->string(), vexo_xyz_impl::T(reason)});
-  return !reason.empty();
+IsFileOfPoints Session::is_points() const {
+  return [this](const std::filesystem::path& path) { return is_file_of_points(path); };
 }
 
 ExitCode Session::run() {
-  warn_of_unknown_market();
   if (report_is_refused() || preview_is_refused()) return kFailure;  // before any question
-  const ExitCode code = output_is_refused() ? kFailure : import_and_save();
+  const std::filesystem::path given = vexo_xyz_impl::clean_path(options_.file.value_or(std::string()));
+  const ExitCode code = drawing_is_refused(given) ? kFailure : import_and_save();
   if (code == kFailure) watcher_.drawing_failed();
-  return save_report(save_preview(code));
+  const ExitCode all_told = save_report(save_preview(code));
+  if (options_.quiet) end_quietly(all_told);
+  return all_told;
+}
+
+// Of an import that went well only the doubts are told.
+void Session::end_quietly(ExitCode code) {
+  if (code != kImported && !watcher_.is_set_aside()) {
+    dialogue_.say_held();
+    return;
+  }
+  dialogue_.drop_held();  // of a file set aside, what was told after the question left open
+  const bool is_plain = watcher_.findings().doubts.empty() && database_.refused_count() == 0;
+  if (is_plain && code == kImported) return;
+  print_findings(watcher_.findings());
+  dialogue_.say_held();
 }
 
 CommandOutcome Session::import_once() {
@@ -165,6 +150,7 @@ std::filesystem::path Session::source() const {
 
 ExitCode Session::import_and_save() {
   CommandOutcome outcome = import_once();
+  if (is_refused_) return kFailure;
   if (prepares_instead()) outcome = import_once();
   for (const std::string_view option : dialogue_.unused_options()) say("konsola.opcja_zbedna", {std::string(option)});
   if (outcome == CommandOutcome::failed) {
@@ -174,7 +160,7 @@ ExitCode Session::import_and_save() {
   if (database_.refused_count() > 0) {
     vexo_xyz_impl::print("konsola.odrzucone", {static_cast<long long>(database_.refused_count())});
   }
-  if (database_.drawing().entity_count() == 0) return kNothingImported;
+  if (database_.drawing().entity_count() == 0 || watcher_.is_set_aside()) return kNothingImported;
   if (options_.wishes.height_decimals && watcher_.findings().layout.ends_with('Z')) {
     add_heights(database_.drawing(), *options_.wishes.height_decimals);
   }
@@ -182,49 +168,62 @@ ExitCode Session::import_and_save() {
 }
 
 ExitCode Session::save() {
-  if (output_is_refused()) return kFailure;  // a path that was typed is known only now
+  if (drawing_is_refused(source())) return kFailure;  // also of what was prepared meanwhile
   const std::string wanted = options_.output ? options_.output->string() : drawing_name(source(), 1).string();
   try {
-    say("konsola.zapisano", {write_drawing().string()});
+    const std::string drawing = write_drawing().string();
+    say("konsola.zapisano", {drawing});
+    tell_repeating_command(drawing);
     return kImported;
   } catch (const std::system_error& failure) {
-    say("konsola.blad_zapisu", {wanted, failure_text(failure)});
+    const std::string reason = failure_text(failure);
+    failed(vexo_xyz_impl::filled("konsola.blad_zapisu", {std::string_view(wanted), std::string_view(reason)}));
     return kFailure;
   }
 }
 
+void Session::tell_repeating_command(const std::string& drawing) {
+  const std::string repeat = repeating_command(dialogue_.path(), options_.words, watcher_.findings().answers);
+  watcher_.saved(drawing, repeat);
+  say("konsola.prep_powtorz", {repeat});
+}
+
 ExitCode Session::save_preview(ExitCode so_far) {
   if (!options_.preview || so_far != kImported) return so_far;
-  if (preview_is_refused()) return kFailure;  // a path that was typed is known only now
+  if (preview_is_refused()) return kFailure;  // also of what was prepared meanwhile
+  const std::string path = options_.preview->string();
   Picture& picture = watcher_.picture();
   picture.file = source().filename().string();
   if (!database_.drawing().groups().empty()) picture.group = database_.drawing().groups().front().name;
   try {
     write_picture(picture, *options_.preview);
-    say("konsola.podglad_zapisano", {options_.preview->string()});
+    say("konsola.podglad_zapisano", {path});
     return so_far;
   } catch (const std::system_error& failure) {
-    say("konsola.podglad_blad", {options_.preview->string(), failure_text(failure)});
+    const std::string reason = failure_text(failure);
+    failed(vexo_xyz_impl::filled("konsola.podglad_blad", {std::string_view(path), std::string_view(reason)}));
     return kFailure;
   }
 }
 
 ExitCode Session::save_report(ExitCode so_far) {
   if (!options_.report) return so_far;
-  if (report_is_refused()) return kFailure;  // a path that was typed is known only now
+  if (report_is_refused()) return kFailure;  // also of what was prepared meanwhile
   try {
     write_report(watcher_.findings(), *options_.report);
     say("konsola.raport_zapisano", {options_.report->string()});
     return so_far;
   } catch (const std::system_error& failure) {
-    say("konsola.raport_blad", {options_.report->string(), failure_text(failure)});
+    const std::string path = options_.report->string();
+    const std::string reason = failure_text(failure);
+    failed(vexo_xyz_impl::filled("konsola.raport_blad", {std::string_view(path), std::string_view(reason)}));
     return kFailure;
   }
 }
 
 std::filesystem::path Session::write_drawing() {
   const std::filesystem::path points = source();
-  AtomicFile file(options_.output ? options_.output->parent_path() : points.parent_path());
+  AtomicFile file((options_.output ? final_target(*options_.output) : points).parent_path());
   const std::string market =
       vexo_xyz_impl::host::load_sibling<vexo_xyz_impl::host::Market>(siblings_, "vexo_rynek")->rynek();
   write_dxf(database_.drawing(), options_.wishes, code_page_of(market), file);

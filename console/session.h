@@ -14,6 +14,7 @@
 #include "console/exit_code.h"
 #include "console/report/import_watcher.h"
 #include "console/sibling_registry.h"
+#include "console/targets.h"
 #include "vexo_xyz_impl/bindings.h"
 
 namespace console {
@@ -30,8 +31,11 @@ struct SessionOptions {
   std::optional<std::filesystem::path> into;           ///< the drawing that the points are added to
   std::optional<std::filesystem::path> preview;        ///< where a picture of the points is drawn
   DrawingWishes wishes;
-  bool prepare = false;      ///< a file that the importer does not read is made into one that it reads
-  bool interactive = false;  ///< somebody is there to be offered that
+  std::vector<std::string> words;  ///< the options as a command line has them, for the command that repeats the import
+  bool unattended = false;         ///< a file that leaves a question open is set aside
+  bool quiet = false;              ///< only questions, doubts and failures are told
+  bool prepare = false;            ///< a file that the importer does not read is made into one that it reads
+  bool interactive = false;        ///< somebody is there to be offered that
 };
 
 class Session final : private vexo_xyz_impl::host::CommandTable, private vexo_xyz_impl::host::Foreknowledge {
@@ -40,6 +44,9 @@ class Session final : private vexo_xyz_impl::host::CommandTable, private vexo_xy
 
   /// Runs the command and saves the drawing when something was imported. The user has been told everything.
   ExitCode run();
+
+  /// What came of it.
+  [[nodiscard]] const Findings& findings() const { return watcher_.findings(); }
 
  private:
   void command(std::string_view local_name, std::string_view global_name, std::string_view group_name,
@@ -50,28 +57,32 @@ class Session final : private vexo_xyz_impl::host::CommandTable, private vexo_xy
   }
   std::optional<double> label_height() override { return options_.wishes.text_height; }
   [[nodiscard]] bool is_file_of_points(const std::filesystem::path& path) const;
-  [[nodiscard]] bool output_is_refused();
-  [[nodiscard]] std::string_view reason_against(const std::filesystem::path& path,
-                                                bool (*may_be_replaced)(const std::filesystem::path& path)) const;
+  [[nodiscard]] IsFileOfPoints is_points() const;
+  // Whether there is a text of a failure: then the user is told and the log has it.
+  bool failed(const std::optional<std::string>& text);
   [[nodiscard]] bool report_is_refused();
   [[nodiscard]] bool preview_is_refused();
-  void warn_of_unknown_market();
+  [[nodiscard]] bool drawing_is_refused(const std::filesystem::path& points);
   ExitCode import_and_save();
   vexo_xyz_impl::host::CommandOutcome import_once();
   [[nodiscard]] bool prepares_instead();
   [[nodiscard]] std::filesystem::path source() const;
   ExitCode save();
+  void tell_repeating_command(const std::string& drawing);
+  void end_quietly(ExitCode code);
   ExitCode save_preview(ExitCode so_far);
   ExitCode save_report(ExitCode so_far);
   std::filesystem::path write_drawing();
 
   SessionOptions options_;
+  Targets targets_;
   LineSource& lines_;
   std::optional<std::filesystem::path> prepared_from_;  // the file that the user chose
   Database database_;
   Dialogue dialogue_;
   SiblingRegistry siblings_;
   ImportWatcher watcher_;
+  bool is_refused_ = false;  // what comes of the path that was typed cannot be written
   vexo_xyz_impl::host::CommandFunction import_;
   vexo_xyz_impl::Entered entered_;  // for as long as the session lasts
 };

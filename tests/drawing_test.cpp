@@ -3,9 +3,6 @@
 #include <charconv>
 #include <cmath>
 #include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <limits>
 #include <memory>
 #include <random>
@@ -17,7 +14,6 @@
 #include "console/drawing/database.h"
 #include "console/dxf/dxf_writer.h"
 #include "console/dxf/tag_writer.h"
-#include "console/files.h"
 
 namespace console {
 namespace {
@@ -149,24 +145,6 @@ TEST(Drawing, HoldsMoreThanABlockOfEachKind) {
   EXPECT_NE(sink.text.find(point + handle_text(members[0]) + "\n" + one + "102\n}\n"), std::string::npos);
   EXPECT_NE(sink.text.find(point + handle_text(members[2]) + "\n" + one + other + "102\n}\n"), std::string::npos);
   EXPECT_NE(sink.text.find(point + handle_text(members[4]) + "\n330\n"), std::string::npos);
-}
-
-TEST(AtomicFile, IsAsLongAsWhatWasWritten) {
-  const std::filesystem::path folder = std::filesystem::path(testing::TempDir()) / "vexo-atomic";
-  std::filesystem::create_directories(folder);
-  for (const std::size_t pieces : {std::size_t{1}, std::size_t{34}, std::size_t{70}}) {
-    AtomicFile file(folder);
-    const std::string piece(std::size_t{1} << 20U, static_cast<char>('0' + pieces % 10));
-    for (std::size_t i = 0; i < pieces; ++i) file.write(piece);
-    file.write("end");
-    file.flush();
-    ASSERT_TRUE(file.commit(folder / "drawing.dxf", true));
-    std::ifstream written(folder / "drawing.dxf", std::ios::binary);
-    std::string read(piece.size(), ' ');
-    for (std::size_t i = 0; i < pieces; ++i) ASSERT_TRUE(written.read(read.data(), std::ssize(read)) && read == piece);
-    EXPECT_EQ(std::string(std::istreambuf_iterator<char>(written), {}), "end");
-  }
-  std::filesystem::remove_all(folder);
 }
 
 TEST(Dxf, WritesTextsLongerThanItsBuffer) {

@@ -60,9 +60,11 @@ PromptStatus Dialogue::gcedGetFileD(std::string_view /*title*/, std::string_view
 }
 
 std::pair<PromptStatus, std::string> Dialogue::gcedGetString(int /*spaces_allowed*/, std::string_view prompt) {
+  say_held();
   auto typed = lines_.read_line(prompt, Completion::file_names);
   if (!typed) return {RTCAN, {}};
   path_ = *typed;
+  if (accepts_ && !path_.empty() && !accepts_(path_)) return {RTCAN, {}};
   return {RTNORM, std::move(*typed)};
 }
 
@@ -81,6 +83,7 @@ std::pair<PromptStatus, std::string> Dialogue::gcedGetKword(std::string_view pro
 
 std::pair<PromptStatus, std::string> Dialogue::typed_keyword(std::string_view prompt) {
   while (true) {
+    say_held();
     const auto typed = lines_.read_line(without_control_characters(prompt), Completion::none);
     if (!typed) return {RTCAN, {}};
     const std::string answer(text::trim(*typed));
@@ -117,7 +120,18 @@ void Dialogue::explain(const std::string& answer, std::size_t matches) {
                                    {std::string_view(answer), std::string_view(words)}));
 }
 
-void Dialogue::gcutPrintf(std::string_view text) { out_ << shown_text(text) << std::flush; }
+void Dialogue::gcutPrintf(std::string_view text) {
+  if (holds_) {
+    held_ += shown_text(text);
+  } else {
+    out_ << shown_text(text) << std::flush;
+  }
+}
+
+void Dialogue::say_held() {
+  out_ << held_ << std::flush;
+  held_.clear();
+}
 
 PromptStatus Dialogue::gcedSetVar(std::string_view name, const resbuf& value) {
   if (name == "PDMODE" && value.restype == RTSHORT) {

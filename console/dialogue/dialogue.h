@@ -5,6 +5,7 @@
 // where their question is asked; nothing is ever answered by a guess.
 #pragma once
 
+#include <functional>
 #include <iosfwd>
 #include <optional>
 #include <string>
@@ -42,6 +43,15 @@ class Dialogue final : public vexo_xyz_impl::host::CommandLine {
   vexo_xyz_impl::host::PromptStatus gcedSetVar(std::string_view name,
                                                const vexo_xyz_impl::host::resbuf& value) override;
 
+  /// From now on nothing is printed but questions, and before each what led to it.
+  void hold() { holds_ = true; }
+  /// Prints what was held back, or forgets it.
+  void say_held();
+  void drop_held() { held_.clear(); }
+
+  /// Asks `accepts` about a path that was typed, before the command goes on with it; it says why not.
+  void check_typed_path(std::function<bool(const std::string&)> accepts) { accepts_ = std::move(accepts); }
+
   /// The file to be imported next, in the place of the one given or typed.
   void choose_file(std::string path) { file_ = std::move(path); }
 
@@ -65,7 +75,10 @@ class Dialogue final : public vexo_xyz_impl::host::CommandLine {
   std::optional<std::string> file_;
   std::vector<PreparedAnswer> answers_;
   std::string path_;
+  std::function<bool(const std::string&)> accepts_;
   std::vector<std::string> keywords_;
+  bool holds_ = false;
+  std::string held_;
 };
 
 }  // namespace console

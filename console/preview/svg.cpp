@@ -148,7 +148,7 @@ std::string svg_of(const Picture& picture) {
 
 void write_picture(const Picture& picture, const std::filesystem::path& path) {
   const std::string svg = svg_of(picture);
-  AtomicFile file(path.parent_path());
+  AtomicFile file(final_target(path).parent_path());
   file.write(svg);
   file.flush();
   if (!file.commit(path, true)) throw std::system_error(EEXIST, std::generic_category());

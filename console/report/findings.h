@@ -43,8 +43,11 @@ struct Findings {
   };
   std::vector<System> systems;
   Axes axes = Axes::keep;
+  std::vector<std::string> answers;  ///< to the questions that arose, as words of a command line
   std::vector<Doubt> doubts;
   Reason reason;
+  std::string drawing;  ///< path of the drawing that was saved
+  std::string repeat;   ///< the command that repeats the import without a question
 };
 
 }  // namespace console

@@ -9,9 +9,12 @@
 #include <utility>
 
 #include "console/account/account_lines.h"
+#include "console/dialogue/shown_text.h"
 #include "console/report/reasons.h"
 #include "vexo_xyz_impl/crs/systems.h"
+#include "vexo_xyz_impl/failure.h"
 #include "vexo_xyz_impl/messages.h"
+#include "vexo_xyz_impl/notices.h"
 
 namespace console {
 namespace {
@@ -51,6 +54,12 @@ void note_file(Findings& findings, const ImportSeen& seen) {
   findings.separators = separators_of(seen.loaded.rows->rows());
 }
 
+// Whether a question was left open that the columns or the axes were to be settled by.
+bool has_open_question(const ImportSeen& seen) {
+  const bool left_columns_open = !seen.verdict.fmt && !seen.verdict.dane.empty() && !seen.failure;
+  return left_columns_open || seen.axes.how == AxesBy::unconfirmed;
+}
+
 Outcome outcome_of(const ImportSeen& seen) {
   if (seen.outcome == CommandOutcome::failed) return Outcome::failed;
   const bool has_points = seen.read.punkty.size() > seen.refused.size();
@@ -66,6 +75,16 @@ std::vector<std::size_t> all_points(const ImportSeen& seen) {
   std::vector<std::size_t> points(seen.read.punkty.size());
   std::iota(points.begin(), points.end(), std::size_t{0});
   return points;
+}
+
+// What would have answered the questions that arose.
+std::vector<std::string> answers_to(const ImportSeen& seen) {
+  std::vector<std::string> answers;
+  if (seen.verdict.fmt && seen.verdict.opis == vexo_xyz_impl::T("xyz.opis_wybor_uzytkownika"))
+    answers = {"--first-column", has_number(*seen.verdict.fmt) ? "number" : "coordinate"};
+  if (seen.axes.how == AxesBy::answered || seen.axes.how == AxesBy::unconfirmed)
+    answers.insert(answers.end(), {"--axes", seen.axes.swap ? "swap" : "keep"});
+  return answers;
 }
 
 void append(std::vector<Doubt>& doubts, std::vector<Doubt> more) {
@@ -111,8 +130,9 @@ void ImportWatcher::ended(const ImportSeen& seen) {
   findings_.prepared_left_out = not_taken_over_;
   if (auto doubt = doubt_at("rows_left_out", "konsola.watp_przygotowanie", lines_of(not_taken_over_)))
     findings_.doubts.push_back(std::move(*doubt));
-  findings_.outcome = outcome_of(seen);
-  if (places_ && seen.outcome == CommandOutcome::failed) {
+  is_set_aside_ = sets_open_files_aside_ && has_open_question(seen);
+  findings_.outcome = is_set_aside_ ? Outcome::nothing : outcome_of(seen);
+  if (places_ && (is_set_aside_ || seen.outcome == CommandOutcome::failed)) {
     take_back(findings_.account, seen, *places_, all_points(seen), Why::not_imported);
   } else if (places_) {
     take_back(findings_.account, seen, *places_, seen.refused, Why::refused);
@@ -122,6 +142,7 @@ void ImportWatcher::ended(const ImportSeen& seen) {
   for (const auto& candidate : seen.axes.candidates)
     findings_.systems.push_back({candidate, vexo_xyz_impl::_uklad_nazwa(candidate.srid)});
   findings_.axes = axes_of(seen);
+  findings_.answers = answers_to(seen);
   if (places_ && findings_.outcome == Outcome::imported) {
     Evidence evidence{seen, *places_, header_};
     append(findings_.doubts, doubts_of_import(evidence));
@@ -129,6 +150,10 @@ void ImportWatcher::ended(const ImportSeen& seen) {
   if (seen.loaded.typ == vexo_xyz_impl::FileType::xlsx && seen.loaded.rows)
     append(findings_.doubts, doubts_of_workbook(seen, places_ ? &*places_ : nullptr));
   findings_.reason = reason_of(seen, findings_);
+  if (is_set_aside_ && findings_.reason.code.empty())
+    findings_.reason = reason_named(seen.verdict.fmt ? "axes_open" : "columns_open");
+  if (seen.outcome == CommandOutcome::failed && !seen.failure)  // the module tells the log of its own failures only
+    vexo_xyz_impl::notify_failure(vexo_xyz_impl::OSError(shown_text(seen.path) + ": " + findings_.reason.text));
   if (takes_pictures_ && findings_.outcome == Outcome::imported)
     picture_ = picture_of(seen, *places_, findings_.doubts);
   places_.reset();

@@ -3,6 +3,7 @@
 
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "console/doubts/doubts.h"
@@ -15,6 +16,9 @@ namespace console {
 
 class ImportWatcher final : public vexo_xyz_impl::host::ImportWatch {
  public:
+  /// `sets_open_files_aside`: of a file that leaves a question open nothing counts as imported.
+  explicit ImportWatcher(bool sets_open_files_aside = false) : sets_open_files_aside_(sets_open_files_aside) {}
+
   void rows_taken_apart(const vexo_xyz_impl::ImportSeen& seen) override;
   void ended(const vexo_xyz_impl::ImportSeen& seen) override;
 
@@ -33,10 +37,21 @@ class ImportWatcher final : public vexo_xyz_impl::host::ImportWatch {
   /// The drawing was not saved, or may not be.
   void drawing_failed() { findings_.outcome = Outcome::failed; }
 
+  /// The drawing was saved there; the command repeats the import.
+  void saved(std::string drawing, std::string repeat) {
+    findings_.drawing = std::move(drawing);
+    findings_.repeat = std::move(repeat);
+  }
+
+  /// Whether the import that ended last left a question open, and does not count for that.
+  [[nodiscard]] bool is_set_aside() const { return is_set_aside_; }
+
   /// What came of the import that ended last.
   [[nodiscard]] const Findings& findings() const { return findings_; }
 
  private:
+  bool sets_open_files_aside_;
+  bool is_set_aside_ = false;
   Findings findings_;
   bool takes_pictures_ = false;
   Picture picture_;

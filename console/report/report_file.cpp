@@ -85,29 +85,6 @@ ordered_json reason_as_json(const Reason& reason) {
   return {{"code", reason.code}, {"text", reason.text}};
 }
 
-std::string as_json(const Findings& findings) {
-  const ordered_json file = {
-      {"path", findings.path}, {"encoding", findings.encoding}, {"separators", findings.separators}};
-  std::string text(kJsonBeginning);
-  text += std::string(name_of(findings.outcome)) + "\"";
-  const auto add = [&text](std::string_view name, std::string_view value) {
-    text += ",\n \"";
-    text += name;
-    text += "\": ";
-    text += value;
-  };
-  add("file", json(file));
-  add("account", account_as_json(findings.account));
-  add("layout", json({{"code", findings.layout}, {"evidence", findings.evidence}}));
-  add("system", json(system_as_json(findings)));
-  add("doubts", json(doubts_as_json(findings.doubts)));
-  add("reason", json(reason_as_json(findings.reason)));
-  if (!findings.prepared_from.empty())
-    add("prepared", "{\"from\": " + json(findings.prepared_from) +
-                        ", \"left_out\": " + rows_as_json(findings.prepared_left_out) + "}");
-  return text + "\n}\n";
-}
-
 long long count_of(std::size_t count) { return static_cast<long long>(count); }
 
 template <class AnyRow>
@@ -143,11 +120,42 @@ std::string as_text(const Findings& findings) {
     text += filled("konsola.raport_przygotowano", {std::string_view(findings.prepared_from)});
   add_rows(text, findings.prepared_left_out);
   for (const Doubt& doubt : findings.doubts) text += filled("konsola.watpliwosc", {std::string_view(doubt.text)});
+  if (!findings.drawing.empty()) {
+    text += filled("konsola.zapisano", {std::string_view(findings.drawing)});
+    text += filled("konsola.prep_powtorz", {std::string_view(findings.repeat)});
+  }
   if (!findings.reason.code.empty()) text += filled("konsola.powod", {std::string_view(findings.reason.text)});
   return text;
 }
 
 }  // namespace
+
+std::string report_as_json(const Findings& findings) {
+  const ordered_json file = {
+      {"path", findings.path}, {"encoding", findings.encoding}, {"separators", findings.separators}};
+  std::string text(kJsonBeginning);
+  text += std::string(name_of(findings.outcome)) + "\"";
+  const auto add = [&text](std::string_view name, std::string_view value) {
+    text += ",\n \"";
+    text += name;
+    text += "\": ";
+    text += value;
+  };
+  add("file", json(file));
+  add("account", account_as_json(findings.account));
+  add("layout", json({{"code", findings.layout}, {"evidence", findings.evidence}}));
+  add("system", json(system_as_json(findings)));
+  add("doubts", json(doubts_as_json(findings.doubts)));
+  add("reason", json(reason_as_json(findings.reason)));
+  if (!findings.prepared_from.empty())
+    add("prepared", "{\"from\": " + json(findings.prepared_from) +
+                        ", \"left_out\": " + rows_as_json(findings.prepared_left_out) + "}");
+  if (!findings.drawing.empty()) {
+    add("drawing", json(findings.drawing));
+    add("repeat", json(findings.repeat));
+  }
+  return text + "\n}\n";
+}
 
 bool is_report(const std::filesystem::path& path) {
   std::ifstream file(path, std::ios::binary);
@@ -158,8 +166,8 @@ bool is_report(const std::filesystem::path& path) {
 }
 
 void write_report(const Findings& findings, const std::filesystem::path& path) {
-  const std::string report = path.extension() == ".json" ? as_json(findings) : as_text(findings);
-  AtomicFile file(path.parent_path());
+  const std::string report = path.extension() == ".json" ? report_as_json(findings) : as_text(findings);
+  AtomicFile file(final_target(path).parent_path());
   file.write(report);
   file.flush();
   if (!file.commit(path, true)) throw std::system_error(EEXIST, std::generic_category());

@@ -38,11 +38,6 @@ std::span<const Text> program_texts() {
        "Achtung: von der Zeichnung abgewiesene Objekte: %d (Koordinaten sind unendlich, zu groß oder keine Zahlen).\n",
        "Atenție: obiecte respinse de desen: %d (coordonate infinite, prea mari sau care nu sunt numere).\n",
        "Note: objects refused by the drawing: %d (their coordinates are infinite, too large or no numbers).\n"},
-      {"konsola.nieznany_rynek", "s",  // market code
-       "VEXO_RYNEK: nieznany rynek „%s” (znane: PL, DE, RO); przyjęto PL.\n",
-       "VEXO_RYNEK: unbekannter Markt „%s“ (bekannt: PL, DE, RO); es gilt PL.\n",
-       "VEXO_RYNEK: piață necunoscută „%s” (cunoscute: PL, DE, RO); se folosește PL.\n",
-       "VEXO_RYNEK: unknown market “%s” (known: PL, DE, RO); PL is used.\n"},
       {"konsola.zapisano", "s",  // path
        "Rysunek: %s\n", "Zeichnung: %s\n", "Desen: %s\n", "Drawing: %s\n"},
       {"konsola.nie_zapisano", "", "Rysunku nie zapisano.\n", "Die Zeichnung wurde nicht gespeichert.\n",
@@ -63,6 +58,15 @@ std::span<const Text> program_texts() {
        "Die Datei %s gibt es bereits. Bitte bei -o einen anderen Namen angeben oder mit --force ersetzen.\n",
        "Fișierul %s există deja. Dați alt nume la -o sau adăugați --force pentru a-l înlocui.\n",
        "The file %s exists already. Give another name with -o, or replace it with --force.\n"},
+      {"konsola.rada_nazwa", "", "Podaj przy -o inne miejsce dla rysunku.\n",
+       "Bitte bei -o einen anderen Ort für die Zeichnung angeben.\n", "Dați la -o alt loc pentru desen.\n",
+       "Give another place for the drawing with -o.\n"},
+      {"konsola.urzadzenie", "s",  // path
+       "%s leży w folderze systemu, w którym nie zapisuje się rysunków. Podaj przy -o, gdzie ma powstać rysunek.\n",
+       "%s liegt in einem Systemordner, in dem keine Zeichnung gespeichert wird. Bitte bei -o angeben, wo sie stehen "
+       "soll.\n",
+       "%s se află într-un folder al sistemului, în care nu se salvează desene. Dați la -o locul desenului.\n",
+       "%s is in a folder of the system, where no drawing is saved. Say with -o where the drawing is to stand.\n"},
 
       // What was being done to a file, and why it failed
       {"konsola.krok_utworzenie", "s",  // reason

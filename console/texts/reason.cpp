@@ -153,6 +153,24 @@ std::span<const Text> reason_texts() {
        "obișnuit. Verificați calea sau obțineți din nou fișierul.",
        "the file cannot be read: it does not exist, is damaged, may not be read or is no ordinary file. Check the "
        "path, or get the file again."},
+
+      // Files set aside, where many are imported with nobody to ask
+      {"konsola.powod_columns_open", "",
+       "trzeba wiedzieć, czy pierwsza kolumna to numer: podaj --first-column number albo coordinate, albo wczytaj ten "
+       "plik osobno.",
+       "Es muss bekannt sein, ob die erste Spalte die Nummer ist: --first-column number oder coordinate angeben oder "
+       "diese Datei allein einlesen.",
+       "trebuie știut dacă prima coloană este numărul: dați --first-column number sau coordinate ori importați "
+       "fișierul "
+       "separat.",
+       "whether the first column is the number has to be known: give --first-column number or coordinate, or import "
+       "this "
+       "file by itself."},
+      {"konsola.powod_axes_open", "",
+       "współrzędne pasują do kilku odczytań osi: podaj --axes albo wczytaj ten plik osobno.",
+       "Die Koordinaten passen zu mehreren Achslesarten: --axes angeben oder diese Datei allein einlesen.",
+       "coordonatele se potrivesc cu mai multe citiri ale axelor: dați --axes sau importați fișierul separat.",
+       "the coordinates fit more than one reading of the axes: give --axes, or import this file by itself."},
   });
   return kTexts;
 }

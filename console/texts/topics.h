@@ -19,6 +19,7 @@ struct Text {
 
 [[nodiscard]] std::span<const Text> program_texts();
 [[nodiscard]] std::span<const Text> account_texts();
+[[nodiscard]] std::span<const Text> batch_texts();
 [[nodiscard]] std::span<const Text> doubt_texts();
 [[nodiscard]] std::span<const Text> reason_texts();
 [[nodiscard]] std::span<const Text> prepare_texts();

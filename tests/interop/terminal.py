@@ -165,7 +165,7 @@ class Program(unittest.TestCase):
                 self.assertEqual((got, self.tree()), (code, before), out + err)
                 self.check_texts(texts, out)
                 log = self.log.read_text("utf-8") if self.log.exists() else ""
-                self.assertEqual(log.count("\n"), out.count(FAILED), log)
+                self.assertEqual(log.count("\n"), int(code == 3), log)
 
     def test_refused_points(self):
         for content, point, refused in [
@@ -192,15 +192,20 @@ class Program(unittest.TestCase):
 
     def test_given_name(self):
         self.start("dane.csv", POINTS)
-        target, force = self.folder / "rysunek.dxf", []
-        for mask in (0o022, 0o077, 0o000):  # the first makes it, the others replace it
-            code, out, _ = self.call("dane.csv", "-o", target, *force, umask=mask)
+        target = self.folder / "rysunek.dxf"
+        for mask in (0o022, 0o077, 0o000):
+            code, out, _ = self.call("dane.csv", "-o", target.with_suffix(""), umask=mask)
             self.check_drawing(code, out, FIRST, drawing=target.name)
             self.assertEqual(target.stat().st_mode & 0o7777, 0o666 & ~mask)
-            before, force = self.tree(), ["--force"]
+            before = self.tree()
             code, out, _ = self.call("dane.csv", "-o", target)
             self.assertEqual((code, self.tree()), (3, before))
             self.check_texts([str(target), "--force"], out)
+            target.chmod(0o640)
+            code, out, _ = self.call("dane.csv", "-o", target, "--force", umask=mask)
+            self.check_drawing(code, out, FIRST, drawing=target.name)
+            self.assertEqual(target.stat().st_mode & 0o7777, 0o640)
+            target.unlink()
 
     def test_the_points_are_never_replaced(self):
         self.start("dane.csv", POINTS)
@@ -228,13 +233,15 @@ class Program(unittest.TestCase):
             ("disk full, drawing to be replaced", "rysunek.dxf", b"mine", forced, 2000, "dozwoloną wielkość"),
         ]:
             with self.subTest(case):
-                self.start("dane.csv", POINTS)
+                self.start("dane.csv", AXES if limit == unlimited else POINTS)
                 self.put(name, content)
                 before = self.tree()
                 code, out, err = self.call("dane.csv", *arguments, preexec_fn=lambda: resource.setrlimit(
                     resource.RLIMIT_FSIZE, (limit, limit)))  # a write fails with it as it does on a full disk
                 self.assertEqual((code, self.tree()), (3, before), out + err)
                 self.check_texts(["Nie można zapisać rysunku " + (arguments or ["dane.dxf"])[-1], reason + "."], out)
+                self.assertNotIn(QUESTIONS[AXES], out)
+                self.assertIn(reason if limit else "", self.log.read_text("utf-8"))  # without room there is no log
 
     def test_interrupted_writing(self):
         rows = b"".join(b"%d;%d.25;%d.5;%d\n" % (i, 6542052 + i % 500, 6024823 + i // 500, i) for i in range(300_000))
@@ -300,7 +307,8 @@ class Program(unittest.TestCase):
         for arguments, code, text in [
             (["--nie-ma"], 2, "--nie-ma"), (["drugi.csv"], 2, "drugi.csv"), (["-o"], 2, "--output"),
             (["--axes", "sideways"], 2, "sideways"), (["--first-column", ""], 2, "--first-column"),
-            (["--market", "FR"], 2, "FR"), (["-o", "a", "-o", "b"], 2, "--output"), (["--version"], 0, "vexo-xyz"),
+            (["--market", "FR"], 2, "FR"), (["-o", "a", "-o", "b"], 2, "--output"), (["-o", ""], 2, "--output"),
+            (["-o", "-"], 2, "standard output"), (["--force"], 2, "--output"), (["--version"], 0, "vexo-xyz"),
             (["--help"], 0, "Exit codes:\n  0 "), (["-h"], 0, "\n  1 "), (["-h"], 0, "\n  2 "), (["-h"], 0, "\n  3 "),
         ]:
             with self.subTest(arguments):

@@ -1,0 +1,24 @@
+// Several files imported in one run, each by a process of its own: what ends one does not end the others.
+#pragma once
+
+#include <iosfwd>
+#include <string>
+#include <vector>
+
+#include "console/session.h"
+
+namespace console {
+
+struct BatchOptions {
+  std::vector<std::string> files;
+  unsigned jobs = 1;    ///< processes at a time
+  SessionOptions each;  ///< for every file
+};
+
+/// Imports the files, each into a drawing of its own. Nobody is asked: a file that leaves a question open is set aside.
+/// What there is to say of each is told on `out` in the files' order, and a table at the end; `reports` gets their
+/// reports as a list in JSON. The worst of the files' exit codes. Fails with std::system_error when the system gives no
+/// processes.
+[[nodiscard]] ExitCode run_batch(const BatchOptions& options, std::ostream& out, std::ostream& reports);
+
+}  // namespace console

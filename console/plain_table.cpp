@@ -1,0 +1,34 @@
+#include "console/plain_table.h"
+
+#include <algorithm>
+#include <cstddef>
+
+namespace console {
+namespace {
+
+std::size_t width_of(const std::string& cell) {
+  return static_cast<std::size_t>(
+      std::count_if(cell.begin(), cell.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }));
+}
+
+}  // namespace
+
+std::string plain_table(const std::vector<Align>& columns, const std::vector<std::vector<std::string>>& rows) {
+  std::vector<std::size_t> widths(columns.size());
+  for (const auto& row : rows)
+    for (std::size_t i = 0; i < row.size(); ++i) widths[i] = std::max(widths[i], width_of(row[i]));
+  std::string text;
+  for (const auto& row : rows) {
+    std::string line;
+    for (std::size_t i = 0; i < row.size(); ++i) {
+      const std::string gap(widths[i] - width_of(row[i]), ' ');
+      line += i == 0 ? "" : "  ";
+      line += columns[i] == Align::left ? row[i] + gap : gap + row[i];
+    }
+    line.erase(line.find_last_not_of(' ') + 1);
+    text += line + "\n";
+  }
+  return text;
+}
+
+}  // namespace console

@@ -1,0 +1,15 @@
+// Tables of plain text, their columns aligned by characters.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace console {
+
+enum class Align { left, right };
+
+/// A line for each row, columns two blanks apart; no blanks at a line's end. Rows may be shorter than `columns`.
+[[nodiscard]] std::string plain_table(const std::vector<Align>& columns,
+                                      const std::vector<std::vector<std::string>>& rows);
+
+}  // namespace console
