@@ -218,6 +218,7 @@ void check(const CLI::App& app, const Arguments& arguments) {
     throw CLI::ValidationError("--output", "a drawing is a file; it is not written to standard output");
   if (arguments.force && app.count("-o") == 0) throw CLI::RequiresError("--force", "--output");
   if (arguments.files.size() < 2) return;
+  if (app.count("--into") > 0) throw CLI::ValidationError("--into", "takes one FILE");
   for (const char* const option : {"--output", "--report", "--preview"})
     if (app.count(option) > 0) throw CLI::ValidationError(option, "is for one FILE; --json tells of several");
 }

@@ -87,7 +87,20 @@ bool Session::report_is_refused() { return failed(report_refused(targets_, is_po
 bool Session::preview_is_refused() { return failed(preview_refused(targets_, is_points())); }
 
 bool Session::drawing_is_refused(const std::filesystem::path& points) {
-  return failed(drawing_refused(targets_, points, is_points()));
+  return failed(options_.into ? existing_refused() : drawing_refused(targets_, points, is_points()));
+}
+
+// Opens the drawing that points are to be added to, which the import then begins with.
+std::optional<std::string> Session::existing_refused() {
+  const std::string path = options_.into->string();
+  if (is_file_of_points(path)) return vexo_xyz_impl::filled("konsola.rys_plik_punktow", {std::string_view(path)});
+  if (existing_) return std::nullopt;
+  OpenedDrawing opened = open_existing(path);
+  if (const auto* const why_not = std::get_if<std::string>(&opened)) return *why_not;
+  existing_ = std::move(std::get<std::unique_ptr<ExistingDrawing>>(opened));
+  database_.drawing() = Drawing(existing_->ground());
+  watcher_.beside(existing_->places());
+  return std::nullopt;
 }
 
 IsFileOfPoints Session::is_points() const {
@@ -169,6 +182,7 @@ ExitCode Session::import_and_save() {
 
 ExitCode Session::save() {
   if (drawing_is_refused(source())) return kFailure;  // also of what was prepared meanwhile
+  if (existing_) return save_into_existing();
   const std::string wanted = options_.output ? options_.output->string() : drawing_name(source(), 1).string();
   try {
     const std::string drawing = write_drawing().string();
@@ -180,6 +194,14 @@ ExitCode Session::save() {
     failed(vexo_xyz_impl::filled("konsola.blad_zapisu", {std::string_view(wanted), std::string_view(reason)}));
     return kFailure;
   }
+}
+
+ExitCode Session::save_into_existing() {
+  if (failed(save_existing(*existing_, database_.drawing(), options_.wishes.layers))) return kFailure;
+  const std::string drawing = existing_->path().string();
+  say("konsola.rys_zapisano", {drawing, existing_->backup().string()});
+  tell_repeating_command(drawing);
+  return kImported;
 }
 
 void Session::tell_repeating_command(const std::string& drawing) {

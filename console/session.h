@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <functional>
 #include <iosfwd>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -11,6 +12,7 @@
 #include "console/dialogue/dialogue.h"
 #include "console/drawing/database.h"
 #include "console/drawing/wishes.h"
+#include "console/existing_drawing.h"
 #include "console/exit_code.h"
 #include "console/report/import_watcher.h"
 #include "console/sibling_registry.h"
@@ -63,6 +65,8 @@ class Session final : private vexo_xyz_impl::host::CommandTable, private vexo_xy
   [[nodiscard]] bool report_is_refused();
   [[nodiscard]] bool preview_is_refused();
   [[nodiscard]] bool drawing_is_refused(const std::filesystem::path& points);
+  std::optional<std::string> existing_refused();
+  ExitCode save_into_existing();
   ExitCode import_and_save();
   vexo_xyz_impl::host::CommandOutcome import_once();
   [[nodiscard]] bool prepares_instead();
@@ -78,6 +82,7 @@ class Session final : private vexo_xyz_impl::host::CommandTable, private vexo_xy
   Targets targets_;
   LineSource& lines_;
   std::optional<std::filesystem::path> prepared_from_;  // the file that the user chose
+  std::unique_ptr<ExistingDrawing> existing_;
   Database database_;
   Dialogue dialogue_;
   SiblingRegistry siblings_;

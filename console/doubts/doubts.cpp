@@ -19,10 +19,11 @@ constexpr std::array<DoubtFunction, 8> kOfRows = {
     doubt_far_away, doubt_same_place, doubt_comma_in_label, doubt_rows_left_out,
 };
 
-constexpr std::array<DoubtFunction, 3> kOfImport = {
+constexpr std::array<DoubtFunction, 4> kOfImport = {
     doubt_header_axes,
     doubt_axes_unconfirmed,
     doubt_repeated_number,
+    doubt_far_from_drawing,
 };
 
 struct Names {

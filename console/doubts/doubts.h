@@ -43,6 +43,7 @@ struct Evidence {
   const vexo_xyz_impl::ImportSeen& seen;
   RowPlaces& places;
   std::optional<Header> header;
+  std::optional<double> from_drawing;  ///< least distance of the points to what the drawing held before, metres
 };
 
 /// The doubt that shows in these lines, told by the text of `key`, which takes their count and the lines; nothing
@@ -80,6 +81,8 @@ std::optional<Doubt> doubt_degrees(Evidence& evidence);
 // far_away.cpp
 std::optional<Doubt> doubt_not_finite(Evidence& evidence);
 std::optional<Doubt> doubt_far_away(Evidence& evidence);
+std::optional<Doubt> doubt_far_from_drawing(Evidence& evidence);
+[[nodiscard]] bool is_far_from_drawing(double distance);
 
 // heights.cpp
 std::optional<Doubt> doubt_height(Evidence& evidence);

@@ -7,6 +7,8 @@
 
 #include "console/doubts/doubts.h"
 #include "console/doubts/range.h"
+#include "console/nearness.h"
+#include "vexo_xyz_impl/messages.h"
 
 namespace console {
 namespace {
@@ -98,6 +100,17 @@ std::optional<Doubt> doubt_far_away(Evidence& evidence) {
   };
   const auto exchanged = doubt("konsola.watp_odwrotnie", the_other_way_round(punkty));
   return exchanged ? exchanged : doubt("konsola.watp_daleko", far_from_the_middle(punkty));
+}
+
+bool is_far_from_drawing(double distance) {
+  constexpr double kFartherThanSites = 20000.0;  // metres
+  return distance > kFartherThanSites;
+}
+
+std::optional<Doubt> doubt_far_from_drawing(Evidence& evidence) {
+  if (!evidence.from_drawing || !is_far_from_drawing(*evidence.from_drawing)) return std::nullopt;
+  const std::string distance = distance_text(*evidence.from_drawing);
+  return Doubt{"far_from_drawing", vexo_xyz_impl::filled("konsola.watp_od_rysunku", {std::string_view(distance)}), {}};
 }
 
 }  // namespace console

@@ -258,6 +258,7 @@ WithStatus<std::unique_ptr<GcDbBlockTable>> Database::getBlockTable(GcDb::OpenMo
 }
 
 WithStatus<std::unique_ptr<GcDbDictionary>> Database::getGroupDictionary(GcDb::OpenMode mode) {
+  if (!drawing_.holds_groups()) return {Gcad::eKeyNotFound, nullptr};
   return open_resident<GcDbDictionary, OpenGroupDictionary>(*this, kGroupDictionary, mode);
 }
 

@@ -40,13 +40,22 @@ std::string lower_case(std::string_view name) {
 
 }  // namespace
 
+// Ids of the interface are handles too, so those of new drawings' own objects are not given to others.
+Drawing::Drawing(const Ground& ground)
+    : variables(ground.variables),
+      first_handle_(std::max(ground.first_free, handle_of(Fixed::first_free))),
+      next_handle_(first_handle_),
+      holds_groups_(ground.holds_groups) {
+  for (const std::string& name : ground.group_names) group_names_.insert(lower_case(name));
+}
+
 template <class Geometry>
 std::optional<Handle> Drawing::place(Kind kind, Column<Geometry>& all, const Geometry& one) {
   constexpr std::uint32_t kMost = 1U << 30U;  // what a slot can number
   if (all.size() == kMost) return std::nullopt;
   all.push_back(one);
   const Handle handle = new_handle();
-  slots_.resize(handle - kFirstFree);  // styles and groups have handles too
+  slots_.resize(handle - first_handle_);  // styles and groups have handles too
   slots_.emplace_back().kind = kind;
   slots_.back().index = static_cast<std::uint32_t>(all.size() - 1) & (kMost - 1);
   return handle;
@@ -79,7 +88,7 @@ std::optional<Handle> Drawing::add(HeightGeometry height) {
 std::optional<Handle> Drawing::add(Group group) {
   if (group.name.empty() || has_group(group.name)) return std::nullopt;
   group.handle = new_handle();
-  group_names_.emplace(lower_case(group.name), group.handle);
+  group_names_.insert(lower_case(group.name));
   groups_.push_back(std::move(group));
   return groups_.back().handle;
 }

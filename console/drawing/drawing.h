@@ -9,6 +9,7 @@
 #include <deque>
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -101,11 +102,21 @@ struct SystemVariables {
   double PDSIZE = 0.0;
 };
 
+/// What a drawing is begun with: nothing for a new one, else what the drawing that things are added to holds already.
+struct Ground {
+  Handle first_free = handle_of(Fixed::first_free);  ///< nothing there has it or one above it
+  std::vector<std::string> group_names;
+  bool holds_groups = true;
+  SystemVariables variables;
+};
+
 /// Bytes of the longest label in a drawing: programs in use cut a line of a file after 255.
 inline constexpr std::size_t kLongestLabel = 250;
 
 class Drawing {
  public:
+  explicit Drawing(const Ground& ground = {});
+
   /// Takes an entity into model space and gives it its handle; empty when a number of its geometry is not finite or
   /// beyond 1e15, where doubles no longer tell metres apart, or when a text has no height. What a text says is copied,
   /// of a text longer than `kLongestLabel` the beginning and an ellipsis. A drawing holds a billion entities of a kind
@@ -132,6 +143,7 @@ class Drawing {
   [[nodiscard]] Group* group(Handle handle);
   [[nodiscard]] bool has_entity(Handle handle) const { return slot(handle).kind != Kind::none; }
   [[nodiscard]] bool has_group(std::string_view name) const;
+  [[nodiscard]] bool holds_groups() const { return holds_groups_; }  ///< whether there may be any
   [[nodiscard]] const vexo_reaktywne_core::ControlRecord* control_record(Handle entity) const;
 
   [[nodiscard]] std::size_t entity_count() const { return points_.size() + texts_.size() + heights_.size(); }
@@ -149,9 +161,9 @@ class Drawing {
   void for_each_entity(Visit visit) const {
     for (std::size_t i = 0; i < slots_.size(); ++i) {
       const Slot slot = slots_[i];
-      if (slot.kind == Kind::point) visit(kFirstFree + i, points_[slot.index]);
-      if (slot.kind == Kind::text) visit(kFirstFree + i, texts_[slot.index]);
-      if (slot.kind == Kind::height) visit(kFirstFree + i, heights_[slot.index]);
+      if (slot.kind == Kind::point) visit(first_handle_ + i, points_[slot.index]);
+      if (slot.kind == Kind::text) visit(first_handle_ + i, texts_[slot.index]);
+      if (slot.kind == Kind::height) visit(first_handle_ + i, heights_[slot.index]);
     }
   }
 
@@ -163,8 +175,6 @@ class Drawing {
   SystemVariables variables;
 
  private:
-  static constexpr Handle kFirstFree = handle_of(Fixed::first_free);
-
   // Where the entity of a handle stands. What is of one kind stands together, so that no point takes a text's room.
   enum class Kind : std::uint32_t { none, point, text, height };
   struct Slot {
@@ -174,20 +184,22 @@ class Drawing {
 
   Handle new_handle() { return next_handle_++; }
   [[nodiscard]] Slot slot(Handle handle) const {
-    return handle - kFirstFree < slots_.size() ? slots_[handle - kFirstFree] : Slot{};  // wraps below the first
+    return handle - first_handle_ < slots_.size() ? slots_[handle - first_handle_] : Slot{};  // wraps below the first
   }
   bool take_over(TextGeometry& text);  // its letters, when it is sound
   template <class Geometry>
   std::optional<Handle> place(Kind kind, Column<Geometry>& all, const Geometry& one);
 
-  Handle next_handle_ = kFirstFree;
-  std::vector<Slot> slots_;  // by handle above the first free one
+  Handle first_handle_;
+  Handle next_handle_;
+  bool holds_groups_;
+  std::vector<Slot> slots_;  // by handle from the first on
   Column<PointGeometry> points_;
   Column<TextGeometry> texts_;
   Column<HeightGeometry> heights_;
   vexo_xyz_impl::Groups<char> letters_;  // what the texts say
   std::deque<Group> groups_;
-  std::map<std::string, Handle> group_names_;  // in lower case
+  std::set<std::string> group_names_;  // in lower case
   std::vector<TextStyle> text_styles_;
   std::map<Handle, vexo_reaktywne_core::ControlRecord> control_records_;
 };

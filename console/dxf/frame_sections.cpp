@@ -3,6 +3,7 @@
 #include <limits>
 #include <string>
 
+#include "console/dxf/records.h"
 #include "console/dxf/sections.h"
 #include "vexo_xyz_impl/text/ascii.h"
 
@@ -40,15 +41,10 @@ void begin_table(TagWriter& tags, std::string_view name, Fixed handle, std::size
 
 void end_table(TagWriter& tags) { tags.lines("0\nENDTAB\n"); }
 
-// The part that all records of symbol tables share; `handle_code` is 105 in DIMSTYLE and 5 elsewhere.
-void begin_record(TagWriter& tags, std::string_view kind, Handle handle, Fixed owner, std::string_view subclass,
+// A record that is the same in all versions that new drawings are written in.
+void begin_record(TagWriter& tags, std::string_view kind, Fixed handle, Fixed table, std::string_view subclass,
                   std::string_view name, int handle_code = 5) {
-  tags.text(0, kind);
-  tags.handle(handle_code, handle);
-  tags.handle(330, at(owner));
-  tags.lines("100\nAcDbSymbolTableRecord\n");
-  tags.text(100, subclass);
-  tags.text(2, name);
+  console::begin_record(tags, DxfForm{}, kind, {at(handle), at(table), subclass, name}, handle_code);
 }
 
 void write_viewport_table(TagWriter& tags, const Extents& extents) {
@@ -63,7 +59,7 @@ void write_viewport_table(TagWriter& tags, const Extents& extents) {
   const double offset_y = centre_y / 2.0 + view_height / 4.0;
 
   begin_table(tags, "VPORT", Fixed::vport_table, 1);
-  begin_record(tags, "VPORT", at(Fixed::active_vport), Fixed::vport_table, "AcDbViewportTableRecord", "*ACTIVE");
+  begin_record(tags, "VPORT", Fixed::active_vport, Fixed::vport_table, "AcDbViewportTableRecord", "*ACTIVE");
   tags.lines("70\n0\n10\n0.0\n20\n0.0\n11\n1.0\n21\n1.0\n");
   tags.real(12, offset_x);
   tags.real(22, offset_y);
@@ -81,7 +77,7 @@ void write_viewport_table(TagWriter& tags, const Extents& extents) {
 void write_line_type_table(TagWriter& tags) {
   begin_table(tags, "LTYPE", Fixed::ltype_table, 3);
   const auto line_type = [&](Fixed handle, std::string_view name, std::string_view description) {
-    begin_record(tags, "LTYPE", at(handle), Fixed::ltype_table, "AcDbLinetypeTableRecord", name);
+    begin_record(tags, "LTYPE", handle, Fixed::ltype_table, "AcDbLinetypeTableRecord", name);
     tags.lines("70\n0\n");
     tags.text(3, description);
     tags.lines("72\n65\n73\n0\n40\n0.0\n");
@@ -94,49 +90,38 @@ void write_line_type_table(TagWriter& tags) {
 
 void write_layer_table(TagWriter& tags, const NewDrawing& file) {
   const std::vector<LayerRecord> own = layers_of(file.drawing, file.layers);
+  const LayerPointer plot_style{390, at(Fixed::plot_style_normal)};  // a layer without one is repaired or refused
   begin_table(tags, "LAYER", Fixed::layer_table, 1 + own.size());
   const auto layer = [&](const LayerRecord& record) {
-    begin_record(tags, "LAYER", record.handle, Fixed::layer_table, "AcDbLayerTableRecord",
-                 file.form.encoding.name(record.name));
-    tags.lines("70\n0\n");
-    tags.whole(62, record.colour);
-    tags.lines("6\nContinuous\n370\n-3\n");
-    tags.handle(390, at(Fixed::plot_style_normal));  // a layer without one is repaired or refused
+    write_layer(tags, file.form, record, at(Fixed::layer_table), {&plot_style, 1});
   };
   layer({at(Fixed::layer_0), "0", kForeground});
   for (const LayerRecord& record : own) layer(record);
   end_table(tags);
 }
 
-void write_style_table(TagWriter& tags, const Drawing& drawing) {
-  begin_table(tags, "STYLE", Fixed::style_table, 1 + drawing.text_styles().size());
-  const auto style = [&](Handle handle, std::string_view name, std::string_view font_file) {
-    begin_record(tags, "STYLE", handle, Fixed::style_table, "AcDbTextStyleTableRecord", name);
-    tags.lines("70\n0\n40\n0.0\n41\n1.0\n50\n0.0\n71\n0\n42\n2.5\n");
-    tags.text(3, font_file);
-    tags.lines("4\n\n");
-  };
-  style(at(Fixed::style_standard), "Standard", "txt");
-  for (const TextStyle& own : drawing.text_styles()) style(own.handle, own.name, own.font_file);
+void write_style_table(TagWriter& tags, const NewDrawing& file) {
+  const auto& own = file.drawing.text_styles();
+  begin_table(tags, "STYLE", Fixed::style_table, 1 + own.size());
+  const auto style = [&](const TextStyle& record) { write_style(tags, file.form, record, at(Fixed::style_table)); };
+  style({at(Fixed::style_standard), "Standard", "txt"});
+  for (const TextStyle& record : own) style(record);
   end_table(tags);
 }
 
-void write_application_table(TagWriter& tags) {
+void write_application_table(TagWriter& tags, const DxfForm& form) {
   begin_table(tags, "APPID", Fixed::appid_table, 2);
-  const auto application = [&](Fixed handle, std::string_view name) {
-    begin_record(tags, "APPID", at(handle), Fixed::appid_table, "AcDbRegAppTableRecord", name);
-    tags.lines("70\n0\n");
-  };
-  application(Fixed::appid_acad, "ACAD");
-  application(Fixed::appid_vexo, vexo_reaktywne_core::kApplication);
+  const Handle table = at(Fixed::appid_table);
+  write_application(tags, form, at(Fixed::appid_acad), "ACAD", table);
+  write_application(tags, form, at(Fixed::appid_vexo), vexo_reaktywne_core::kApplication, table);
   end_table(tags);
 }
 
 void write_dimension_style_table(TagWriter& tags) {
   begin_table(tags, "DIMSTYLE", Fixed::dimstyle_table, 1);
   tags.lines("100\nAcDbDimStyleTable\n71\n0\n");
-  begin_record(tags, "DIMSTYLE", at(Fixed::dimstyle_standard), Fixed::dimstyle_table, "AcDbDimStyleTableRecord",
-               "Standard", 105);
+  begin_record(tags, "DIMSTYLE", Fixed::dimstyle_standard, Fixed::dimstyle_table, "AcDbDimStyleTableRecord", "Standard",
+               105);
   tags.lines("70\n0\n");
   tags.handle(340, at(Fixed::style_standard));
   end_table(tags);
@@ -145,7 +130,7 @@ void write_dimension_style_table(TagWriter& tags) {
 void write_block_record_table(TagWriter& tags, const DxfForm& form) {
   begin_table(tags, "BLOCK_RECORD", Fixed::block_record_table, 2);
   const auto block = [&](Fixed handle, std::string_view name, Fixed layout) {
-    begin_record(tags, "BLOCK_RECORD", at(handle), Fixed::block_record_table, "AcDbBlockTableRecord", name);
+    begin_record(tags, "BLOCK_RECORD", handle, Fixed::block_record_table, "AcDbBlockTableRecord", name);
     tags.handle(340, at(layout));
     if (form.version >= DxfVersion::r2007) tags.lines("70\n6\n280\n1\n281\n0\n");
   };
@@ -246,12 +231,12 @@ void write_tables(TagWriter& tags, const NewDrawing& file) {
   write_viewport_table(tags, file.extents);
   write_line_type_table(tags);
   write_layer_table(tags, file);
-  write_style_table(tags, file.drawing);
+  write_style_table(tags, file);
   begin_table(tags, "VIEW", Fixed::view_table, 0);
   end_table(tags);
   begin_table(tags, "UCS", Fixed::ucs_table, 0);
   end_table(tags);
-  write_application_table(tags);
+  write_application_table(tags, file.form);
   write_dimension_style_table(tags);
   write_block_record_table(tags, file.form);
   end_section(tags);

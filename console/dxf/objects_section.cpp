@@ -1,6 +1,7 @@
 #include <string>
 #include <string_view>
 
+#include "console/dxf/records.h"
 #include "console/dxf/sections.h"
 
 namespace console {
@@ -8,36 +9,14 @@ namespace {
 
 Handle at(Fixed object) { return handle_of(object); }
 
-void write_reactor(TagWriter& tags, Handle reactor) {
-  tags.lines("102\n{ACAD_REACTORS\n");
-  tags.handle(330, reactor);
-  tags.lines("102\n}\n");
+// Of an object that new drawings always have.
+void begin_owned(TagWriter& tags, std::string_view kind, Fixed object, Fixed owner) {
+  console::begin_owned(tags, DxfForm{}, kind, at(object), at(owner));
 }
 
-// Handle, reactor and owner of an object that its owner watches.
-void write_owned(TagWriter& tags, std::string_view kind, Handle handle, Fixed owner) {
-  tags.text(0, kind);
-  tags.handle(5, handle);
-  write_reactor(tags, at(owner));
-  tags.handle(330, at(owner));
-}
-
-// What follows a dictionary's owner; on a clash while merging drawings the present entry stays.
-constexpr std::string_view kDictionaryTags = "100\nAcDbDictionary\n281\n1\n";
-
-void write_entry(TagWriter& tags, std::string_view name, Handle object) {
-  tags.text(3, name);
-  tags.handle(350, object);
-}
-
-void write_group(TagWriter& tags, const DxfForm& form, const Group& group) {
-  write_owned(tags, "GROUP", group.handle, Fixed::group_dictionary);
-  tags.lines("100\nAcDbGroup\n");
-  std::string changed;
-  tags.text(300, form.encoding.label(group.description, changed));
-  tags.lines("70\n0\n");  // named
-  tags.whole(71, group.selectable ? 1 : 0);
-  for (const Handle member : group.members) tags.handle(340, member);
+void begin_dictionary(TagWriter& tags, Fixed dictionary) {
+  begin_owned(tags, "DICTIONARY", dictionary, Fixed::root_dictionary);
+  begin_entries(tags, DxfForm{});
 }
 
 struct LayoutFacts {
@@ -50,7 +29,7 @@ struct LayoutFacts {
 };
 
 void write_layout(TagWriter& tags, const DxfForm& form, const LayoutFacts& layout) {
-  write_owned(tags, "LAYOUT", at(layout.handle), Fixed::layout_dictionary);
+  begin_owned(tags, "LAYOUT", layout.handle, Fixed::layout_dictionary);
   tags.lines(
       "100\nAcDbPlotSettings\n1\n\n2\nnone_device\n4\n\n6\n\n40\n0.0\n41\n0.0\n42\n0.0\n43\n0.0\n44\n0.0\n45\n0.0\n"
       "46\n0.0\n47\n0.0\n48\n0.0\n49\n0.0\n140\n0.0\n141\n0.0\n142\n1.0\n143\n1.0\n");
@@ -69,38 +48,35 @@ void write_layout(TagWriter& tags, const DxfForm& form, const LayoutFacts& layou
 }
 
 void write_plot_styles(TagWriter& tags) {
-  write_owned(tags, "ACDBDICTIONARYWDFLT", at(Fixed::plot_style_dictionary), Fixed::root_dictionary);
-  tags.lines(kDictionaryTags);
+  begin_owned(tags, "ACDBDICTIONARYWDFLT", Fixed::plot_style_dictionary, Fixed::root_dictionary);
+  begin_entries(tags, DxfForm{});
   write_entry(tags, "Normal", at(Fixed::plot_style_normal));
   tags.lines("100\nAcDbDictionaryWithDefault\n");
   tags.handle(340, at(Fixed::plot_style_normal));
-  write_owned(tags, "ACDBPLACEHOLDER", at(Fixed::plot_style_normal), Fixed::plot_style_dictionary);
+  begin_owned(tags, "ACDBPLACEHOLDER", Fixed::plot_style_normal, Fixed::plot_style_dictionary);
 }
 
 void write_dictionaries(TagWriter& tags, const Drawing& drawing) {
   tags.lines("0\nDICTIONARY\n");
   tags.handle(5, at(Fixed::root_dictionary));
   tags.lines("330\n0\n");
-  tags.lines(kDictionaryTags);
+  begin_entries(tags, DxfForm{});
   write_entry(tags, "ACAD_GROUP", at(Fixed::group_dictionary));
   write_entry(tags, "ACAD_LAYOUT", at(Fixed::layout_dictionary));
   write_entry(tags, "ACAD_PLOTSTYLENAME", at(Fixed::plot_style_dictionary));
   if (drawing.control_record_count() > 0) write_entry(tags, kControlDictionary, at(Fixed::control_dictionary));
 
-  write_owned(tags, "DICTIONARY", at(Fixed::group_dictionary), Fixed::root_dictionary);
-  tags.lines(kDictionaryTags);
+  begin_dictionary(tags, Fixed::group_dictionary);
   for (const Group& group : drawing.groups()) write_entry(tags, group.name, group.handle);
 
-  write_owned(tags, "DICTIONARY", at(Fixed::layout_dictionary), Fixed::root_dictionary);
-  tags.lines(kDictionaryTags);
+  begin_dictionary(tags, Fixed::layout_dictionary);
   write_entry(tags, "Model", at(Fixed::model_layout));
   write_entry(tags, "Layout1", at(Fixed::paper_layout));
 }
 
 void write_controls(TagWriter& tags, const NewDrawing& file) {
   if (file.drawing.control_record_count() == 0) return;
-  write_owned(tags, "DICTIONARY", at(Fixed::control_dictionary), Fixed::root_dictionary);
-  tags.lines(kDictionaryTags);
+  begin_dictionary(tags, Fixed::control_dictionary);
   write_entry(tags, control_list_name(file.drawing), at(Fixed::control_list));
   write_control_list(tags, file.drawing, file.form, at(Fixed::control_list), at(Fixed::control_dictionary));
 }
@@ -112,10 +88,7 @@ std::string_view control_list_name(const Drawing& drawing) {
 }
 
 void write_control_list(TagWriter& tags, const Drawing& drawing, const DxfForm& form, Handle list, Handle dictionary) {
-  tags.lines("0\nXRECORD\n");
-  tags.handle(5, list);
-  write_reactor(tags, dictionary);
-  tags.handle(330, dictionary);
+  begin_owned(tags, form, "XRECORD", list, dictionary);
   tags.lines("100\nAcDbXrecord\n280\n1\n");
   std::string changed;
   drawing.for_each_control_record([&](Handle point, const vexo_reaktywne_core::ControlRecord& record) {
@@ -132,7 +105,7 @@ void write_objects(TagWriter& tags, const NewDrawing& file) {
   constexpr Extents kSheet = {{0.0, 0.0, 0.0}, {420.0, 297.0, 0.0}};  // millimetres
   tags.lines("0\nSECTION\n2\nOBJECTS\n");
   write_dictionaries(tags, file.drawing);
-  for (const Group& group : file.drawing.groups()) write_group(tags, file.form, group);
+  for (const Group& group : file.drawing.groups()) write_group(tags, file.form, group, at(Fixed::group_dictionary));
   write_layout(tags, file.form, {Fixed::model_layout, Fixed::model_space, "Model", 0, kModelPlotFlags, file.extents});
   write_layout(tags, file.form, {Fixed::paper_layout, Fixed::paper_space, "Layout1", 1, kPaperPlotFlags, kSheet});
   write_plot_styles(tags);

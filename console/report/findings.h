@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -43,7 +44,8 @@ struct Findings {
   };
   std::vector<System> systems;
   Axes axes = Axes::keep;
-  std::vector<std::string> answers;  ///< to the questions that arose, as words of a command line
+  std::optional<double> from_drawing;  ///< least distance to what the drawing held before, metres
+  std::vector<std::string> answers;    ///< to the questions that arose, as words of a command line
   std::vector<Doubt> doubts;
   Reason reason;
   std::string drawing;  ///< path of the drawing that was saved

@@ -10,6 +10,7 @@
 
 #include "console/account/account_lines.h"
 #include "console/dialogue/shown_text.h"
+#include "console/nearness.h"
 #include "console/report/reasons.h"
 #include "vexo_xyz_impl/crs/systems.h"
 #include "vexo_xyz_impl/failure.h"
@@ -91,6 +92,22 @@ void append(std::vector<Doubt>& doubts, std::vector<Doubt> more) {
   std::move(more.begin(), more.end(), std::back_inserter(doubts));
 }
 
+// Where the points lie that the drawing took, as they stand or with their axes exchanged.
+std::vector<PlanPoint> in_plan(const ImportSeen& seen, bool swap) {
+  std::vector<PlanPoint> points;
+  points.reserve(seen.read.punkty.size());
+  auto refused = seen.refused.begin();
+  for (std::size_t i = 0; i < seen.read.punkty.size(); ++i) {
+    const auto& point = seen.read.punkty[i];
+    if (refused != seen.refused.end() && *refused == i) {
+      ++refused;
+    } else {
+      points.push_back(swap ? PlanPoint{point.y, point.x} : PlanPoint{point.x, point.y});
+    }
+  }
+  return points;
+}
+
 std::vector<std::size_t> lines_of(const std::vector<Findings::RowNotTakenOver>& rows) {
   std::vector<std::size_t> lines(rows.size());
   std::transform(rows.begin(), rows.end(), lines.begin(), [](const auto& row) { return row.line; });
@@ -101,12 +118,13 @@ std::vector<std::size_t> lines_of(const std::vector<Findings::RowNotTakenOver>& 
 
 void ImportWatcher::rows_taken_apart(const ImportSeen& seen) {
   findings_ = {};
+  seen_ = &seen;
   places_.emplace(seen);
   note_file(findings_, seen);
   findings_.account = account_of(seen, *places_);
   header_ = header_of(seen, *places_);
   named_axes_ = header_ ? named_axes(*header_, *seen.verdict.fmt) : std::nullopt;
-  Evidence evidence{seen, *places_, header_};
+  Evidence evidence{seen, *places_, header_, {}};
   if (!seen.read.punkty.empty()) {
     findings_.doubts = doubts_of_rows(evidence);
   } else if (auto doubt = doubt_height(evidence)) {
@@ -144,12 +162,14 @@ void ImportWatcher::ended(const ImportSeen& seen) {
   findings_.axes = axes_of(seen);
   findings_.answers = answers_to(seen);
   if (places_ && findings_.outcome == Outcome::imported) {
-    Evidence evidence{seen, *places_, header_};
+    if (drawing_ != nullptr) findings_.from_drawing = least_distance(in_plan(seen, false), *drawing_);
+    Evidence evidence{seen, *places_, header_, findings_.from_drawing};
     append(findings_.doubts, doubts_of_import(evidence));
   }
   if (seen.loaded.typ == vexo_xyz_impl::FileType::xlsx && seen.loaded.rows)
     append(findings_.doubts, doubts_of_workbook(seen, places_ ? &*places_ : nullptr));
   findings_.reason = reason_of(seen, findings_);
+  seen_ = nullptr;
   if (is_set_aside_ && findings_.reason.code.empty())
     findings_.reason = reason_named(seen.verdict.fmt ? "axes_open" : "columns_open");
   if (seen.outcome == CommandOutcome::failed && !seen.failure)  // the module tells the log of its own failures only
@@ -171,11 +191,22 @@ std::string ImportWatcher::beside_reading(vexo_xyz_impl::host::AxisOrder order, 
                                    {static_cast<long long>(named_axes_->line), std::string_view(named_axes_->first),
                                     std::string_view(named_axes_->second)});
   }
+  if (drawing_ != nullptr && seen_ != nullptr) {
+    const bool swap = order == vexo_xyz_impl::host::AxisOrder::north_first;
+    if (const auto distance = least_distance(in_plan(*seen_, swap), *drawing_)) {
+      const std::string text = distance_text(*distance);
+      lines += vexo_xyz_impl::filled("konsola.odczyt_odleglosc", {std::string_view(text)});
+    }
+  }
   return lines;
 }
 
 void print_findings(const Findings& findings) {
   if (findings.outcome == Outcome::imported) print_account(findings.account);
+  if (findings.from_drawing && !is_far_from_drawing(*findings.from_drawing)) {
+    const std::string text = distance_text(*findings.from_drawing);
+    vexo_xyz_impl::print("konsola.rys_odleglosc", {std::string_view(text)});
+  }
   for (const Doubt& doubt : findings.doubts) vexo_xyz_impl::print("konsola.watpliwosc", {std::string_view(doubt.text)});
   if (!findings.reason.code.empty()) vexo_xyz_impl::print("konsola.powod", {std::string_view(findings.reason.text)});
 }

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "console/doubts/doubts.h"
+#include "console/dxf/outline.h"
 #include "console/preview/picture.h"
 #include "console/report/findings.h"
 #include "vexo_xyz_impl/host/command_line.h"
@@ -24,6 +25,9 @@ class ImportWatcher final : public vexo_xyz_impl::host::ImportWatch {
 
   /// What the file says for or against a reading of its axes, for when its rows were taken apart: lines for the user.
   [[nodiscard]] std::string beside_reading(vexo_xyz_impl::host::AxisOrder order, double share) const;
+
+  /// The points are added to a drawing whose model space holds `places`, which outlive the watcher.
+  void beside(const Column<PlanPoint>& places) { drawing_ = &places; }
 
   /// The file that is imported next was made of another, of which these rows were not taken over.
   void made_of(std::string path, std::vector<Findings::RowNotTakenOver> left_out);
@@ -57,7 +61,9 @@ class ImportWatcher final : public vexo_xyz_impl::host::ImportWatch {
   Picture picture_;
   std::string made_of_;
   std::vector<Findings::RowNotTakenOver> not_taken_over_;
-  std::optional<RowPlaces> places_;  // of the import going on
+  const Column<PlanPoint>* drawing_ = nullptr;
+  const vexo_xyz_impl::ImportSeen* seen_ = nullptr;  // the import going on
+  std::optional<RowPlaces> places_;                  // of it
   std::optional<Header> header_;
   std::optional<NamedAxes> named_axes_;
 };

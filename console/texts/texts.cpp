@@ -11,7 +11,7 @@ namespace {
 template <class Visit>
 void for_each_text(Visit visit) {
   for (const auto topic :
-       {program_texts, account_texts, batch_texts, doubt_texts, reason_texts, prepare_texts, preview_texts})
+       {program_texts, account_texts, batch_texts, doubt_texts, reason_texts, prepare_texts, into_texts, preview_texts})
     for (const Text& text : topic()) visit(text);
 }
 

@@ -1,0 +1,149 @@
+#include "console/existing_drawing.h"
+
+#include <cerrno>
+#include <string>
+#include <system_error>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "console/dxf/drawing_edit.h"
+#include "console/dxf/drawing_fault.h"
+#include "console/failure_text.h"
+#include "console/files.h"
+#include "vexo_xyz_impl/messages.h"
+
+namespace console {
+namespace {
+
+[[noreturn]] void fail() { throw std::system_error(errno, std::generic_category()); }
+
+class Descriptor {
+ public:
+  explicit Descriptor(const std::filesystem::path& path) : number_(open(path.c_str(), O_RDONLY | O_CLOEXEC)) {
+    if (number_ < 0) fail();
+  }
+  Descriptor(const Descriptor&) = delete;
+  Descriptor& operator=(const Descriptor&) = delete;
+  ~Descriptor() { close(number_); }
+  [[nodiscard]] int number() const { return number_; }
+
+ private:
+  int number_;
+};
+
+std::string text_of(std::string_view key, const std::filesystem::path& path) {
+  const std::string name = path.string();
+  return vexo_xyz_impl::filled(key, {std::string_view(name)});
+}
+
+std::string text_of(std::string_view key, const std::filesystem::path& path, const std::system_error& failure) {
+  const std::string name = path.string();
+  const std::string reason = failure_text(failure);
+  return vexo_xyz_impl::filled(key, {std::string_view(name), std::string_view(reason)});
+}
+
+std::string_view key_of(Damage damage) {
+  switch (damage) {
+    case Damage::no_drawing:
+      return "konsola.rys_nie_dxf";
+    case Damage::binary:
+      return "konsola.rys_binarny";
+    case Damage::dwg:
+      return "konsola.rys_dwg";
+    case Damage::odd_code:
+      return "konsola.rys_zly_kod";
+    case Damage::cut_short:
+      return "konsola.rys_urwany";
+    case Damage::no_handles:
+      return "konsola.rys_brak_uchwytow";
+    case Damage::out_of_place:
+      break;
+  }
+  return "konsola.rys_nie_na_miejscu";
+}
+
+std::string text_of(const std::filesystem::path& path, const DrawingFault& fault) {
+  if (fault.line() == 0) return text_of(key_of(fault.damage()), path);
+  const std::string name = path.string();
+  const std::string what = vexo_xyz_impl::T(key_of(fault.damage()));
+  return vexo_xyz_impl::filled("konsola.rys_uszkodzony",
+                               {std::string_view(name), static_cast<long long>(fault.line()), std::string_view(what)});
+}
+
+}  // namespace
+
+ExistingDrawing::ExistingDrawing(const std::filesystem::path& path) : path_(std::filesystem::canonical(path)) {
+  read();
+  outline_ = outline_of(bytes_);
+}
+
+ExistingDrawing::Identity ExistingDrawing::identity_of(int descriptor) {
+  struct stat status {};
+  if (fstat(descriptor, &status) != 0) fail();
+  return {status.st_dev, status.st_ino, status.st_size, status.st_mtim.tv_sec, status.st_mtim.tv_nsec};
+}
+
+// Into memory and not mapped: another program may cut the file short at any time.
+void ExistingDrawing::read() {
+  const Descriptor file(path_);
+  identity_ = identity_of(file.number());
+  const auto size = static_cast<std::size_t>(identity_.size);
+  memory_ = std::make_unique_for_overwrite<char[]>(size);  // NOLINT(modernize-avoid-c-arrays)
+  std::size_t filled = 0;
+  while (filled < size) {
+    const ssize_t got = ::read(file.number(), memory_.get() + filled, size - filled);
+    if (got < 0 && errno == EINTR) continue;
+    if (got < 0) fail();
+    if (got == 0) break;  // shorter by now, which saving will see
+    filled += static_cast<std::size_t>(got);
+  }
+  bytes_ = {memory_.get(), filled};
+}
+
+Ground ExistingDrawing::ground() const { return ground_of(outline_); }
+
+bool ExistingDrawing::is_unchanged() const {
+  try {
+    return identity_of(Descriptor(path_).number()) == identity_;
+  } catch (const std::system_error&) {
+    return false;
+  }
+}
+
+void ExistingDrawing::save(const Drawing& added, const Layers& layers) const {
+  AtomicFile file(path_.parent_path());
+  write_added(bytes_, outline_, added, layers, file);
+  file.flush();
+  file.commit_keeping(path_, backup());
+}
+
+OpenedDrawing open_existing(const std::filesystem::path& path) {
+  std::error_code ignored;
+  const auto status = std::filesystem::status(path, ignored);
+  if (status.type() == std::filesystem::file_type::not_found) return text_of("konsola.rys_brak", path);
+  if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status))
+    return text_of("konsola.rys_nie_plik", path);
+  try {
+    auto drawing = std::make_unique<ExistingDrawing>(path);
+    if (const auto refusal = refusal_of(drawing->path())) return text_of("konsola.blad_zapisu", path, *refusal);
+    return drawing;
+  } catch (const DrawingFault& fault) {
+    return text_of(path, fault);
+  } catch (const std::system_error& failure) {
+    return text_of("konsola.rys_nie_otwarto", path, failure);
+  }
+}
+
+std::optional<std::string> save_existing(const ExistingDrawing& drawing, const Drawing& added, const Layers& layers) {
+  if (!drawing.is_unchanged()) return text_of("konsola.rys_zmieniony", drawing.path());
+  try {
+    drawing.save(added, layers);
+  } catch (const std::system_error& failure) {
+    return text_of("konsola.blad_zapisu", drawing.path(), failure);
+  }
+  return std::nullopt;
+}
+
+}  // namespace console

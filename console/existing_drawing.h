@@ -1,0 +1,65 @@
+// The drawing that points are added to: read, kept as it was read, and saved in its place with the former one beside
+// it.
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <variant>
+
+#include "console/drawing/drawing.h"
+#include "console/drawing/wishes.h"
+#include "console/dxf/outline.h"
+
+namespace console {
+
+class ExistingDrawing {
+ public:
+  /// Reads the file. Fails with DrawingFault where it is no drawing that can be added to, with std::system_error where
+  /// it cannot be read.
+  explicit ExistingDrawing(const std::filesystem::path& path);
+
+  [[nodiscard]] const std::filesystem::path& path() const { return path_; }
+  [[nodiscard]] std::filesystem::path backup() const { return path_.string() + ".bak"; }
+  [[nodiscard]] Ground ground() const;
+  [[nodiscard]] const Column<PlanPoint>& places() const { return outline_.places; }  ///< what model space holds
+
+  /// Whether the file on the disk is still the one that was read.
+  [[nodiscard]] bool is_unchanged() const;
+
+  /// Writes the drawing with `added` in it; the former file becomes the backup. At every moment one of the two is
+  /// whole. Fails with FileFailure.
+  void save(const Drawing& added, const Layers& layers) const;
+
+ private:
+  struct Identity {
+    std::uint64_t device = 0;
+    std::uint64_t number = 0;
+    std::int64_t size = 0;
+    std::int64_t seconds = 0;
+    std::int64_t nanoseconds = 0;
+    friend bool operator==(const Identity&, const Identity&) = default;
+  };
+
+  [[nodiscard]] static Identity identity_of(int descriptor);
+  void read();
+
+  std::filesystem::path path_;
+  std::unique_ptr<char[]> memory_;  // NOLINT(modernize-avoid-c-arrays): bytes that nobody clears before they are read
+  std::string_view bytes_;
+  Identity identity_;
+  Outline outline_;
+};
+
+/// A drawing, or why there is no adding to it: a text for the user, as below.
+using OpenedDrawing = std::variant<std::unique_ptr<ExistingDrawing>, std::string>;
+[[nodiscard]] OpenedDrawing open_existing(const std::filesystem::path& path);
+
+/// Saves it with what was added, unless another program changed it meanwhile; why it was not saved.
+[[nodiscard]] std::optional<std::string> save_existing(const ExistingDrawing& drawing, const Drawing& added,
+                                                       const Layers& layers);
+
+}  // namespace console
