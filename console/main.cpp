@@ -15,6 +15,7 @@
 
 #include "console/arguments.h"
 #include "console/batch.h"
+#include "console/check_arguments.h"
 #include "console/kept_memory.h"
 #include "console/prepare_arguments.h"
 #include "console/report/report_file.h"
@@ -46,22 +47,27 @@ int run(int argc, char** argv) {
   CLI::App app("Imports files of surveyed points into drawings: a point and its number for each row.", "vexo-xyz");
   console::Arguments arguments;
   console::PrepareArguments prepare;
+  console::CheckArguments check;
   console::declare_import(app, arguments);
   const CLI::App* const preparing = console::declare_prepare(app, prepare);
+  const CLI::App* const checking = console::declare_check(app, check);
   try {
     app.parse(console::separate_arguments(argc, argv));
     if (preparing->parsed()) {
       console::check_market(prepare.choice);
+    } else if (checking->parsed()) {
+      console::check_market(check.choice);
     } else {
       console::check(app, arguments);
     }
   } catch (const CLI::ParseError& error) {
     return app.exit(error) == 0 ? console::kImported : console::kUsage;
   }
-  const bool is_asked_for_json = arguments.json && !preparing->parsed();
+  const bool is_asked_for_json = checking->parsed() ? check.options.json : arguments.json && !preparing->parsed();
   std::ostream& out = is_asked_for_json ? std::cerr : std::cout;
   const auto lines = typed_lines(out);
   if (preparing->parsed()) return console::run_prepare(prepare.options, prepare.choice, *lines, std::cout);
+  if (checking->parsed()) return console::run_check(check.options, check.choice, *lines, out);
   std::ostream nowhere(nullptr);
   std::ostream& reports = is_asked_for_json ? std::cout : nowhere;
   console::SessionOptions options = console::session_options(app, arguments, at_a_terminal());
