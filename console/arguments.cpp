@@ -22,6 +22,8 @@ constexpr const char* kFooter =
     "or the end of input leaves a question open: of the columns, and nothing is imported; of the axes, and the points\n"
     "are inserted as they stand in the file, their order not confirmed. Answers may be piped in, a line each.\n"
     "\n"
+    "'vexo-xyz man' prints the manual page, 'vexo-xyz completion' what bash reads to complete the options.\n"
+    "\n"
     "Exit codes:\n"
     "  0  points were imported and the drawing was saved\n"
     "  1  nothing was imported: cancelled, or the file holds no points\n"
@@ -111,23 +113,27 @@ void declare_answers(CLI::App& app, Arguments& arguments) {
                "Make a file that is not read as it stands into one that is (see 'prepare'), and import that, unasked");
   app.add_option("--first-column", arguments.first_column,
                  "What the first column holds, should the file not tell: 'number' or 'coordinate'")
-      ->type_name("WHAT")
+      ->type_name("number|coordinate")
       ->check(CLI::IsMember({"number", "coordinate"}));
   app.add_option(
          "--axes", arguments.axes,
          "What to do with X and Y, should more than one reading fit: 'keep' or 'swap'; or, whatever fits, which "
          "of the two coordinates stands first: 'north-first' or 'east-first'")
-      ->type_name("WHAT")
+      ->type_name("keep|swap|north-first|east-first")
       ->check(CLI::IsMember({"keep", "swap", "north-first", "east-first"}));
 }
 
 void declare_drawing(CLI::App& app, Arguments& arguments) {
-  const CLI::Validator layer(layer_fault, "NAME");
+  const CLI::Validator layer(layer_fault, "");
   const Layers usual;
-  app.add_option("--layer", arguments.point_layer, "Layer of the points. Default: " + usual.points)->check(layer);
+  app.add_option("--layer", arguments.point_layer, "Layer of the points. Default: " + usual.points)
+      ->type_name("NAME")
+      ->check(layer);
   app.add_option("--label-layer", arguments.label_layer, "Layer of the numbers. Default: the points', with _NR")
+      ->type_name("NAME")
       ->check(layer);
   app.add_option("--height-layer", arguments.height_layer, "Layer of the heights. Default: the points', with _H")
+      ->type_name("NAME")
       ->check(layer);
   app.add_option("--heights", arguments.height_decimals,
                  "Write the heights below the numbers, with so many decimals. Default of these: 2")
@@ -138,7 +144,7 @@ void declare_drawing(CLI::App& app, Arguments& arguments) {
          "--text-height,--scale", arguments.text_size,
          "Height of the letters in metres, or the scale of a plot on which they are 2 mm high. Default: a round "
          "value near 2 % of the points' extent")
-      ->type_name("METRES|1:N")
+      ->type_name("METRES")
       ->check(CLI::Validator(text_height_fault, ""));
   app.add_option("--group-selectable", arguments.group_selectable,
                  "Whether picking one point picks the whole group: 'yes', the default, or 'no'")
@@ -184,7 +190,8 @@ void declare_import(CLI::App& app, Arguments& arguments) {
   app.set_version_flag("--version", kVersion);
   app.footer(kFooter);
   app.set_config("--config", config_file(),
-                 "File of defaults: the options below --report, a line each, as in lang=\"DE\"");
+                 "File of defaults, an option a line, as lang=\"DE\" or heights=2. Default: "
+                 "~/.config/vexo-xyz/config.toml");
   app.allow_config_extras(CLI::config_extras_mode::error);
   declare_files(app, arguments);
   declare_answers(app, arguments);
@@ -218,7 +225,6 @@ void check(const CLI::App& app, const Arguments& arguments) {
     throw CLI::ValidationError("--output", "a drawing is a file; it is not written to standard output");
   if (arguments.force && app.count("-o") == 0) throw CLI::RequiresError("--force", "--output");
   if (arguments.files.size() < 2) return;
-  if (app.count("--into") > 0) throw CLI::ValidationError("--into", "takes one FILE");
   for (const char* const option : {"--output", "--report", "--preview"})
     if (app.count(option) > 0) throw CLI::ValidationError(option, "is for one FILE; --json tells of several");
 }

@@ -4,11 +4,13 @@
 #include <array>
 #include <cerrno>
 #include <cstddef>
+#include <memory>
 #include <ostream>
 #include <sstream>
 #include <string_view>
 #include <system_error>
 #include <utility>
+#include <variant>
 
 #include <nlohmann/json.hpp>
 #include <sys/mman.h>
@@ -18,43 +20,44 @@
 #include "console/dialogue/line_source.h"
 #include "console/plain_table.h"
 #include "console/report/report_file.h"
-#include "console/texts/texts.h"
-#include "siblings/vexo_rynek/rynek.h"
-#include "vexo_xyz_impl/text/printf_template.h"
+#include "console/speaking.h"
+#include "console/texts/say.h"
 
 namespace console {
 namespace {
 
+using vexo_xyz_impl::T;
+
 [[noreturn]] void fail(const char* what) { throw std::system_error(errno, std::generic_category(), what); }
 
 // A file in memory, which a process leaves to the one that started it.
-class Scratch {
+class Scratch final : public ByteSink {
  public:
   Scratch() : descriptor_(memfd_create("vexo-xyz", MFD_CLOEXEC)) {
     if (descriptor_ < 0) fail("making room for a process's words");
   }
-  Scratch(Scratch&& other) noexcept : descriptor_(std::exchange(other.descriptor_, -1)) {}
   Scratch(const Scratch&) = delete;
-  Scratch& operator=(Scratch&&) = delete;
   Scratch& operator=(const Scratch&) = delete;
-  ~Scratch() {
-    if (descriptor_ >= 0) close(descriptor_);
-  }
+  ~Scratch() override { close(descriptor_); }
 
-  void write(std::string_view bytes) const {
+  void write(std::string_view bytes) override {
     while (!bytes.empty()) {
       const ssize_t written = ::write(descriptor_, bytes.data(), bytes.size());
-      if (written <= 0) return;  // memory that is gone: the process's end tells of it
-      bytes.remove_prefix(static_cast<std::size_t>(written));
+      if (written < 0 && errno != EINTR) fail("keeping a process's words");
+      bytes.remove_prefix(static_cast<std::size_t>(std::max<ssize_t>(written, 0)));
     }
   }
 
   [[nodiscard]] std::string content() const {
-    std::string content;
-    std::array<char, 1U << 16U> piece{};
-    ssize_t got = 0;
-    for (off_t at = 0; (got = pread(descriptor_, piece.data(), piece.size(), at)) > 0; at += got)
-      content.append(piece.data(), static_cast<std::size_t>(got));
+    std::string content(static_cast<std::size_t>(std::max<off_t>(lseek(descriptor_, 0, SEEK_END), 0)), '\0');
+    std::size_t filled = 0;
+    while (filled < content.size()) {
+      const ssize_t got =
+          pread(descriptor_, content.data() + filled, content.size() - filled, static_cast<off_t>(filled));
+      if (got < 0 && errno == EINTR) continue;
+      if (got <= 0) fail("reading a process's words");
+      filled += static_cast<std::size_t>(got);
+    }
     return content;
   }
 
@@ -73,13 +76,15 @@ struct Task {
   struct Output {
     Scratch words;
     Scratch report;
+    Scratch drawing;  // the one that all go into, with this file's points
   };
   std::unique_ptr<Output> output;  // while it runs: descriptors are few
 };
 
 // The child's whole life.
-[[noreturn]] void import_in_child(const Task& task, SessionOptions options) {
+[[noreturn]] void import_in_child(Task& task, SessionOptions options) {
   options.file = task.file;
+  if (options.existing) options.existing_goes_to = &task.output->drawing;
   std::istringstream nobody;
   std::ostringstream words;
   ExitCode code = kFailure;
@@ -102,8 +107,8 @@ void start(Task& task, const SessionOptions& options) {
   if (task.process == 0) import_in_child(task, options);
 }
 
-// Whether one has ended.
-bool wait_for_one(std::vector<Task>& tasks) {
+// Whether one has ended. What it added to the drawing that all go into is the ground for the next.
+bool wait_for_one(std::vector<Task>& tasks, ExistingDrawing* existing) {
   int status = 0;
   const pid_t ended = wait(&status);
   if (ended < 0 && errno != EINTR) fail("waiting for a process");
@@ -112,6 +117,9 @@ bool wait_for_one(std::vector<Task>& tasks) {
   task->has_ended = true;
   task->words = task->output->words.content();
   task->report = task->output->report.content();
+  if (existing != nullptr && WIFEXITED(status) && WEXITSTATUS(status) == kImported) {
+    existing->go_on_with(task->output->drawing.content());
+  }
   task->output.reset();
   const int code = WIFEXITED(status) ? WEXITSTATUS(status) : kFailure;
   task->code = code <= kFailure ? static_cast<ExitCode>(code) : kFailure;
@@ -120,19 +128,15 @@ bool wait_for_one(std::vector<Task>& tasks) {
 
 class Summary {
  public:
-  Summary(const BatchOptions& options, std::ostream& out, std::ostream& reports)
-      : texts_(texts_in(options.each.choice.language.empty() ? vexo_rynek::Market(options.each.choice.market).rynek()
-                                                             : options.each.choice.language)),
-        out_(out),
-        reports_(reports) {
-    rows_.push_back({text("konsola.wsad_plik"), text("konsola.wsad_punkty"), text("konsola.wsad_rysunek"),
-                     text("konsola.wsad_wynik")});
+  Summary(std::ostream& out, std::ostream& reports) : out_(out), reports_(reports) {
+    rows_.push_back(
+        {T("konsola.wsad_plik"), T("konsola.wsad_punkty"), T("konsola.wsad_rysunek"), T("konsola.wsad_wynik")});
   }
 
   // What came of a file, told as soon as all before it have been.
   void add(const Task& task) {
     if (task.words.find_first_not_of('\n') != std::string::npos) out_ << task.file << ":\n" << task.words << '\n';
-    reports_ << (rows_.size() > 1 ? ",\n" : "[\n") << (task.report.empty() ? "null\n" : task.report) << std::flush;
+    all_reports_ += (rows_.size() > 1 ? ",\n" : "[\n") + (task.report.empty() ? "null\n" : task.report);
     out_ << std::flush;
     const auto found = nlohmann::json::parse(task.report, nullptr, false);
     long long points = 0;
@@ -145,29 +149,28 @@ class Summary {
     }
     points_ += points;
     files_ += task.code == kImported ? 1 : 0;
-    const std::string result = text(task.code == kImported          ? "konsola.wsad_wczytany"
-                                    : task.code == kNothingImported ? "konsola.wsad_odlozony"
-                                                                    : "konsola.wsad_blad");
+    const std::string result = T(task.code == kImported          ? "konsola.wsad_wczytany"
+                                 : task.code == kNothingImported ? "konsola.wsad_odlozony"
+                                                                 : "konsola.wsad_blad");
     rows_.push_back({task.file, std::to_string(points), drawing.empty() ? "-" : drawing,
                      reason.empty() ? result : result + ": " + reason});
     worst_ = std::max(worst_, task.code);
   }
 
+  [[nodiscard]] long long imported() const { return files_; }
+
   ExitCode end() {
-    reports_ << "]\n" << std::flush;
+    reports_ << all_reports_ << "]\n" << std::flush;
     out_ << plain_table({Align::left, Align::right, Align::left, Align::left}, rows_);
     const auto all = static_cast<long long>(rows_.size()) - 1;
-    out_ << vexo_xyz_impl::text::try_fill(text("konsola.wsad_razem"), {files_, all, points_}).value_or("")
-         << std::flush;
+    out_ << vexo_xyz_impl::filled("konsola.wsad_razem", {files_, all, points_}) << std::flush;
     return worst_;
   }
 
  private:
-  [[nodiscard]] std::string text(std::string_view key) const { return texts_->T(key); }
-
-  std::shared_ptr<vexo_xyz_impl::host::Texts> texts_;
   std::ostream& out_;
   std::ostream& reports_;
+  std::string all_reports_;
   std::vector<std::vector<std::string>> rows_;
   long long files_ = 0;
   long long points_ = 0;
@@ -181,20 +184,39 @@ ExitCode run_batch(const BatchOptions& options, std::ostream& out, std::ostream&
   each.unattended = true;
   each.interactive = false;
   each.quiet = true;
+  std::istringstream nobody;
+  const auto lines = lines_of_stream(nobody, out);
+  const Speaking speaking(each.choice, *lines, out);
+  if (each.into) {
+    OpenedDrawing opened = open_existing(*each.into);
+    if (const auto* const why_not = std::get_if<std::string>(&opened)) {
+      out << *why_not << std::flush;
+      return kFailure;
+    }
+    each.existing = std::move(std::get<std::unique_ptr<ExistingDrawing>>(opened));
+  }
   std::vector<Task> tasks(options.files.size());
   for (std::size_t i = 0; i < tasks.size(); ++i) tasks[i].file = options.files[i];
-  Summary summary(options, out, reports);
+  Summary summary(out, reports);
+  const unsigned jobs = each.existing ? 1 : options.jobs;  // each adds to what the one before it made
   std::size_t told = 0;
   std::size_t started = 0;
   std::size_t ended = 0;
   while (told < tasks.size()) {
-    while (started < tasks.size() && started - ended < options.jobs) start(tasks[started++], each);
-    ended += wait_for_one(tasks) ? 1 : 0;
+    while (started < tasks.size() && started - ended < jobs) start(tasks[started++], each);
+    ended += wait_for_one(tasks, each.existing.get()) ? 1 : 0;
     for (; told < tasks.size() && tasks[told].has_ended; ++told) {
       summary.add(tasks[told]);
       tasks[told] = {};
       tasks[told].has_ended = true;
     }
+  }
+  if (each.existing && summary.imported() > 0) {
+    if (const auto why_not = save_existing(*each.existing, nullptr, each.wishes.layers)) {
+      out << *why_not << std::flush;
+      return kFailure;
+    }
+    say("konsola.rys_zapisano", {each.existing->path().string(), each.existing->backup().string()});
   }
   return summary.end();
 }

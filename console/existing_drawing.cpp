@@ -3,6 +3,7 @@
 #include <cerrno>
 #include <string>
 #include <system_error>
+#include <utility>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -112,9 +113,25 @@ bool ExistingDrawing::is_unchanged() const {
   }
 }
 
-void ExistingDrawing::save(const Drawing& added, const Layers& layers) const {
+void ExistingDrawing::write(const Drawing& added, const Layers& layers, ByteSink& sink) const {
+  write_added(bytes_, outline_, added, layers, sink);
+}
+
+void ExistingDrawing::go_on_with(std::string bytes) {
+  outline_ = {};
+  memory_.reset();
+  written_ = std::move(bytes);
+  bytes_ = written_;
+  outline_ = outline_of(bytes_);
+}
+
+void ExistingDrawing::save(const Drawing* added, const Layers& layers) const {
   AtomicFile file(path_.parent_path());
-  write_added(bytes_, outline_, added, layers, file);
+  if (added != nullptr) {
+    write(*added, layers, file);
+  } else {
+    file.write(bytes_);
+  }
   file.flush();
   file.commit_keeping(path_, backup());
 }
@@ -136,7 +153,7 @@ OpenedDrawing open_existing(const std::filesystem::path& path) {
   }
 }
 
-std::optional<std::string> save_existing(const ExistingDrawing& drawing, const Drawing& added, const Layers& layers) {
+std::optional<std::string> save_existing(const ExistingDrawing& drawing, const Drawing* added, const Layers& layers) {
   if (!drawing.is_unchanged()) return text_of("konsola.rys_zmieniony", drawing.path());
   try {
     drawing.save(added, layers);

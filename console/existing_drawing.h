@@ -13,6 +13,7 @@
 #include "console/drawing/drawing.h"
 #include "console/drawing/wishes.h"
 #include "console/dxf/outline.h"
+#include "console/dxf/tag_writer.h"
 
 namespace console {
 
@@ -32,9 +33,15 @@ class ExistingDrawing {
   /// Whether the file on the disk is still the one that was read.
   [[nodiscard]] bool is_unchanged() const;
 
-  /// Writes the drawing with `added` in it; the former file becomes the backup. At every moment one of the two is
-  /// whole. Fails with FileFailure.
-  void save(const Drawing& added, const Layers& layers) const;
+  /// Writes the drawing with `added` in it.
+  void write(const Drawing& added, const Layers& layers, ByteSink& sink) const;
+
+  /// Goes on with bytes that were written of it. Fails with DrawingFault.
+  void go_on_with(std::string bytes);
+
+  /// Writes the file, with `added` in the drawing if there is something; the former file becomes the backup. At every
+  /// moment one of the two is whole. Fails with FileFailure.
+  void save(const Drawing* added, const Layers& layers) const;
 
  private:
   struct Identity {
@@ -51,6 +58,7 @@ class ExistingDrawing {
 
   std::filesystem::path path_;
   std::unique_ptr<char[]> memory_;  // NOLINT(modernize-avoid-c-arrays): bytes that nobody clears before they are read
+  std::string written_;             // in the place of those read
   std::string_view bytes_;
   Identity identity_;
   Outline outline_;
@@ -60,8 +68,9 @@ class ExistingDrawing {
 using OpenedDrawing = std::variant<std::unique_ptr<ExistingDrawing>, std::string>;
 [[nodiscard]] OpenedDrawing open_existing(const std::filesystem::path& path);
 
-/// Saves it with what was added, unless another program changed it meanwhile; why it was not saved.
-[[nodiscard]] std::optional<std::string> save_existing(const ExistingDrawing& drawing, const Drawing& added,
+/// Saves it, with what was added if there is something, unless another program changed it meanwhile; why it was not
+/// saved.
+[[nodiscard]] std::optional<std::string> save_existing(const ExistingDrawing& drawing, const Drawing* added,
                                                        const Layers& layers);
 
 }  // namespace console

@@ -17,6 +17,7 @@
 #include "console/batch.h"
 #include "console/check_arguments.h"
 #include "console/kept_memory.h"
+#include "console/manual.h"
 #include "console/prepare_arguments.h"
 #include "console/report/report_file.h"
 #include "console/session.h"
@@ -51,6 +52,16 @@ int run(int argc, char** argv) {
   console::declare_import(app, arguments);
   const CLI::App* const preparing = console::declare_prepare(app, prepare);
   const CLI::App* const checking = console::declare_check(app, check);
+  const auto print = [&app](std::string (*text)(const CLI::App&)) {
+    return [&app, text] {
+      std::cout << text(app);
+      throw CLI::Success();
+    };
+  };
+  app.add_subcommand("man", "Prints the manual page")->callback(print(console::manual_page))->group("");
+  app.add_subcommand("completion", "Prints what bash reads to complete the options")
+      ->callback(print(console::bash_completion))
+      ->group("");
   try {
     app.parse(console::separate_arguments(argc, argv));
     if (preparing->parsed()) {

@@ -12,6 +12,7 @@
 #include "console/prepare_log.h"
 #include "console/report/reasons.h"
 #include "console/shell_word.h"
+#include "console/speaking.h"
 #include "console/texts/say.h"
 #include "intake/foreign_table.h"
 #include "intake/seen_table.h"
@@ -198,10 +199,7 @@ PrepareResult prepare(const PrepareOptions& options, LineSource& lines) {
 }
 
 ExitCode run_prepare(const PrepareOptions& options, const Choice& choice, LineSource& lines, std::ostream& out) {
-  Database database;
-  Dialogue dialogue(lines, out, database.drawing().variables, std::nullopt, {});
-  SiblingRegistry siblings = family(database, choice);
-  const vexo_xyz_impl::Entered entered({{dialogue, database, siblings}, vexo_xyz_impl::bind_siblings(siblings)});
+  const Speaking speaking(choice, lines, out);
   return prepare(options, lines).code;
 }
 

@@ -53,6 +53,7 @@ Session::Session(SessionOptions options, LineSource& lines, std::ostream& out)
       entered_({{dialogue_, database_, siblings_, nullptr, this, &watcher_}, vexo_xyz_impl::bind_siblings(siblings_)}) {
   vexo_xyz_impl::register_command(*this);
   if (options_.preview) watcher_.take_pictures();
+  if (options_.existing) begin_with(options_.existing);
   if (options_.quiet) dialogue_.hold();
   dialogue_.check_typed_path([this](const std::string& path) {
     is_refused_ = report_is_refused() || preview_is_refused() || drawing_is_refused(vexo_xyz_impl::clean_path(path));
@@ -97,10 +98,14 @@ std::optional<std::string> Session::existing_refused() {
   if (existing_) return std::nullopt;
   OpenedDrawing opened = open_existing(path);
   if (const auto* const why_not = std::get_if<std::string>(&opened)) return *why_not;
-  existing_ = std::move(std::get<std::unique_ptr<ExistingDrawing>>(opened));
+  begin_with(std::move(std::get<std::unique_ptr<ExistingDrawing>>(opened)));
+  return std::nullopt;
+}
+
+void Session::begin_with(std::shared_ptr<ExistingDrawing> existing) {
+  existing_ = std::move(existing);
   database_.drawing() = Drawing(existing_->ground());
   watcher_.beside(existing_->places());
-  return std::nullopt;
 }
 
 IsFileOfPoints Session::is_points() const {
@@ -197,7 +202,12 @@ ExitCode Session::save() {
 }
 
 ExitCode Session::save_into_existing() {
-  if (failed(save_existing(*existing_, database_.drawing(), options_.wishes.layers))) return kFailure;
+  const Layers& layers = options_.wishes.layers;
+  if (options_.existing_goes_to != nullptr) {
+    existing_->write(database_.drawing(), layers, *options_.existing_goes_to);
+  } else if (failed(save_existing(*existing_, &database_.drawing(), layers))) {
+    return kFailure;
+  }
   const std::string drawing = existing_->path().string();
   say("konsola.rys_zapisano", {drawing, existing_->backup().string()});
   tell_repeating_command(drawing);

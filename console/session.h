@@ -31,6 +31,8 @@ struct SessionOptions {
   std::optional<vexo_xyz_impl::host::AxisOrder> axes;  ///< which coordinate stands first, told beforehand
   std::optional<std::filesystem::path> report;         ///< where what came of the import is written
   std::optional<std::filesystem::path> into;           ///< the drawing that the points are added to
+  std::shared_ptr<ExistingDrawing> existing;           ///< that drawing, if it is open already
+  ByteSink* existing_goes_to = nullptr;                ///< what is written of it, in the place of its file
   std::optional<std::filesystem::path> preview;        ///< where a picture of the points is drawn
   DrawingWishes wishes;
   std::vector<std::string> words;  ///< the options as a command line has them, for the command that repeats the import
@@ -66,6 +68,7 @@ class Session final : private vexo_xyz_impl::host::CommandTable, private vexo_xy
   [[nodiscard]] bool preview_is_refused();
   [[nodiscard]] bool drawing_is_refused(const std::filesystem::path& points);
   std::optional<std::string> existing_refused();
+  void begin_with(std::shared_ptr<ExistingDrawing> existing);
   ExitCode save_into_existing();
   ExitCode import_and_save();
   vexo_xyz_impl::host::CommandOutcome import_once();
@@ -82,7 +85,7 @@ class Session final : private vexo_xyz_impl::host::CommandTable, private vexo_xy
   Targets targets_;
   LineSource& lines_;
   std::optional<std::filesystem::path> prepared_from_;  // the file that the user chose
-  std::unique_ptr<ExistingDrawing> existing_;
+  std::shared_ptr<ExistingDrawing> existing_;
   Database database_;
   Dialogue dialogue_;
   SiblingRegistry siblings_;

@@ -30,7 +30,7 @@ SiblingRegistry family(Database& database, const Choice& choice) {
   SiblingRegistry registry;
   auto market = std::make_shared<vexo_rynek::Market>(choice.market);
   const std::string code = market->rynek();
-  registry.add("vexo_teksty", texts_in(choice.language.empty() ? code : choice.language));
+  registry.add("vexo_teksty", texts_in(choice.language.empty() ? code : choice.language, database.selectable_groups()));
   registry.add("vexo_rynek", std::move(market));
   registry.add("vexo_xyz_dane_PL", std::make_shared<vexo_xyz_dane::Tables>(vexo_xyz_dane_PL::tables()));
   registry.add("vexo_xyz_dane_DE", std::make_shared<vexo_xyz_dane::Tables>(vexo_xyz_dane_DE::tables()));

@@ -32,7 +32,7 @@ struct Choice {
   std::string language;  ///< "PL", "DE", "RO", "EN"
 };
 
-/// The whole family, working on `database`.
+/// The whole family, working on `database`, which tells whether its groups are selectable.
 [[nodiscard]] SiblingRegistry family(Database& database, const Choice& choice);
 
 }  // namespace console

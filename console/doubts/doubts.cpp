@@ -14,9 +14,9 @@ namespace {
 using vexo_xyz_impl::ImportSeen;
 using vexo_xyz_impl::Row;
 
-constexpr std::array<DoubtFunction, 8> kOfRows = {
-    doubt_degrees,  doubt_height,     doubt_header_columns, doubt_not_finite,
-    doubt_far_away, doubt_same_place, doubt_comma_in_label, doubt_rows_left_out,
+constexpr std::array<DoubtFunction, 9> kOfRows = {
+    doubt_degrees,    doubt_height,         doubt_header_columns, doubt_not_finite,    doubt_far_away,
+    doubt_same_place, doubt_comma_in_label, doubt_long_label,     doubt_rows_left_out,
 };
 
 constexpr std::array<DoubtFunction, 4> kOfImport = {

@@ -96,6 +96,7 @@ std::optional<Doubt> doubt_axes_unconfirmed(Evidence& evidence);
 std::optional<Doubt> doubt_repeated_number(Evidence& evidence);
 std::optional<Doubt> doubt_same_place(Evidence& evidence);
 std::optional<Doubt> doubt_comma_in_label(Evidence& evidence);
+std::optional<Doubt> doubt_long_label(Evidence& evidence);
 
 // rows.cpp
 std::optional<Doubt> doubt_rows_left_out(Evidence& evidence);

@@ -9,6 +9,7 @@
 
 #include "console/account/account_lines.h"
 #include "console/doubts/doubts.h"
+#include "console/drawing/drawing.h"
 #include "vexo_xyz_impl/messages.h"
 #include "vexo_xyz_impl/table/repeated_numbers.h"
 
@@ -130,6 +131,14 @@ std::optional<Doubt> doubt_same_place(Evidence& evidence) {
   const auto& punkty = evidence.seen.read.punkty;
   const auto found = at_the_place_of_an_earlier_one(punkty, has_number(*evidence.seen.verdict.fmt));
   return doubt_at("same_place", "konsola.watp_to_samo_miejsce", lines_of(evidence.places, found));
+}
+
+std::optional<Doubt> doubt_long_label(Evidence& evidence) {
+  const auto& punkty = evidence.seen.read.punkty;
+  std::vector<std::size_t> points;
+  for (std::size_t i = 0; i < punkty.size(); ++i)
+    if (punkty[i].nr.size() > kLongestLabel) points.push_back(i);
+  return doubt_at("long_label", "konsola.watp_dlugi_numer", lines_of(evidence.places, points));
 }
 
 std::optional<Doubt> doubt_comma_in_label(Evidence& evidence) {

@@ -27,6 +27,7 @@ class Database final : public vexo_xyz_impl::host::DatabaseServices,
   explicit Database(bool selectable_groups = true) : selectable_groups_(selectable_groups) {}
 
   [[nodiscard]] Drawing& drawing() { return drawing_; }
+  [[nodiscard]] bool selectable_groups() const { return selectable_groups_; }
   [[nodiscard]] OpenObjects& open_objects() { return open_objects_; }
 
   /// Objects now open, those that belong to no drawing yet among them.

@@ -23,16 +23,28 @@ std::string_view in_language(const Text& text, std::string_view language) {
 
 class BothTexts final : public vexo_xyz_impl::host::Texts {
  public:
-  explicit BothTexts(std::string_view language)
-      : family_(vexo_teksty::language_of(language).entries), entries_(own_entries(language)), own_(entries_) {}
+  BothTexts(std::string_view language, bool selectable_groups)
+      : family_(vexo_teksty::language_of(language).entries),
+        entries_(own_entries(language)),
+        own_(entries_),
+        selectable_groups_(selectable_groups) {}
   [[nodiscard]] std::string T(std::string_view key) const override {
-    return (key.starts_with("konsola.") ? own_ : family_).T(key);
+    const std::string_view outside = outside_of_cad(key);
+    return (outside.starts_with("konsola.") ? own_ : family_).T(outside);
   }
 
  private:
+  [[nodiscard]] std::string_view outside_of_cad(std::string_view key) const {
+    if (key == "xyz.grupa_hint_1")
+      return selectable_groups_ ? "konsola.grupa_wybieralna" : "konsola.grupa_niewybieralna";
+    if (key == "xyz.grupa_hint_2") return "konsola.grupa_polecenie";
+    return key == "xyz.zoom_hint" ? "konsola.zoom" : key;
+  }
+
   vexo_teksty::Catalogue family_;
   std::vector<vexo_teksty::Entry> entries_;
   vexo_teksty::Catalogue own_;
+  bool selectable_groups_;
 };
 
 }  // namespace
@@ -50,8 +62,8 @@ std::vector<vexo_teksty::Entry> own_entries(std::string_view language) {
   return entries;
 }
 
-std::shared_ptr<vexo_xyz_impl::host::Texts> texts_in(std::string_view language) {
-  return std::make_shared<BothTexts>(language);
+std::shared_ptr<vexo_xyz_impl::host::Texts> texts_in(std::string_view language, bool selectable_groups) {
+  return std::make_shared<BothTexts>(language, selectable_groups);
 }
 
 }  // namespace console

@@ -17,7 +17,9 @@ namespace console {
 /// The program's own entries in the language of that code, sorted by key; Polish for a code that names none.
 [[nodiscard]] std::vector<vexo_teksty::Entry> own_entries(std::string_view language);
 
-/// The family's texts and the program's own.
-[[nodiscard]] std::shared_ptr<vexo_xyz_impl::host::Texts> texts_in(std::string_view language);
+/// The family's texts and the program's own, and where the family speaks of what one does in a CAD program, words that
+/// make sense outside of one. `selectable_groups`: whether picking one member of a group picks them all.
+[[nodiscard]] std::shared_ptr<vexo_xyz_impl::host::Texts> texts_in(std::string_view language,
+                                                                   bool selectable_groups = true);
 
 }  // namespace console

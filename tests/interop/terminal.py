@@ -305,7 +305,7 @@ class Program(unittest.TestCase):
     def test_command_line(self):
         self.start("dane.csv", POINTS)
         for arguments, code, text in [
-            (["--nie-ma"], 2, "--nie-ma"), (["drugi.csv"], 2, "drugi.csv"), (["-o"], 2, "--output"),
+            (["--nie-ma"], 2, "--nie-ma"), (["drugi.csv", "-o", "a"], 2, "--output"), (["-o"], 2, "--output"),
             (["--axes", "sideways"], 2, "sideways"), (["--first-column", ""], 2, "--first-column"),
             (["--market", "FR"], 2, "FR"), (["-o", "a", "-o", "b"], 2, "--output"), (["-o", ""], 2, "--output"),
             (["-o", "-"], 2, "standard output"), (["--force"], 2, "--output"), (["--version"], 0, "vexo-xyz"),

@@ -70,6 +70,11 @@ def without_date(text):
     return re.sub(r"\d{4}-\d\d-\d\d", "DATE", text)
 
 
+def without_hints(text):
+    """Without what to do with groups and views, which the program says for people at a shell prompt."""
+    return re.sub(r".*ZOOM.*\n", "", re.sub(r"(PIKIETY_DATE_\S+\n)(  .*\n)+", r"\1", text))
+
+
 class Loading(unittest.TestCase):
     def test_market_and_failing_steps(self):
         needed = ["vexo_teksty", "vexo_xyz_dane_PL", "vexo_cad_core"]
@@ -107,13 +112,13 @@ class Loading(unittest.TestCase):
         target = os.path.join(home.name, "drawn.dxf")
         console = subprocess.run([program, "--market", market, "-o", target, source], input=f"{word}\n", text=True,
                                  env=os.environ | {"XDG_STATE_HOME": home.name}, capture_output=True, timeout=PATIENCE)
-        imported = without_date(shown)
-        said = "".join(line for line in without_date(console.stdout).splitlines(True)
+        imported = without_hints(without_date(shown))
+        said = "".join(line for line in without_hints(without_date(console.stdout)).splitlines(True)
                        if not line.startswith("    ") or line in imported)  # the program knows more of a reading
         self.assertEqual(said[:len(imported)], imported)
         self.assertEqual((still_open, os.path.exists(target)), ([], bool(entities)))
         if entities:
-            self.assertTrue(said.endswith(f" {target}\n"), said)
+            self.assertIn(f" {target}\n", said)
             self.check_same_drawing(target, entities, groups, variables)
 
     def check_same_drawing(self, target, entities, groups, variables):
