@@ -10,6 +10,7 @@
 #include "console/drawing/database.h"
 #include "console/plain_table.h"
 #include "console/preview/svg_elements.h"
+#include "vexo_xyz_impl/drawing/control.h"
 #include "vexo_xyz_impl/messages.h"
 
 namespace console {
@@ -81,7 +82,7 @@ ordered_json point_as_json(const ChangedPoint& changed, const CheckedDrawing& dr
 std::string check_as_text(const CheckedDrawing& drawing) {
   const ControlFindings& findings = drawing.findings;
   if (findings.controlled == 0 && findings.changed.empty())
-    return filled("konsola.kontrola_brak", {std::string_view(drawing.path)});
+    return filled("konsola.kontrola_brak", {std::string_view(drawing.path), count_of(vexo_xyz_impl::_MAX_KONTROLA)});
   std::string text = findings.changed.empty() ? std::string() : table_of(drawing);
   const std::string tolerance = spelled(drawing.tolerance, 6);
   text += filled("konsola.kontrola_suma",

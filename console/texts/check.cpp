@@ -10,16 +10,19 @@ std::span<const Text> check_texts() {
        "%s: die Datei gibt es nicht, oder sie ist keine gewöhnliche. Bitte eine DXF-Zeichnung angeben.\n",
        "%s: fișierul nu există sau nu este un fișier obișnuit. Dați un desen DXF.\n",
        "%s: there is no such file, or it is not an ordinary one. Give a DXF drawing.\n"},
-      {"konsola.kontrola_brak", "s",  // path
-       "W rysunku %s żaden punkt nie jest pod kontrolą: nie wczytano ich tym programem albo inny program usunął zapisy "
-       "kontrolne.\n",
-       "In der Zeichnung %s steht kein Punkt unter Kontrolle: entweder wurde keiner mit diesem Programm eingelesen, "
-       "oder "
-       "ein anderes hat die Kontrolldaten entfernt.\n",
-       "În desenul %s niciun punct nu este sub control: nu au fost citite cu acest program sau alt program a șters "
-       "datele de control.\n",
-       "In the drawing %s no point is under control: none was imported by this program, or another one has removed the "
-       "control records.\n"},
+      {"konsola.kontrola_brak", "sd",  // path, the most points of an import that are controlled
+       "W rysunku %s żaden punkt nie jest pod kontrolą: nie wczytano ich tym programem, wczytano naraz więcej niż %d "
+       "albo "
+       "inny program usunął zapisy kontrolne.\n",
+       "In der Zeichnung %s steht kein Punkt unter Kontrolle: es wurde keiner mit diesem Programm eingelesen, es waren "
+       "mehr "
+       "als %d auf einmal, oder ein anderes Programm hat die Kontrolldaten entfernt.\n",
+       "În desenul %s niciun punct nu este sub control: nu au fost citite cu acest program, au fost citite mai mult de "
+       "%d "
+       "deodată sau alt program a șters datele de control.\n",
+       "In the drawing %s no point is under control: none was imported by this program, more than %d were at a time, "
+       "or "
+       "another program has removed the control records.\n"},
       {"konsola.kontrola_suma", "ddsddd",  // points, in place, tolerance, moved, deleted, copied
        "Punkty pod kontrolą: %d, na miejscu: %d (tolerancja %s m); przesunięte: %d, usunięte: %d, kopie: %d.\n",
        "Punkte unter Kontrolle: %d, an ihrem Ort: %d (Toleranz %s m); verschoben: %d, gelöscht: %d, Kopien: %d.\n",
