@@ -25,6 +25,8 @@ class ExistingDrawing {
 
   [[nodiscard]] const std::filesystem::path& path() const { return path_; }
   [[nodiscard]] std::filesystem::path backup() const { return path_.string() + ".bak"; }
+  [[nodiscard]] std::string_view bytes() const { return bytes_; }
+  [[nodiscard]] const Outline& outline() const { return outline_; }
   [[nodiscard]] Ground ground() const;
   [[nodiscard]] const Column<PlanPoint>& places() const { return outline_.places; }  ///< what model space holds
 

@@ -16,6 +16,7 @@
 
 #include "console/arguments.h"
 #include "console/batch.h"
+#include "console/check_arguments.h"
 #include "console/dialogue/typed_path.h"
 #include "console/kept_memory.h"
 #include "console/manual.h"
@@ -49,8 +50,10 @@ int run(int argc, char** argv) {
   CLI::App app("Imports files of surveyed points into drawings: a point and its number for each row.", "vexo-xyz");
   console::Arguments arguments;
   console::PrepareArguments prepare;
+  console::CheckArguments check;
   console::declare_import(app, arguments);
   const CLI::App* const preparing = console::declare_prepare(app, prepare);
+  const CLI::App* const checking = console::declare_check(app, check);
   const auto print = [&app](std::string (*text)(const CLI::App&)) {
     return [&app, text] {
       std::cout << text(app);
@@ -65,6 +68,8 @@ int run(int argc, char** argv) {
     app.parse(console::separate_arguments(argc, argv));
     if (preparing->parsed()) {
       console::check_market(prepare.choice);
+    } else if (checking->parsed()) {
+      console::check_market(check.choice);
     } else {
       console::check(app, arguments);
     }
@@ -73,11 +78,12 @@ int run(int argc, char** argv) {
   }
   for (std::string& file : arguments.files) file = console::existing_path(std::move(file));
   prepare.options.file = console::existing_path(std::move(prepare.options.file));
-  const bool is_asked_for_json = arguments.json && !preparing->parsed();
+  const bool is_asked_for_json = checking->parsed() ? check.options.json : arguments.json && !preparing->parsed();
   std::ostream& out = is_asked_for_json ? std::cerr : std::cout;
   const auto lines = typed_lines(out);
   prepare.options.shows_progress = isatty(STDOUT_FILENO) != 0;
   if (preparing->parsed()) return console::run_prepare(prepare.options, prepare.choice, *lines, std::cout);
+  if (checking->parsed()) return console::run_check(check.options, check.choice, *lines, out);
   std::ostream nowhere(nullptr);
   std::ostream& reports = is_asked_for_json ? std::cout : nowhere;
   console::SessionOptions options = console::session_options(app, arguments, at_a_terminal());

@@ -14,6 +14,7 @@
 #include "console/files.h"
 #include "console/prepare.h"
 #include "console/prepare_log.h"
+#include "console/preview/svg.h"
 #include "console/repeat.h"
 #include "console/report/reasons.h"
 #include "console/report/report_file.h"
@@ -46,7 +47,7 @@ std::vector<Findings::RowNotTakenOver> rows_not_taken_over(const intake::Prepare
 
 Session::Session(SessionOptions options, LineSource& lines, std::ostream& out)
     : options_(std::move(options)),
-      targets_{options_.output, options_.force, options_.report},
+      targets_{options_.output, options_.force, options_.report, options_.preview},
       progress_(options_.shows_progress ? std::make_unique<Progress>(STDOUT_FILENO) : nullptr),
       lines_(lines, progress_.get()),
       database_(options_.wishes.group_selectable),
@@ -55,6 +56,7 @@ Session::Session(SessionOptions options, LineSource& lines, std::ostream& out)
       watcher_(options_.unattended),
       entered_({{dialogue_, database_, siblings_, nullptr, this, &watcher_}, vexo_xyz_impl::bind_siblings(siblings_)}) {
   vexo_xyz_impl::register_command(*this);
+  if (options_.preview) watcher_.take_pictures();
   if (options_.existing) begin_with(options_.existing);
   if (options_.quiet) dialogue_.hold();
   dialogue_.pause_for_texts(progress_.get());
@@ -64,7 +66,7 @@ Session::Session(SessionOptions options, LineSource& lines, std::ostream& out)
     database_.count_for(progress_.get());  // a point and its label each
   });
   dialogue_.check_typed_path([this](const std::string& path) {
-    is_refused_ = report_is_refused() || drawing_is_refused(vexo_xyz_impl::clean_path(path));
+    is_refused_ = report_is_refused() || preview_is_refused() || drawing_is_refused(vexo_xyz_impl::clean_path(path));
     return !is_refused_;
   });
 }
@@ -93,6 +95,8 @@ bool Session::failed(const std::optional<std::string>& text) {
 
 bool Session::report_is_refused() { return failed(report_refused(targets_, is_points())); }
 
+bool Session::preview_is_refused() { return failed(preview_refused(targets_, is_points())); }
+
 bool Session::drawing_is_refused(const std::filesystem::path& points) {
   return failed(options_.into ? existing_refused() : drawing_refused(targets_, points, is_points()));
 }
@@ -119,11 +123,11 @@ IsFileOfPoints Session::is_points() const {
 }
 
 ExitCode Session::run() {
-  if (report_is_refused()) return kFailure;  // before any question
+  if (report_is_refused() || preview_is_refused()) return kFailure;  // before any question
   const std::filesystem::path given = vexo_xyz_impl::clean_path(options_.file.value_or(std::string()));
   const ExitCode code = drawing_is_refused(given) ? kFailure : import_and_save();
   if (code == kFailure) watcher_.drawing_failed();
-  const ExitCode all_told = save_report(code);
+  const ExitCode all_told = save_report(save_preview(code));
   if (options_.quiet) end_quietly(all_told);
   return all_told;
 }
@@ -234,6 +238,24 @@ void Session::tell_repeating_command(const std::string& drawing) {
   const std::string repeat = repeating_command(dialogue_.path(), options_.words, watcher_.findings().answers);
   watcher_.saved(drawing, repeat);
   say("konsola.prep_powtorz", {repeat});
+}
+
+ExitCode Session::save_preview(ExitCode so_far) {
+  if (!options_.preview || so_far != kImported) return so_far;
+  if (preview_is_refused()) return kFailure;  // also of what was prepared meanwhile
+  const std::string path = options_.preview->string();
+  Picture& picture = watcher_.picture();
+  picture.file = source().filename().string();
+  if (!database_.drawing().groups().empty()) picture.group = database_.drawing().groups().front().name;
+  try {
+    write_picture(picture, *options_.preview);
+    say("konsola.podglad_zapisano", {path});
+    return so_far;
+  } catch (const std::system_error& failure) {
+    const std::string reason = failure_text(failure);
+    failed(vexo_xyz_impl::filled("konsola.podglad_blad", {std::string_view(path), std::string_view(reason)}));
+    return kFailure;
+  }
 }
 
 ExitCode Session::save_report(ExitCode so_far) {

@@ -67,6 +67,7 @@ class Session final : private vexo_xyz_impl::host::CommandTable, private vexo_xy
   // Whether there is a text of a failure: then the user is told and the log has it.
   bool failed(const std::optional<std::string>& text);
   [[nodiscard]] bool report_is_refused();
+  [[nodiscard]] bool preview_is_refused();
   [[nodiscard]] bool drawing_is_refused(const std::filesystem::path& points);
   std::optional<std::string> existing_refused();
   void begin_with(std::shared_ptr<ExistingDrawing> existing);
@@ -80,6 +81,7 @@ class Session final : private vexo_xyz_impl::host::CommandTable, private vexo_xy
   ExitCode save();
   void tell_repeating_command(const std::string& drawing);
   void end_quietly(ExitCode code);
+  ExitCode save_preview(ExitCode so_far);
   ExitCode save_report(ExitCode so_far);
   std::filesystem::path write_drawing();
 

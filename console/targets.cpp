@@ -5,6 +5,7 @@
 
 #include "console/failure_text.h"
 #include "console/files.h"
+#include "console/preview/svg.h"
 #include "console/report/report_file.h"
 #include "vexo_xyz_impl/messages.h"
 
@@ -41,6 +42,24 @@ std::optional<std::string> refused_beside(const std::filesystem::path& points) {
   return filled("konsola.blad_zapisu", drawing_name(points, 1), failure_text(*refusal)) + T("konsola.rada_nazwa");
 }
 
+bool is_name(const std::filesystem::path& path, const std::optional<std::filesystem::path>& other) {
+  return other && path.lexically_normal() == other->lexically_normal();
+}
+
+// Of what is written beside the drawing: only what was written there before is replaced.
+std::optional<std::string> reason_against(const std::filesystem::path& path, const Targets& targets,
+                                          const IsFileOfPoints& is_file_of_points,
+                                          bool (*may_be_replaced)(const std::filesystem::path& path)) {
+  std::error_code ignored;
+  const auto status = std::filesystem::status(path, ignored);
+  if (is_file_of_points(path)) return T("konsola.powod_plik_punktow");
+  if (is_name(path, targets.output)) return T("konsola.powod_rysunek");
+  if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status)) return T("konsola.powod_nie_plik");
+  if (std::filesystem::exists(status) && !may_be_replaced(path)) return T("konsola.powod_nie_raport");
+  if (const auto refusal = refusal_of(path)) return failure_text(*refusal);
+  return std::nullopt;
+}
+
 }  // namespace
 
 std::optional<std::string> drawing_refused(const Targets& targets, const std::filesystem::path& points,
@@ -59,24 +78,16 @@ std::optional<std::string> drawing_refused(const Targets& targets, const std::fi
 
 std::optional<std::string> report_refused(const Targets& targets, const IsFileOfPoints& is_file_of_points) {
   if (!targets.report) return std::nullopt;
-  const std::filesystem::path& report = *targets.report;
-  std::error_code ignored;
-  const auto status = std::filesystem::status(report, ignored);
-  std::string reason;
-  if (is_file_of_points(report)) {
-    reason = T("konsola.powod_plik_punktow");
-  } else if (targets.output && report.lexically_normal() == targets.output->lexically_normal()) {
-    reason = T("konsola.powod_rysunek");
-  } else if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status)) {
-    reason = T("konsola.powod_nie_plik");
-  } else if (std::filesystem::exists(status) && !is_report(report)) {
-    reason = T("konsola.powod_nie_raport");
-  } else if (const auto refusal = refusal_of(report)) {
-    reason = failure_text(*refusal);
-  } else {
-    return std::nullopt;
-  }
-  return filled("konsola.raport_blad", report, reason);
+  const auto reason = reason_against(*targets.report, targets, is_file_of_points, is_report);
+  return reason ? std::optional(filled("konsola.raport_blad", *targets.report, *reason)) : std::nullopt;
+}
+
+std::optional<std::string> preview_refused(const Targets& targets, const IsFileOfPoints& is_file_of_points) {
+  if (!targets.preview) return std::nullopt;
+  const auto reason = is_name(*targets.preview, targets.report)
+                          ? std::optional(T("konsola.powod_raport"))
+                          : reason_against(*targets.preview, targets, is_file_of_points, is_picture);
+  return reason ? std::optional(filled("konsola.podglad_blad", *targets.preview, *reason)) : std::nullopt;
 }
 
 std::filesystem::path with_extension(std::filesystem::path output) {

@@ -32,15 +32,6 @@ bool needs_encoding(std::string_view label) {
   });
 }
 
-// The C library's name of a code page: CP1250 for ANSI_1250, CP852 for dos852, ISO8859-2 as it stands.
-std::string library_name(std::string_view code_page) {
-  std::string name(code_page);
-  std::transform(name.begin(), name.end(), name.begin(), text::ascii_upper);
-  for (const std::string_view prefix : {"ANSI_", "DOS"})
-    if (name.starts_with(prefix)) return "CP" + name.substr(prefix.size());
-  return name;
-}
-
 void append_unit(std::string& to, char32_t unit) {
   constexpr std::string_view kDigits = "0123456789ABCDEF";
   to += "\\U+";
@@ -54,6 +45,14 @@ void append_by_number(std::string& to, char32_t letter) {
 }
 
 }  // namespace
+
+std::string library_name(std::string_view code_page) {
+  std::string name(code_page);
+  std::transform(name.begin(), name.end(), name.begin(), text::ascii_upper);
+  for (const std::string_view prefix : {"ANSI_", "DOS"})
+    if (name.starts_with(prefix)) return "CP" + name.substr(prefix.size());
+  return name;
+}
 
 // Letters beyond ASCII as one code page has them. Each is asked for once.
 class TextEncoding::CodePage {

@@ -175,6 +175,8 @@ void ImportWatcher::ended(const ImportSeen& seen) {
     findings_.reason = reason_named(seen.verdict.fmt ? "axes_open" : "columns_open");
   if (seen.outcome == CommandOutcome::failed && !seen.failure)  // the module tells the log of its own failures only
     vexo_xyz_impl::notify_failure(vexo_xyz_impl::OSError(shown_text(seen.path) + ": " + findings_.reason.text));
+  if (takes_pictures_ && findings_.outcome == Outcome::imported)
+    picture_ = picture_of(seen, *places_, findings_.doubts);
   places_.reset();
   header_.reset();
 }

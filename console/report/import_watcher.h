@@ -9,6 +9,7 @@
 
 #include "console/doubts/doubts.h"
 #include "console/dxf/outline.h"
+#include "console/preview/picture.h"
 #include "console/report/findings.h"
 #include "vexo_xyz_impl/host/command_line.h"
 #include "vexo_xyz_impl/host/import_watch.h"
@@ -35,6 +36,12 @@ class ImportWatcher final : public vexo_xyz_impl::host::ImportWatch {
   /// The file that is imported next was made of another, of which these rows were not taken over.
   void made_of(std::string path, std::vector<Findings::RowNotTakenOver> left_out);
 
+  /// From now on a picture of each import is taken, for which its points are copied.
+  void take_pictures() { takes_pictures_ = true; }
+
+  /// Of the import that ended last; without points when none was taken.
+  [[nodiscard]] Picture& picture() { return picture_; }
+
   /// The drawing was not saved, or may not be.
   void drawing_failed() { findings_.outcome = Outcome::failed; }
 
@@ -55,6 +62,8 @@ class ImportWatcher final : public vexo_xyz_impl::host::ImportWatch {
   bool sets_open_files_aside_;
   bool is_set_aside_ = false;
   Findings findings_;
+  bool takes_pictures_ = false;
+  Picture picture_;
   std::string made_of_;
   std::vector<Findings::RowNotTakenOver> not_taken_over_;
   const Column<PlanPoint>* drawing_ = nullptr;

@@ -10,8 +10,8 @@ namespace {
 
 template <class Visit>
 void for_each_text(Visit visit) {
-  for (const auto topic :
-       {program_texts, account_texts, batch_texts, doubt_texts, reason_texts, prepare_texts, into_texts})
+  for (const auto topic : {program_texts, account_texts, batch_texts, check_texts, doubt_texts, reason_texts,
+                           prepare_texts, into_texts, preview_texts})
     for (const Text& text : topic()) visit(text);
 }
 

@@ -23,6 +23,8 @@ struct Text {
 [[nodiscard]] std::span<const Text> doubt_texts();
 [[nodiscard]] std::span<const Text> reason_texts();
 [[nodiscard]] std::span<const Text> prepare_texts();
+[[nodiscard]] std::span<const Text> check_texts();
 [[nodiscard]] std::span<const Text> into_texts();
+[[nodiscard]] std::span<const Text> preview_texts();
 
 }  // namespace console

@@ -1,0 +1,57 @@
+#include "console/check/check.h"
+
+#include <iostream>
+#include <memory>
+#include <optional>
+#include <string>
+#include <system_error>
+#include <variant>
+
+#include "console/check/check_report.h"
+#include "console/dialogue/dialogue.h"
+#include "console/drawing/database.h"
+#include "console/existing_drawing.h"
+#include "console/texts/say.h"
+#include "vexo_xyz_impl/bindings.h"
+#include "vexo_xyz_impl/command/module.h"
+
+namespace console {
+namespace {
+
+ExitCode check(const CheckOptions& options, Dialogue& dialogue) {
+  std::error_code ignored;
+  if (!std::filesystem::is_regular_file(options.file, ignored)) {
+    say("konsola.kontrola_nie_plik", {options.file.string()});
+    return kFailure;
+  }
+  const OpenedDrawing opened = open_existing(options.file);
+  if (const auto* const why_not = std::get_if<std::string>(&opened)) {
+    dialogue.gcutPrintf(*why_not);
+    return kFailure;
+  }
+  const ExistingDrawing& drawing = *std::get<std::unique_ptr<ExistingDrawing>>(opened);
+  const DrawingPoints points = points_in(drawing.bytes(), drawing.outline());
+  const ControlFindings findings = check_control(points, options.tolerance);
+  const Tag* const code_page = drawing.outline().variable("$DWGCODEPAGE");
+  const TextDecoding decoded(drawing.outline().version,
+                             code_page == nullptr ? std::string_view("ANSI_1250") : code_page->trimmed());
+  const CheckedDrawing checked = {options.file.string(), options.tolerance, points, findings, decoded};
+  if (options.json) {
+    std::cout << check_as_json(checked) << std::flush;
+  } else {
+    dialogue.gcutPrintf(check_as_text(checked));
+  }
+  return findings.controlled > 0 && findings.changed.empty() ? kImported : kNothingImported;
+}
+
+}  // namespace
+
+ExitCode run_check(const CheckOptions& options, const Choice& choice, LineSource& lines, std::ostream& out) {
+  Database database;
+  Dialogue dialogue(lines, out, database.drawing().variables, std::nullopt, {});
+  SiblingRegistry siblings = family(database, choice);
+  const vexo_xyz_impl::Entered entered({{dialogue, database, siblings}, vexo_xyz_impl::bind_siblings(siblings)});
+  return check(options, dialogue);
+}
+
+}  // namespace console

@@ -1,0 +1,92 @@
+#include "console/preview/svg_elements.h"
+
+#include <array>
+#include <charconv>
+
+#include "vexo_xyz_impl/text/utf8.h"
+
+namespace console {
+namespace {
+
+// Characters that XML 1.0 knows and that show.
+bool is_shown(char32_t c) {
+  return c >= 0x20 && !(c >= 0x7F && c < 0xA0) && c != 0xFFFE && c != 0xFFFF && !(c >= 0xD800 && c < 0xE000);
+}
+
+void append_attribute(std::string& markup, std::string_view name, double value) {
+  markup += ' ';
+  markup += name;
+  markup += "=\"" + spelled(value) + "\"";
+}
+
+}  // namespace
+
+std::string escaped(std::string_view text) {
+  std::string safe;
+  for (std::size_t at = 0; at < text.size();) {
+    const auto letter = vexo_xyz_impl::text::decode(text, at);
+    const char32_t c = letter ? letter->value : U'\uFFFD';
+    at += letter ? letter->bytes : 1;
+    if (c == '<') {
+      safe += "&lt;";
+    } else if (c == '>') {
+      safe += "&gt;";
+    } else if (c == '&') {
+      safe += "&amp;";
+    } else if (c == '"') {
+      safe += "&quot;";
+    } else if (is_shown(c)) {
+      vexo_xyz_impl::text::append(safe, c);
+    }
+  }
+  return safe;
+}
+
+std::string with_decimals(double value, int decimals) {
+  std::array<char, 400> digits{};
+  auto* const end =
+      std::to_chars(digits.data(), digits.data() + digits.size(), value, std::chars_format::fixed, decimals).ptr;
+  return {digits.data(), end};
+}
+
+std::string spelled(double value, int decimals) {
+  std::string text = with_decimals(value, decimals);
+  if (text.find('.') != std::string::npos) {
+    text.erase(text.find_last_not_of('0') + 1);
+    if (text.ends_with('.')) text.pop_back();
+  }
+  return text == "-0" ? "0" : text;
+}
+
+void SvgElements::line(double x1, double y1, double x2, double y2, std::string_view colour, double width) {
+  markup_ += "<line";
+  append_attribute(markup_, "x1", x1);
+  append_attribute(markup_, "y1", y1);
+  append_attribute(markup_, "x2", x2);
+  append_attribute(markup_, "y2", y2);
+  append_attribute(markup_, "stroke-width", width);
+  markup_ += " stroke=\"" + std::string(colour) + "\"/>\n";
+}
+
+void SvgElements::rectangle(double x, double y, double width, double height, std::string_view attributes) {
+  markup_ += "<rect";
+  append_attribute(markup_, "x", x);
+  append_attribute(markup_, "y", y);
+  append_attribute(markup_, "width", width);
+  append_attribute(markup_, "height", height);
+  markup_ += " " + std::string(attributes) + "/>\n";
+}
+
+void SvgElements::text(double x, double y, double size, std::string_view content, Anchor anchor,
+                       std::string_view attributes) {
+  constexpr std::array<std::string_view, 3> kAnchors = {"", " text-anchor=\"middle\"", " text-anchor=\"end\""};
+  markup_ += "<text";
+  append_attribute(markup_, "x", x);
+  append_attribute(markup_, "y", y);
+  append_attribute(markup_, "font-size", size);
+  markup_ += kAnchors[static_cast<std::size_t>(anchor)];
+  if (!attributes.empty()) markup_ += " " + std::string(attributes);
+  markup_ += ">" + escaped(content) + "</text>\n";
+}
+
+}  // namespace console
