@@ -146,7 +146,7 @@ void import(const std::string& path, Steps& steps) {
 void save(const console::Drawing& drawing, const std::string& target, Steps& steps) {
   console::AtomicFile file(std::filesystem::path(target).parent_path());
   TimedSink sink(file);
-  console::write_dxf(drawing, "ANSI_1250", sink);
+  console::write_dxf(drawing, {}, "ANSI_1250", sink);
   steps.done("make the DXF text", sink.used);
   steps.add("write to the file", sink.used);
   file.flush();

@@ -98,8 +98,8 @@ std::optional<double> least_distance(std::vector<PlanPoint> points, const Column
 
 std::string distance_text(double metres) {
   constexpr double kKilometre = 1000.0;
-  constexpr double kWithDecimal = 10.0;  // below it the first decimal is of interest
-  const bool is_far = metres >= kKilometre;
+  constexpr double kWithDecimal = 9.95;  // from there on the first decimal says nothing
+  const bool is_far = metres >= kKilometre - 0.5;
   const double value = is_far ? metres / kKilometre : metres;
   std::array<char, 400> digits{};
   char* const end = std::to_chars(digits.data(), digits.data() + digits.size(), value, std::chars_format::fixed,

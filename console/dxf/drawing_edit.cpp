@@ -27,8 +27,9 @@ std::string spelled(double value) {
 
 DxfForm form_of(const Outline& outline) {
   DxfForm form{static_cast<DxfVersion>(outline.version), {}};
-  const Tag* const code_page = outline.variable("$DWGCODEPAGE");
-  if (!form.is_utf8()) form.encoding = TextEncoding(code_page == nullptr ? std::string_view() : code_page->trimmed());
+  const Tag* const told = outline.variable("$DWGCODEPAGE");
+  const std::string_view code_page = told == nullptr ? std::string_view() : told->trimmed();
+  if (!form.is_utf8()) form.encoding = TextEncoding(code_page.empty() ? "ASCII" : code_page);
   return form;
 }
 

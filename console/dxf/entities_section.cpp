@@ -76,7 +76,7 @@ class EntityWriter {
     tags_.lines(kind);
     tags_.handle(5, handle);
     if (form_.has_subclasses()) reactors_.write(tags_, handle);
-    if (form_.has_owners()) tags_.handle(330, owner_);
+    if (form_.has_owners() && owner_ != 0) tags_.handle(330, owner_);
   }
 
   void write(Handle handle, const PointGeometry& point) {

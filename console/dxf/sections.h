@@ -23,7 +23,7 @@ struct Extents {
 struct EntityPlaces {
   const DxfForm& form;
   const Layers& layers;
-  Handle model_space;  ///< their owner, in versions that have owners
+  Handle model_space;  ///< their owner, in versions that have owners; 0: there is none
 };
 
 /// The drawing's entities, without the section around them. Handles rise.

@@ -11,6 +11,7 @@
 
 #include "console/account/account_lines.h"
 #include "console/files.h"
+#include "console/nearness.h"
 #include "vexo_xyz_impl/messages.h"
 
 namespace console {
@@ -120,6 +121,10 @@ std::string as_text(const Findings& findings) {
     text += filled("konsola.raport_przygotowano", {std::string_view(findings.prepared_from)});
   add_rows(text, findings.prepared_left_out);
   for (const Doubt& doubt : findings.doubts) text += filled("konsola.watpliwosc", {std::string_view(doubt.text)});
+  if (findings.from_drawing) {
+    const std::string distance = distance_text(*findings.from_drawing);
+    text += filled("konsola.rys_odleglosc", {std::string_view(distance)});
+  }
   if (!findings.drawing.empty()) {
     text += filled("konsola.zapisano", {std::string_view(findings.drawing)});
     text += filled("konsola.prep_powtorz", {std::string_view(findings.repeat)});
@@ -150,6 +155,7 @@ std::string report_as_json(const Findings& findings) {
   if (!findings.prepared_from.empty())
     add("prepared", "{\"from\": " + json(findings.prepared_from) +
                         ", \"left_out\": " + rows_as_json(findings.prepared_left_out) + "}");
+  if (findings.from_drawing) add("from_drawing", json(*findings.from_drawing));
   if (!findings.drawing.empty()) {
     add("drawing", json(findings.drawing));
     add("repeat", json(findings.repeat));
