@@ -48,7 +48,7 @@ class Check {
       ++records_;
       by_recorded_[point.recorded].push_back(&point);
     }
-    are_handles_new_ = handles_are_new();
+    are_handles_new_ = handles_are_new();  // NOLINT(cppcoreguidelines-prefer-member-initializer): of what was gathered
   }
 
   ControlFindings run() {

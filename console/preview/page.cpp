@@ -120,7 +120,11 @@ std::vector<double> multiples(double step, double low, double high) {
   constexpr std::size_t kMost = 100;
   std::vector<double> all;
   const double first = std::ceil(low / step);
-  for (double at = first; at * step <= high && all.size() < kMost; at += 1.0) all.push_back(at * step);
+  while (all.size() < kMost) {
+    const double at = (first + static_cast<double>(all.size())) * step;
+    if (at > high) break;
+    all.push_back(at);
+  }
   return all;
 }
 

@@ -22,6 +22,10 @@ constexpr double kUsual = 30.0;
 constexpr double kLarge = 46.0;
 constexpr double kArrowRoom = 160.0;  // beside the title
 
+std::string outline(double width) {
+  return attribute("fill", "none") + attribute("stroke-width", width) + attribute("stroke", kInk);
+}
+
 long long count_of(std::size_t count) { return static_cast<long long>(count); }
 
 // The text, or as much of its beginning as there is room for.
@@ -59,12 +63,12 @@ void draw_north(SvgElements& svg, const Picture& picture, const Page& page) {
   constexpr double kHeight = 130.0;
   const double x = page.frame.right - kArrowRoom / 2 + kHalf;
   const double top = 140.0;
-  svg.text(x, top - 12, kLarge, picture.axes_known ? "N" : "N?", Anchor::middle, "font-weight=\"bold\"");
+  svg.text(x, top - 12, kLarge, picture.axes_known ? "N" : "N?", Anchor::middle, attribute("font-weight", "bold"));
   const auto at = [](double across, double down) { return spelled(across) + "," + spelled(down) + " "; };
   const std::string half = at(x, top) + at(x - kHalf, top + kHeight) + at(x, top + kHeight * 0.78);
-  svg.add("<polygon fill=\"" + std::string(kInk) + "\" points=\"" + half + "\"/>\n");
-  svg.add("<polygon fill=\"none\" stroke-width=\"3\" stroke=\"" + std::string(kInk) + "\" points=\"" + at(x, top) +
-          at(x + kHalf, top + kHeight) + at(x, top + kHeight * 0.78) + "\"/>\n");
+  svg.add("<polygon" + attribute("fill", kInk) + attribute("points", half) + "/>\n");
+  const std::string other_half = at(x, top) + at(x + kHalf, top + kHeight) + at(x, top + kHeight * 0.78);
+  svg.add("<polygon" + outline(3) + attribute("points", other_half) + "/>\n");
 }
 
 void draw_scale_bar(SvgElements& svg, const Picture& picture, const Page& page) {
@@ -73,8 +77,8 @@ void draw_scale_bar(SvgElements& svg, const Picture& picture, const Page& page) 
   const double units = length * page.scale;
   const double x = page.frame.left;
   const double y = page.frame.bottom + 62;
-  svg.rectangle(x, y, units / 2, kBarHeight, "fill=\"" + std::string(kInk) + "\"");
-  svg.rectangle(x, y, units, kBarHeight, "fill=\"none\" stroke-width=\"3\" stroke=\"" + std::string(kInk) + "\"");
+  svg.rectangle(x, y, units / 2, kBarHeight, attribute("fill", kInk));
+  svg.rectangle(x, y, units, kBarHeight, outline(3));
   const bool in_kilometres = !picture.in_degrees && length >= 1000.0;
   const double shown = in_kilometres ? length / 1000.0 : length;
   const std::string unit = picture.in_degrees ? "°" : in_kilometres ? " km" : " m";
@@ -99,8 +103,8 @@ void draw_legend(SvgElements& svg, const Picture& picture, const Page& page, con
     if (is_arrow) {
       draw_arrowhead(svg, x + 10, y - 9, -90, colour);
     } else {
-      svg.add("<circle cx=\"" + spelled(x + 10) + "\" cy=\"" + spelled(y - 9) + "\" r=\"9\" fill=\"" +
-              std::string(colour) + "\"/>\n");
+      svg.add("<circle" + attribute("cx", x + 10) + attribute("cy", y - 9) + attribute("r", 9) +
+              attribute("fill", colour) + "/>\n");
     }
     svg.text(x + 28, y, kSmall, text);
     x += 28 + width_of(text, kSmall) + 30;
@@ -129,8 +133,9 @@ std::string distance_text(double distance, const Picture& picture) {
 }
 
 void draw_arrowhead(SvgElements& svg, double x, double y, double turned, std::string_view colour) {
-  svg.add("<path d=\"M14 0L-12 -10V10Z\" fill=\"" + std::string(colour) + "\" transform=\"translate(" + spelled(x) +
-          " " + spelled(y) + ") rotate(" + spelled(turned) + ")\"/>\n");
+  const std::string place = "translate(" + spelled(x) + " " + spelled(y) + ") rotate(" + spelled(turned) + ")";
+  svg.add("<path" + attribute("d", "M14 0L-12 -10V10Z") + attribute("fill", colour) + attribute("transform", place) +
+          "/>\n");
 }
 
 void draw_frame(SvgElements& svg, const Picture& picture, const Page& page) {
@@ -151,8 +156,7 @@ void draw_frame(SvgElements& svg, const Picture& picture, const Page& page) {
       svg.line(px - kArm, py, px + kArm, py, kCross, 2);
       svg.line(px, py - kArm, px, py + kArm, kCross, 2);
     }
-  svg.rectangle(frame.left, frame.top, frame.width(), frame.height(),
-                "fill=\"none\" stroke-width=\"4\" stroke=\"" + std::string(kInk) + "\"");
+  svg.rectangle(frame.left, frame.top, frame.width(), frame.height(), outline(4));
 
   const int decimals = decimals_of_step(step);
   const std::string east = axis_name("E", "X", picture);
@@ -167,9 +171,11 @@ void draw_frame(SvgElements& svg, const Picture& picture, const Page& page) {
   }
   for (std::size_t i = 0; i < down.size(); ++i) {
     const double y = page.down(down[i]);
-    const std::string turn = "transform=\"rotate(-90 " + spelled(frame.left - 12) + " " + spelled(y) + ")\"";
+    const std::string turn = "rotate(-90 " + spelled(frame.left - 12) + " " + spelled(y) + ")";
     svg.line(frame.left, y, frame.left + kTick, y, kInk, 3);
-    if (i % each == 0) svg.text(frame.left - 12, y, kSmall, with_decimals(down[i], decimals), Anchor::middle, turn);
+    if (i % each == 0)
+      svg.text(frame.left - 12, y, kSmall, with_decimals(down[i], decimals), Anchor::middle,
+               attribute("transform", turn));
   }
   svg.text(frame.right, frame.bottom + kSmall + 8, kUsual, east, Anchor::end);
   svg.text(frame.left, frame.top - 14, kUsual, axis_name("N", "Y", picture));
@@ -182,7 +188,7 @@ void draw_title(SvgElements& svg, const Picture& picture, const Page& page) {
   const std::string what =
       filled("konsola.podglad_liczba", {count_of(picture.points.size())}) + " · " + systems_of(picture);
   const std::string title = picture.group.empty() ? picture.file : picture.group;
-  svg.text(x, 148, kLarge, fitting(title, kLarge, room), Anchor::start, "font-weight=\"bold\"");
+  svg.text(x, 148, kLarge, fitting(title, kLarge, room), Anchor::start, attribute("font-weight", "bold"));
   svg.text(x, 205, kUsual, fitting(what, kUsual, room));
   svg.text(x, 252, kUsual, fitting(picture.file + " · " + date, kUsual, room));
   draw_north(svg, picture, page);

@@ -16,7 +16,9 @@ namespace console {
 namespace {
 
 // What pictures begin with, by which one may be known again.
-constexpr std::string_view kBeginning = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<!-- vexo-xyz -->\n<svg ";
+constexpr std::string_view kBeginning = R"(<?xml version="1.0" encoding="UTF-8"?>
+<!-- vexo-xyz -->
+<svg)";
 
 constexpr double kFew = 300;       // points that have room for large dots and letters
 constexpr double kMany = 5000;     // and those that have little
@@ -31,19 +33,19 @@ double radius_for(std::size_t points) {
 // Dots of one colour as a single path: a tenth of the bytes of a circle each.
 void draw_dots(SvgElements& svg, const std::vector<Mark>& marks, double radius, std::string_view colour) {
   if (marks.empty()) return;
-  svg.add("<path fill=\"none\" stroke-linecap=\"round\" stroke-width=\"" + spelled(2 * radius) + "\" stroke=\"" +
-          std::string(colour) + "\" d=\"");
-  for (const Mark& mark : marks) svg.add("M" + spelled(mark.x, 0) + " " + spelled(mark.y, 0) + "h0");
-  svg.add("\"/>\n");
+  std::string way;
+  for (const Mark& mark : marks) way += "M" + spelled(mark.x, 0) + " " + spelled(mark.y, 0) + "h0";
+  svg.add("<path" + attribute("fill", "none") + attribute("stroke-linecap", "round") +
+          attribute("stroke-width", 2 * radius) + attribute("stroke", colour) + attribute("d", way) + "/>\n");
 }
 
 // A title shows when the pointer rests on the dot.
 void draw_suspects(SvgElements& svg, const std::vector<Mark>& marks, double radius) {
   constexpr std::size_t kMostTitles = 5000;
   if (marks.size() > kMostTitles) return draw_dots(svg, marks, radius, kSuspectColour);
-  svg.add("<g class=\"suspects\" fill=\"" + std::string(kSuspectColour) + "\">\n");
+  svg.add("<g" + attribute("class", "suspects") + attribute("fill", kSuspectColour) + ">\n");
   for (const auto& [point, x, y] : marks) {
-    svg.add("<circle cx=\"" + spelled(x) + "\" cy=\"" + spelled(y) + "\" r=\"" + spelled(radius * 1.3) + "\"><title>" +
+    svg.add("<circle" + attribute("cx", x) + attribute("cy", y) + attribute("r", radius * 1.3) + "><title>" +
             escaped(point->label) + ": " + escaped(name_of(point->suspicion)) + "</title></circle>\n");
   }
   svg.add("</g>\n");
@@ -52,13 +54,13 @@ void draw_suspects(SvgElements& svg, const std::vector<Mark>& marks, double radi
 void draw_labels(SvgElements& svg, const std::vector<Mark>& marks, const std::vector<PlacedLabel>& placed,
                  double size) {
   // The ground shines through around the letters where they cover points.
-  svg.add("<g class=\"labels\" font-size=\"" + spelled(size) +
-          "\" stroke=\"#ffffff\" stroke-width=\"4\" paint-order=\"stroke\">\n");
+  svg.add("<g" + attribute("class", "labels") + attribute("font-size", size) + attribute("stroke", "#ffffff") +
+          attribute("stroke-width", 4) + attribute("paint-order", "stroke") + ">\n");
   for (const PlacedLabel& label : placed) {
     const PicturePoint& point = *marks[label.point].point;
-    svg.add("<text x=\"" + spelled(label.x) + "\" y=\"" + spelled(label.y) + "\"");
-    if (label.ends_there) svg.add(" text-anchor=\"end\"");
-    if (point.suspicion != Suspicion::none) svg.add(" fill=\"" + std::string(kSuspectColour) + "\"");
+    svg.add("<text" + attribute("x", label.x) + attribute("y", label.y));
+    if (label.ends_there) svg.add(attribute("text-anchor", "end"));
+    if (point.suspicion != Suspicion::none) svg.add(attribute("fill", kSuspectColour));
     svg.add(">" + escaped(point.label) + "</text>\n");
   }
   svg.add("</g>\n");
@@ -89,7 +91,7 @@ std::size_t draw_outside(SvgElements& svg, const Picture& picture, const Page& p
   for (const PlacedLabel& label : placed) {
     svg.text(label.x, label.y, kLetters, texts[label.point],
              label.ends_there ? SvgElements::Anchor::end : SvgElements::Anchor::start,
-             "fill=\"" + std::string(colour_of(label.point)) + "\"");
+             attribute("fill", colour_of(label.point)));
   }
   return placed.size();
 }
@@ -130,14 +132,13 @@ std::string svg_of(const Picture& picture) {
   const Page page = page_for(picture.points);
   const Marks marks = marks_of(picture, page);
   SvgElements svg;
-  const std::string width = spelled(page.width);
-  const std::string height = spelled(page.height);
   svg.add(kBeginning);
-  svg.add("xmlns=\"http://www.w3.org/2000/svg\" width=\"" + spelled(page.width / 10) + "mm\" height=\"" +
-          spelled(page.height / 10) + "mm\" viewBox=\"0 0 " + width + " " + height +
-          "\" font-family=\"Arial, Helvetica, sans-serif\" fill=\"" + std::string(kInk) + "\">\n");
+  svg.add(attribute("xmlns", "http://www.w3.org/2000/svg") + attribute("width", spelled(page.width / 10) + "mm") +
+          attribute("height", spelled(page.height / 10) + "mm") +
+          attribute("viewBox", "0 0 " + spelled(page.width) + " " + spelled(page.height)) +
+          attribute("font-family", "Arial, Helvetica, sans-serif") + attribute("fill", kInk) + ">\n");
   svg.add("<title>" + escaped(picture.group) + "</title>\n");
-  svg.rectangle(0, 0, page.width, page.height, "fill=\"#ffffff\"");
+  svg.rectangle(0, 0, page.width, page.height, attribute("fill", "#ffffff"));
   draw_frame(svg, picture, page);
   const std::size_t labels = draw_points(svg, picture, page, marks);
   draw_title(svg, picture, page);

@@ -13,12 +13,6 @@ bool is_shown(char32_t c) {
   return c >= 0x20 && !(c >= 0x7F && c < 0xA0) && c != 0xFFFE && c != 0xFFFF && !(c >= 0xD800 && c < 0xE000);
 }
 
-void append_attribute(std::string& markup, std::string_view name, double value) {
-  markup += ' ';
-  markup += name;
-  markup += "=\"" + spelled(value) + "\"";
-}
-
 }  // namespace
 
 std::string escaped(std::string_view text) {
@@ -58,35 +52,33 @@ std::string spelled(double value, int decimals) {
   return text == "-0" ? "0" : text;
 }
 
+std::string attribute(std::string_view name, std::string_view value) {
+  std::string text = " ";
+  text += name;
+  text += "=\"";
+  text += value;
+  return text += '"';
+}
+
+std::string attribute(std::string_view name, double value) { return attribute(name, spelled(value)); }
+
 void SvgElements::line(double x1, double y1, double x2, double y2, std::string_view colour, double width) {
-  markup_ += "<line";
-  append_attribute(markup_, "x1", x1);
-  append_attribute(markup_, "y1", y1);
-  append_attribute(markup_, "x2", x2);
-  append_attribute(markup_, "y2", y2);
-  append_attribute(markup_, "stroke-width", width);
-  markup_ += " stroke=\"" + std::string(colour) + "\"/>\n";
+  add("<line" + attribute("x1", x1) + attribute("y1", y1) + attribute("x2", x2) + attribute("y2", y2) +
+      attribute("stroke-width", width) + attribute("stroke", colour) + "/>\n");
 }
 
 void SvgElements::rectangle(double x, double y, double width, double height, std::string_view attributes) {
-  markup_ += "<rect";
-  append_attribute(markup_, "x", x);
-  append_attribute(markup_, "y", y);
-  append_attribute(markup_, "width", width);
-  append_attribute(markup_, "height", height);
-  markup_ += " " + std::string(attributes) + "/>\n";
+  add("<rect" + attribute("x", x) + attribute("y", y) + attribute("width", width) + attribute("height", height));
+  add(attributes);
+  add("/>\n");
 }
 
 void SvgElements::text(double x, double y, double size, std::string_view content, Anchor anchor,
                        std::string_view attributes) {
-  constexpr std::array<std::string_view, 3> kAnchors = {"", " text-anchor=\"middle\"", " text-anchor=\"end\""};
-  markup_ += "<text";
-  append_attribute(markup_, "x", x);
-  append_attribute(markup_, "y", y);
-  append_attribute(markup_, "font-size", size);
-  markup_ += kAnchors[static_cast<std::size_t>(anchor)];
-  if (!attributes.empty()) markup_ += " " + std::string(attributes);
-  markup_ += ">" + escaped(content) + "</text>\n";
+  add("<text" + attribute("x", x) + attribute("y", y) + attribute("font-size", size));
+  if (anchor != Anchor::start) add(attribute("text-anchor", anchor == Anchor::middle ? "middle" : "end"));
+  add(attributes);
+  add(">" + escaped(content) + "</text>\n");
 }
 
 }  // namespace console

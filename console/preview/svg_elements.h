@@ -16,6 +16,10 @@ namespace console {
 /// The same without needless noughts.
 [[nodiscard]] std::string spelled(double value, int decimals = 1);
 
+/// " name="value"", for a tag; what a value holds must need no escaping.
+[[nodiscard]] std::string attribute(std::string_view name, std::string_view value);
+[[nodiscard]] std::string attribute(std::string_view name, double value);
+
 class SvgElements {
  public:
   /// What stands between tags as it is.
@@ -25,7 +29,7 @@ class SvgElements {
   void rectangle(double x, double y, double width, double height, std::string_view attributes);
 
   enum class Anchor { start, middle, end };
-  /// A text on its line; `attributes` beside place and size, as a colour or a turn.
+  /// A text on its line; `attributes` beside place and size, as `attribute` makes them.
   void text(double x, double y, double size, std::string_view content, Anchor anchor = Anchor::start,
             std::string_view attributes = {});
 
