@@ -88,7 +88,9 @@ void declare_files(CLI::App& app, Arguments& arguments) {
                  "File of surveyed points: delimited text or .xlsx. Without it the path is asked for")
       ->configurable(false);
   app.add_option("-o,--output", arguments.output,
-                 "Drawing to write. Default: beside FILE, with its name, or the next free one (_2, _3 ...)")
+                 "Drawing to write, .dxf where the name has no extension. Default: beside FILE, with its name, or the "
+                 "next free "
+                 "one (_2, _3 ...)")
       ->type_name("OUT.dxf")
       ->configurable(false);
   app.add_option("--into", arguments.into,
@@ -196,6 +198,8 @@ void declare_import(CLI::App& app, Arguments& arguments) {
   declare_files(app, arguments);
   declare_answers(app, arguments);
   declare_drawing(app, arguments);
+  app.add_flag("--unattended", arguments.unattended,
+               "Ask nothing: a file that leaves a question open is set aside, as of several FILEs each is");
   app.add_option("--jobs", arguments.jobs, "How many of several FILEs are imported at a time")
       ->type_name("N")
       ->check(CLI::Range(1, 256));
@@ -235,6 +239,7 @@ SessionOptions session_options(const CLI::App& app, const Arguments& arguments, 
   options.interactive = interactive;
   options.words = words_of(app, arguments);
   options.quiet = arguments.quiet;
+  options.unattended = arguments.unattended;
   if (!arguments.files.empty()) options.file = arguments.files.front();
   if (app.count("-o") > 0) options.output = with_extension(arguments.output);
   if (app.count("--into") > 0) options.into = arguments.into;

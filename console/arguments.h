@@ -28,6 +28,7 @@ struct Arguments {
   std::string text_size;
   std::string group_selectable;
   std::string dxf;
+  bool unattended = false;
   unsigned jobs = 1;
   bool quiet = false;
   bool json = false;

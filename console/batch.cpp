@@ -183,6 +183,7 @@ ExitCode run_batch(const BatchOptions& options, std::ostream& out, std::ostream&
   SessionOptions each = options.each;
   each.unattended = true;
   each.interactive = false;
+  each.shows_progress = false;  // many at a time
   each.quiet = true;
   std::istringstream nobody;
   const auto lines = lines_of_stream(nobody, out);

@@ -192,6 +192,7 @@ std::optional<FileFailure> refusal_in(const std::filesystem::path& folder) {
 }
 
 std::optional<FileFailure> refusal_of(const std::filesystem::path& target) {
+  if (!target.has_filename()) return FileFailure(FileStep::rename, EISDIR);
   const std::filesystem::path final = final_target(target);
   if (auto refusal = refusal_in(final.parent_path())) return refusal;
   struct stat there {};

@@ -7,6 +7,7 @@
 #include <iostream>
 #include <memory>
 #include <ostream>
+#include <sstream>
 #include <utility>
 
 #include <CLI/CLI.hpp>
@@ -15,6 +16,7 @@
 
 #include "console/arguments.h"
 #include "console/batch.h"
+#include "console/dialogue/typed_path.h"
 #include "console/kept_memory.h"
 #include "console/manual.h"
 #include "console/prepare_arguments.h"
@@ -69,15 +71,21 @@ int run(int argc, char** argv) {
   } catch (const CLI::ParseError& error) {
     return app.exit(error) == 0 ? console::kImported : console::kUsage;
   }
+  for (std::string& file : arguments.files) file = console::existing_path(std::move(file));
+  prepare.options.file = console::existing_path(std::move(prepare.options.file));
   const bool is_asked_for_json = arguments.json && !preparing->parsed();
   std::ostream& out = is_asked_for_json ? std::cerr : std::cout;
   const auto lines = typed_lines(out);
+  prepare.options.shows_progress = isatty(STDOUT_FILENO) != 0;
   if (preparing->parsed()) return console::run_prepare(prepare.options, prepare.choice, *lines, std::cout);
   std::ostream nowhere(nullptr);
   std::ostream& reports = is_asked_for_json ? std::cout : nowhere;
   console::SessionOptions options = console::session_options(app, arguments, at_a_terminal());
+  options.shows_progress = isatty(STDOUT_FILENO) != 0 && !is_asked_for_json && !arguments.quiet;
   if (arguments.files.size() > 1) return console::run_batch({arguments.files, arguments.jobs, options}, out, reports);
-  console::Session session(std::move(options), *lines, out);
+  std::istringstream nobody;
+  const auto no_lines = console::lines_of_stream(nobody, out);
+  console::Session session(std::move(options), arguments.unattended ? *no_lines : *lines, out);
   const console::ExitCode code = session.run();
   reports << console::report_as_json(session.findings()) << std::flush;
   return code;

@@ -3,6 +3,8 @@
 #include <system_error>
 #include <vector>
 
+#include <unistd.h>
+
 #include "console/dialogue/dialogue.h"
 #include "console/dialogue/shown_text.h"
 #include "console/drawing/database.h"
@@ -199,8 +201,11 @@ PrepareResult prepare(const PrepareOptions& options, LineSource& lines) {
 }
 
 ExitCode run_prepare(const PrepareOptions& options, const Choice& choice, LineSource& lines, std::ostream& out) {
-  const Speaking speaking(choice, lines, out);
-  return prepare(options, lines).code;
+  const auto progress = options.shows_progress ? std::make_unique<Progress>(STDOUT_FILENO) : nullptr;
+  PausedLines paused(lines, progress.get());
+  const Speaking speaking(choice, paused, out, progress.get());
+  if (progress) progress->go_on(vexo_xyz_impl::T("konsola.postep_czytanie"), Progress::Measure::seconds);
+  return prepare(options, paused).code;
 }
 
 }  // namespace console

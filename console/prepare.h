@@ -20,7 +20,8 @@ struct PrepareOptions {
   std::optional<std::string> columns;           ///< roles by position or by name
   std::optional<std::string> sheet;             ///< of a workbook; without it the one that a person sees first
   intake::MissingHeight missing_height = intake::MissingHeight::skip;
-  bool force = false;  ///< an existing output may be replaced
+  bool force = false;           ///< an existing output may be replaced
+  bool shows_progress = false;  ///< standard output is a terminal, and long work is shown there
 };
 
 struct PrepareResult {

@@ -54,7 +54,9 @@ CLI::App* declare_prepare(CLI::App& app, PrepareArguments& arguments) {
       prepare
           ->add_option("-o,--output", options.output,
                        "File to write. Default: beside FILE, with _prepared.csv, or the next free one (_2, _3 ...)")
-          ->type_name("OUT.csv");
+          ->type_name("OUT.csv")
+          ->check(
+              CLI::Validator([](const std::string& name) { return name.empty() ? "a file needs a name" : ""; }, ""));
   prepare->add_option("--columns", options.columns, "What the columns hold; see below")->type_name("ROLES");
   prepare->add_option("--sheet", options.sheet, "Sheet of a workbook. Default: the one that is seen first")
       ->type_name("NAME");

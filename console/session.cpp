@@ -5,6 +5,8 @@
 #include <system_error>
 #include <utility>
 
+#include <unistd.h>
+
 #include "console/dialogue/shown_text.h"
 #include "console/drawing/heights.h"
 #include "console/dxf/dxf_writer.h"
@@ -21,6 +23,7 @@
 #include "vexo_xyz_impl/failure.h"
 #include "vexo_xyz_impl/messages.h"
 #include "vexo_xyz_impl/notices.h"
+#include "vexo_xyz_impl/text/utf8.h"
 
 namespace console {
 namespace {
@@ -44,15 +47,22 @@ std::vector<Findings::RowNotTakenOver> rows_not_taken_over(const intake::Prepare
 Session::Session(SessionOptions options, LineSource& lines, std::ostream& out)
     : options_(std::move(options)),
       targets_{options_.output, options_.force, options_.report},
-      lines_(lines),
+      progress_(options_.shows_progress ? std::make_unique<Progress>(STDOUT_FILENO) : nullptr),
+      lines_(lines, progress_.get()),
       database_(options_.wishes.group_selectable),
-      dialogue_(lines, out, database_.drawing().variables, options_.file, options_.answers),
+      dialogue_(lines_, out, database_.drawing().variables, options_.file, options_.answers),
       siblings_(family(database_, options_.choice)),
       watcher_(options_.unattended),
       entered_({{dialogue_, database_, siblings_, nullptr, this, &watcher_}, vexo_xyz_impl::bind_siblings(siblings_)}) {
   vexo_xyz_impl::register_command(*this);
   if (options_.existing) begin_with(options_.existing);
   if (options_.quiet) dialogue_.hold();
+  dialogue_.pause_for_texts(progress_.get());
+  watcher_.tell_points([this](std::size_t points) {
+    if (!progress_) return;
+    progress_->go_on(vexo_xyz_impl::T("konsola.postep_wstawianie"), Progress::Measure::share, 2 * points);
+    database_.count_for(progress_.get());  // a point and its label each
+  });
   dialogue_.check_typed_path([this](const std::string& path) {
     is_refused_ = report_is_refused() || drawing_is_refused(vexo_xyz_impl::clean_path(path));
     return !is_refused_;
@@ -77,7 +87,7 @@ bool Session::is_file_of_points(const std::filesystem::path& path) const {
 bool Session::failed(const std::optional<std::string>& text) {
   if (!text) return false;
   dialogue_.gcutPrintf(*text);
-  vexo_xyz_impl::notify_failure(vexo_xyz_impl::OSError(shown_text(*text)));
+  vexo_xyz_impl::notify_failure(vexo_xyz_impl::OSError(shown_text(vexo_xyz_impl::text::trim(*text))));
   return true;
 }
 
@@ -132,9 +142,16 @@ void Session::end_quietly(ExitCode code) {
 }
 
 CommandOutcome Session::import_once() {
+  const auto work = shown("konsola.postep_czytanie", Progress::Measure::seconds);
   const CommandOutcome outcome = import_();
   print_findings(watcher_.findings());
   return outcome;
+}
+
+std::shared_ptr<void> Session::shown(std::string_view key, Progress::Measure measure) {
+  if (!progress_) return nullptr;
+  progress_->go_on(vexo_xyz_impl::T(key), measure);
+  return {progress_.get(), [](Progress* progress) { progress->stop(); }};
 }
 
 // Whether a file that gave no points is to be made into one that does; if so, it is, and stands ready to be imported.
@@ -147,6 +164,7 @@ bool Session::prepares_instead() {
   const std::filesystem::path file = source();
   PrepareOptions options;
   options.file = file.string();
+  const auto work = shown("konsola.postep_czytanie", Progress::Measure::seconds);
   const PrepareResult prepared = prepare(options, lines_);
   if (prepared.code != kImported) return false;
   prepared_from_ = file;
@@ -198,12 +216,14 @@ ExitCode Session::save() {
 }
 
 ExitCode Session::save_into_existing() {
+  auto work = shown("konsola.postep_zapis", Progress::Measure::seconds);
   const Layers& layers = options_.wishes.layers;
   if (options_.existing_goes_to != nullptr) {
     existing_->write(database_.drawing(), layers, *options_.existing_goes_to);
   } else if (failed(save_existing(*existing_, &database_.drawing(), layers))) {
     return kFailure;
   }
+  work.reset();
   const std::string drawing = existing_->path().string();
   say("konsola.rys_zapisano", {drawing, existing_->backup().string()});
   tell_repeating_command(drawing);
@@ -233,10 +253,12 @@ ExitCode Session::save_report(ExitCode so_far) {
 
 std::filesystem::path Session::write_drawing() {
   const std::filesystem::path points = source();
+  const auto work = shown("konsola.postep_zapis", Progress::Measure::bytes);
   AtomicFile file((options_.output ? final_target(*options_.output) : points).parent_path());
+  CountedBytes counted(file, progress_.get());
   const std::string market =
       vexo_xyz_impl::host::load_sibling<vexo_xyz_impl::host::Market>(siblings_, "vexo_rynek")->rynek();
-  write_dxf(database_.drawing(), options_.wishes, code_page_of(market), file);
+  write_dxf(database_.drawing(), options_.wishes, code_page_of(market), counted);
   file.flush();
   if (options_.output) {
     if (file.commit(*options_.output, options_.force)) return *options_.output;

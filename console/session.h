@@ -14,6 +14,7 @@
 #include "console/drawing/wishes.h"
 #include "console/existing_drawing.h"
 #include "console/exit_code.h"
+#include "console/progress.h"
 #include "console/report/import_watcher.h"
 #include "console/sibling_registry.h"
 #include "console/targets.h"
@@ -40,6 +41,7 @@ struct SessionOptions {
   bool quiet = false;              ///< only questions, doubts and failures are told
   bool prepare = false;            ///< a file that the importer does not read is made into one that it reads
   bool interactive = false;        ///< somebody is there to be offered that
+  bool shows_progress = false;     ///< standard output is a terminal, and long work is shown there
 };
 
 class Session final : private vexo_xyz_impl::host::CommandTable, private vexo_xyz_impl::host::Foreknowledge {
@@ -72,6 +74,8 @@ class Session final : private vexo_xyz_impl::host::CommandTable, private vexo_xy
   ExitCode import_and_save();
   vexo_xyz_impl::host::CommandOutcome import_once();
   [[nodiscard]] bool prepares_instead();
+  // Shows the work of that name until the value returned is gone.
+  [[nodiscard]] std::shared_ptr<void> shown(std::string_view key, Progress::Measure measure);
   [[nodiscard]] std::filesystem::path source() const;
   ExitCode save();
   void tell_repeating_command(const std::string& drawing);
@@ -81,7 +85,8 @@ class Session final : private vexo_xyz_impl::host::CommandTable, private vexo_xy
 
   SessionOptions options_;
   Targets targets_;
-  LineSource& lines_;
+  std::unique_ptr<Progress> progress_;  // at a terminal
+  PausedLines lines_;
   std::optional<std::filesystem::path> prepared_from_;  // the file that the user chose
   std::shared_ptr<ExistingDrawing> existing_;
   Database database_;

@@ -157,6 +157,7 @@ TEST_F(Files, AreRefusedBeforehand) {
   EXPECT_EQ(number("file"), 0);
   EXPECT_EQ(number("none/drawing.dxf"), ENOENT);
   EXPECT_EQ(number("file/drawing.dxf"), ENOTDIR);
+  EXPECT_EQ(number("none/"), EISDIR);
   EXPECT_EQ(number(std::string(300, 'd')), ENAMETOOLONG);
   if (geteuid() != 0) {
     EXPECT_EQ(number("read-only/drawing.dxf"), EACCES);

@@ -4,6 +4,7 @@
 #include <ostream>
 
 #include "console/dialogue/shown_text.h"
+#include "console/dialogue/typed_path.h"
 #include "vexo_xyz_impl/command/keywords.h"
 #include "vexo_xyz_impl/messages.h"
 #include "vexo_xyz_impl/text/ascii.h"
@@ -63,9 +64,9 @@ std::pair<PromptStatus, std::string> Dialogue::gcedGetString(int /*spaces_allowe
   say_held();
   auto typed = lines_.read_line(prompt, Completion::file_names);
   if (!typed) return {RTCAN, {}};
-  path_ = *typed;
+  path_ = existing_path(std::move(*typed));
   if (accepts_ && !path_.empty() && !accepts_(path_)) return {RTCAN, {}};
-  return {RTNORM, std::move(*typed)};
+  return {RTNORM, path_};
 }
 
 PromptStatus Dialogue::gcedInitGet(int /*flags*/, std::string_view keywords) {
@@ -124,11 +125,13 @@ void Dialogue::gcutPrintf(std::string_view text) {
   if (holds_) {
     held_ += shown_text(text);
   } else {
+    const Progress::Pause pause(progress_);
     out_ << shown_text(text) << std::flush;
   }
 }
 
 void Dialogue::say_held() {
+  const Progress::Pause pause(progress_);
   out_ << held_ << std::flush;
   held_.clear();
 }

@@ -15,6 +15,7 @@
 
 #include "console/dialogue/line_source.h"
 #include "console/drawing/drawing.h"
+#include "console/progress.h"
 #include "vexo_xyz_impl/host/command_line.h"
 
 namespace console {
@@ -49,6 +50,9 @@ class Dialogue final : public vexo_xyz_impl::host::CommandLine {
   void say_held();
   void drop_held() { held_.clear(); }
 
+  /// Texts are printed in pauses of `progress`; the questions, by its lines.
+  void pause_for_texts(Progress* progress) { progress_ = progress; }
+
   /// Asks `accepts` about a path that was typed, before the command goes on with it; it says why not.
   void check_typed_path(std::function<bool(const std::string&)> accepts) { accepts_ = std::move(accepts); }
 
@@ -79,6 +83,7 @@ class Dialogue final : public vexo_xyz_impl::host::CommandLine {
   std::vector<std::string> keywords_;
   bool holds_ = false;
   std::string held_;
+  Progress* progress_ = nullptr;
 };
 
 }  // namespace console

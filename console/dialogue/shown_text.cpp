@@ -1,6 +1,7 @@
 #include "console/dialogue/shown_text.h"
 
-#include <cstddef>
+#include <algorithm>
+#include <cwchar>
 
 #include "vexo_xyz_impl/text/utf8.h"
 
@@ -14,7 +15,13 @@ constexpr std::size_t kMostBytes = 8000;  // some screens
 constexpr std::size_t kHeadCharacters = 1500;
 constexpr std::size_t kTailBytes = 500;
 
+bool turns_the_direction(char32_t code_point) {
+  return code_point == 0x061C || code_point == 0x200E || code_point == 0x200F ||
+         (code_point >= 0x202A && code_point <= 0x202E) || (code_point >= 0x2066 && code_point <= 0x2069);
+}
+
 bool may_be_shown(char32_t code_point) {
+  if (turns_the_direction(code_point)) return false;
   return code_point == '\n' || code_point == '\t' ||
          (code_point >= 0x20 && code_point != 0x7F && !(code_point >= 0x80 && code_point < 0xA0));
 }
@@ -38,6 +45,16 @@ std::string without_control_characters(std::string_view raw) {
     at += bytes;
   }
   return shown;
+}
+
+std::size_t cells_of(std::string_view line) {
+  std::size_t cells = 0;
+  for (std::size_t at = 0; at < line.size();) {
+    const auto code_point = text::decode(line, at);
+    if (code_point) cells += static_cast<std::size_t>(std::max(0, wcwidth(static_cast<wchar_t>(code_point->value))));
+    at += code_point ? code_point->bytes : 1;
+  }
+  return cells;
 }
 
 std::string shown_text(std::string_view raw) {

@@ -8,10 +8,12 @@
 
 #include <histedit.h>
 #include <poll.h>
+#include <sys/ioctl.h>
 #include <unistd.h>
 
 #include "console/dialogue/line_source.h"
 #include "console/dialogue/path_completion.h"
+#include "console/dialogue/prompt_signals.h"
 #include "console/dialogue/shown_text.h"
 #include "vexo_xyz_impl/text/utf8.h"
 
@@ -26,12 +28,10 @@ bool more_keys_follow() {
   return poll(&input, 1, kSequenceGapMs) > 0;
 }
 
-// One byte from the terminal: 1, 0 at the end of input, -1 on error.
-int read_byte(char& byte) {
-  while (true) {
-    const ssize_t got = read(STDIN_FILENO, &byte, 1);
-    if (got >= 0 || errno != EINTR) return static_cast<int>(got);
-  }
+std::size_t terminal_width() {
+  constexpr std::size_t kUsual = 80;
+  winsize size{};
+  return ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0 ? size.ws_col : kUsual;
 }
 
 std::size_t sequence_length(char lead) {
@@ -43,7 +43,7 @@ class TerminalLines final : public LineSource {
  public:
   explicit TerminalLines(std::ostream& out) : out_(out), editor_(el_init("vexo-xyz", stdin, stdout, stderr)) {
     el_set(editor_.get(), EL_CLIENTDATA, this);
-    el_set(editor_.get(), EL_SIGNAL, 1);  // an interrupt leaves the terminal as it was
+    el_set(editor_.get(), EL_SIGNAL, 0);  // its own handlers are gone after the first stop
     el_set(editor_.get(), EL_EDITOR, "emacs");
     el_set(editor_.get(), EL_PROMPT, &TerminalLines::prompt_of);
     el_wset(editor_.get(), EL_GETCFN, &TerminalLines::read_key);
@@ -58,6 +58,9 @@ class TerminalLines final : public LineSource {
     el_set(editor_.get(), EL_BIND, "\t", completion == Completion::file_names ? "complete-path" : "ed-unassigned",
            nullptr);
     escaped_ = false;
+    el_resize(editor_.get());
+    PromptSignals signals;
+    signals_ = &signals;
     int count = 0;
     const char* typed = el_gets(editor_.get(), &count);
     if (typed == nullptr || count <= 0 || escaped_) {
@@ -94,22 +97,63 @@ class TerminalLines final : public LineSource {
       return el_insertstr(editor, completion.addition.c_str()) == 0 ? CC_REFRESH : CC_ERROR;
     }
     if (completion.names.size() < 2) return CC_ERROR;
-    std::ostream& out = self_of(editor).out_;
-    for (const std::string& name : completion.names) out << '\n' << without_control_characters(name);
-    out << '\n' << std::flush;
+    self_of(editor).out_ << '\n' << in_columns(completion.names, terminal_width()) << std::flush;
     return CC_REDISPLAY;
   }
 
+  // The line is drawn anew where the cursor is, after what was drawn of it is gone as far as `rows` above.
+  void redraw(std::size_t rows) {
+    char* up = nullptr;
+    char* clear_below = nullptr;
+    el_get(editor_.get(), EL_GETTC, "up", &up);
+    el_get(editor_.get(), EL_GETTC, "cd", &clear_below);
+    out_ << '\r';
+    for (; rows > 0 && up != nullptr; --rows) out_ << up;
+    if (clear_below != nullptr) out_ << clear_below;
+    out_ << std::flush;
+    el_set(editor_.get(), EL_REFRESH);
+  }
+
+  // Terminals fold a line anew when their width changes, and keep the cursor on its character.
+  [[nodiscard]] std::size_t rows_above_cursor() const {
+    const LineInfo* line = el_line(editor_.get());
+    const std::string_view before(line->buffer, static_cast<std::size_t>(line->cursor - line->buffer));
+    return (cells_of(prompt_) + cells_of(before)) / terminal_width();
+  }
+
+  void act_on(int signal_number) {
+    if (signal_number == SIGWINCH) {
+      el_resize(editor_.get());
+      redraw(rows_above_cursor());
+      return;
+    }
+    el_set(editor_.get(), EL_PREP_TERM, 0);
+    if (signal_number != SIGCONT) signals_->let_through(signal_number);
+    el_set(editor_.get(), EL_PREP_TERM, 1);  // others had the terminal meanwhile
+    el_resize(editor_.get());
+    redraw(0);
+  }
+
+  // One byte from the terminal: 1, 0 at the end of input, -1 on error.
+  int read_byte(char& byte) {
+    while (const int signal_number = signals_->wait(STDIN_FILENO)) act_on(signal_number);
+    while (true) {
+      const ssize_t got = read(STDIN_FILENO, &byte, 1);
+      if (got >= 0 || errno != EINTR) return static_cast<int>(got);
+    }
+  }
+
   static int read_key(EditLine* editor, wchar_t* key) {
+    TerminalLines& self = self_of(editor);
     std::array<char, 4> bytes{};
-    int got = read_byte(bytes[0]);
+    int got = self.read_byte(bytes[0]);
     if (got <= 0) return got;
     if (bytes[0] == kEscape && !more_keys_follow()) {
-      self_of(editor).escaped_ = true;
+      self.escaped_ = true;
       return 0;
     }
     const std::size_t length = sequence_length(bytes[0]);
-    for (std::size_t i = 1; i < length && got > 0; ++i) got = read_byte(bytes[i]);
+    for (std::size_t i = 1; i < length && got > 0; ++i) got = self.read_byte(bytes[i]);
     if (got <= 0) return got;
     const auto code_point = vexo_xyz_impl::text::decode({bytes.data(), length}, 0);
     *key = code_point ? static_cast<wchar_t>(code_point->value) : L'?';
@@ -118,6 +162,7 @@ class TerminalLines final : public LineSource {
 
   std::ostream& out_;
   std::unique_ptr<EditLine, EndEditor> editor_;
+  PromptSignals* signals_ = nullptr;  // of the line being read
   std::string prompt_;
   bool escaped_ = false;
   bool at_end_ = false;

@@ -12,6 +12,7 @@
 
 #include "console/drawing/drawing.h"
 #include "console/drawing/open_objects.h"
+#include "console/progress.h"
 #include "siblings/vexo_cad_core/cad_core.h"
 #include "siblings/vexo_reaktywne_core/reaktywne_core.h"
 #include "vexo_xyz_impl/host/database.h"
@@ -30,6 +31,12 @@ class Database final : public vexo_xyz_impl::host::DatabaseServices,
   [[nodiscard]] bool selectable_groups() const { return selectable_groups_; }
   [[nodiscard]] OpenObjects& open_objects() { return open_objects_; }
 
+  /// Tells `progress` from now on how many new objects there have been.
+  void count_for(Progress* progress) {
+    progress_ = progress;
+    newcomers_ = 0;
+  }
+
   /// Objects now open, those that belong to no drawing yet among them.
   [[nodiscard]] std::size_t open_count() const { return open_objects_.count() + open_newcomers_; }
 
@@ -37,7 +44,10 @@ class Database final : public vexo_xyz_impl::host::DatabaseServices,
   [[nodiscard]] std::size_t refused_count() const { return refused_; }
 
   // What opened objects tell their database.
-  void newcomer_opened() { ++open_newcomers_; }
+  void newcomer_opened() {
+    ++open_newcomers_;
+    if (++newcomers_ % kTold == 0 && progress_ != nullptr) progress_->done(newcomers_);
+  }
   void newcomer_closed() { --open_newcomers_; }
   void entity_refused() { ++refused_; }
 
@@ -68,7 +78,11 @@ class Database final : public vexo_xyz_impl::host::DatabaseServices,
   bool selectable_groups_;
   Drawing drawing_;
   OpenObjects open_objects_;
+  static constexpr std::size_t kTold = 4096;  // of so many newcomers one is told
+
   std::size_t open_newcomers_ = 0;
+  std::size_t newcomers_ = 0;
+  Progress* progress_ = nullptr;
   std::size_t refused_ = 0;
 };
 

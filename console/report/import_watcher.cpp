@@ -130,6 +130,7 @@ void ImportWatcher::rows_taken_apart(const ImportSeen& seen) {
   } else if (auto doubt = doubt_height(evidence)) {
     findings_.doubts.push_back(std::move(*doubt));
   }
+  if (tell_points_) tell_points_(seen.read.punkty.size());
 }
 
 void ImportWatcher::made_of(std::string path, std::vector<Findings::RowNotTakenOver> left_out) {

@@ -1,6 +1,7 @@
 // Watches an import and comes to what is to be told of it: the account, the doubts, what the report holds.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <utility>
@@ -21,6 +22,9 @@ class ImportWatcher final : public vexo_xyz_impl::host::ImportWatch {
 
   void rows_taken_apart(const vexo_xyz_impl::ImportSeen& seen) override;
   void ended(const vexo_xyz_impl::ImportSeen& seen) override;
+
+  /// Calls `tell` with the number of points when they are known.
+  void tell_points(std::function<void(std::size_t)> tell) { tell_points_ = std::move(tell); }
 
   /// What the file says for or against a reading of its axes, for when its rows were taken apart: lines for the user.
   [[nodiscard]] std::string beside_reading(vexo_xyz_impl::host::AxisOrder order, double share) const;
@@ -47,6 +51,7 @@ class ImportWatcher final : public vexo_xyz_impl::host::ImportWatch {
   [[nodiscard]] const Findings& findings() const { return findings_; }
 
  private:
+  std::function<void(std::size_t)> tell_points_;
   bool sets_open_files_aside_;
   bool is_set_aside_ = false;
   Findings findings_;

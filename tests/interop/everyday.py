@@ -63,6 +63,8 @@ class EveryDay(unittest.TestCase):
         self.assertEqual((table[3][:6], table[5]), ("nie ma", "Files imported: 2 of 5, points: 6."))
         self.assertEqual(self.drawings(), ["a.dxf", "d.dxf"])  # nothing is guessed
 
+        self.assertIn("--axes", self.run_it("b.csv", "--unattended", "--lang", "EN", typed="swap\n", code=1).stdout)
+
         answered = ["b.csv", "c.csv", "--axes", "swap", "--first-column", "number", "--json"]
         reports = json.loads(self.run_it(*answered).stdout)
         self.assertEqual([(one["account"]["points"], one["system"]["axes"], one["drawing"]) for one in reports],

@@ -294,11 +294,14 @@ class Program(unittest.TestCase):
             ("dane.csv", POINTS, 0, []), (' "dane.csv" \r\n', POINTS, 0, []), ('\t""dane.csv\n', POINTS, 0, []),
             ("./dane.csv\nz\n", AXES, 0, []), ("dane.csv\n", COLUMNS, 1, CANCELLED), ("", POINTS, 1, CANCELLED),
             (" \t \n", POINTS, 1, CANCELLED), ("dane.csv\x1b\n", POINTS, 1, CANCELLED),
+            ("'dane.csv'\n", POINTS, 0, []), (" ~/work/dane.csv\n", POINTS, 0, []), ("dan\\e.csv\n", POINTS, 0, []),
+            ("file://{}/dane%2Ecsv\n", POINTS, 0, []), ("'file://localhost{}/dane.csv'\n", POINTS, 0, []),
+            ("'dane.csv\n", POINTS, 3, [CANNOT_OPEN + "'dane.csv\n"]), ("file://x{}/dane.csv\n", POINTS, 3, [CANNOT_OPEN]),
             ('""\n', POINTS, 3, [CANNOT_OPEN]), ("dane.csv\0\a\x9b2J.txt\n", POINTS, 3, [CANNOT_OPEN]),
         ]:
             with self.subTest(answers=answers):
                 self.start("dane.csv", content)
-                got, out, _ = self.call(answers=answers)
+                got, out, _ = self.call(answers=answers.replace("{}", str(self.folder)))
                 self.assertEqual((got, len(os.listdir(self.folder))), (code, 1 if code else 2), out)
                 self.check_texts(texts, out)
 
@@ -318,11 +321,12 @@ class Program(unittest.TestCase):
 
     # ---- Keys at a terminal
 
-    def type(self, arguments, question, keys, number=None, **environment):
-        """Types the keys at the question, then sends the signal; exit code and screen."""
+    @contextlib.contextmanager
+    def terminal(self, *command, **environment):
+        """What is run at a terminal of its own: the process, and what types keys once a text is to be seen."""
         master, slave = os.openpty()
         usual, screen = termios.tcgetattr(slave), bytearray()
-        process = subprocess.Popen([self.program, *arguments], stdin=slave, stdout=slave, stderr=slave, cwd=self.folder,
+        process = subprocess.Popen(command, stdin=slave, stdout=slave, stderr=slave, cwd=self.folder,
                                    env=self.environment | environment, start_new_session=True,
                                    preexec_fn=lambda: fcntl.ioctl(0, termios.TIOCSCTTY, 0))
 
@@ -335,20 +339,33 @@ class Program(unittest.TestCase):
 
         def ended():
             return process.poll() is not None
-        try:  # keys typed before the line editor listens would not be its own
-            wait(lambda: ended() or question.encode() in screen and not termios.tcgetattr(slave)[3] & termios.ICANON)
+
+        def type_at(text, keys):
+            """Keys typed before the line editor listens would not be its own."""
+            wait(lambda: ended() or text.encode() in screen and not termios.tcgetattr(slave)[3] & termios.ICANON)
+            seen = screen.decode(errors="replace")
+            screen.clear()
             os.write(master, keys.encode())
-            if number:
-                process.send_signal(number)
+            return seen
+        try:
+            yield process, type_at
             wait(ended)
             self.assertEqual(termios.tcgetattr(slave), usual, "the terminal's settings")
         finally:
+            self.screen = screen.decode(errors="replace")
             process.kill()
             process.wait()
             os.close(master)
             os.close(slave)
-        self.assertNotRegex(bytes(screen), b"Sanitizer|runtime error")
-        return process.returncode, screen.decode(errors="replace")
+        self.assertNotRegex(self.screen, "Sanitizer|runtime error")
+
+    def type(self, arguments, question, keys, number=None, **environment):
+        """Types the keys at the question, then sends the signal; exit code and screen."""
+        with self.terminal(self.program, *arguments, **environment) as (process, type_at):
+            type_at(question, keys)
+            if number:
+                process.send_signal(number)
+        return process.returncode, self.screen
 
     def test_keys(self):
         for content, keys, point in [
@@ -366,12 +383,14 @@ class Program(unittest.TestCase):
         tongues = [{}, {"LC_ALL": "C"}, {"LANG": "C"}, {"LC_ALL": "C.UTF-8"}, {"LC_ALL": "xx_XX"}, {"TERM": "dumb"}]
         polish = [("zażółć_gęślą.csv", keys) for keys in ("zażółć_gęślą.csv\r", ' "./zażó\t\r', "zażx\x7f\t\r")]
         for name, keys, environment in [(*case, tongue) for case in polish for tongue in tongues] + [
-            ("dom nad rzeką.csv", "dom\t\r", {}), ("dom nad rzeką.csv", "dom nad\t\r", {}), ("o'c.csv", "o\t\r", {}),
+            ("dom nad rzeką.csv", "dom\t\r", {}), ("dom nad rzeką.csv", "dom nad\t\r", {}), ("dom nad rzeką.csv", "~/work/do\t\r", {}),
+            ("dom nad rzeką.csv", "dom\\ n\t\r", {}), ("dom nad rzeką.csv", "'dom\t'\r", {}),
+            ("dom nad rzeką.csv", "file://{}/dom%20n\t\r", {}), ("o'c.csv", "o\t\r", {}),
             ("punkty (2).csv", "pun\t\r", {}), ("a&b.csv", "a&\t\r", {}), ("50%s$x.csv", "50\t\r", {}),
         ]:
             with self.subTest(name, keys=keys, environment=environment):
                 self.start(name, POINTS)
-                code, screen = self.type([], QUESTIONS[POINTS], keys, **environment)
+                code, screen = self.type([], QUESTIONS[POINTS], keys.replace("{}", str(self.folder)), **environment)
                 self.check_drawing(code, screen, FIRST, name, name.replace(".csv", ".dxf"))
 
     def test_interrupted_question(self):
@@ -381,6 +400,19 @@ class Program(unittest.TestCase):
             with self.subTest(code):
                 got, screen = self.type(["dane.csv"], QUESTIONS[AXES], keys, number)
                 self.assertEqual((got, os.listdir(self.folder)), (code, ["dane.csv"]), screen)
+
+    def test_stopped_question(self):
+        """The question is there again, and with it what was typed, as often as the program is stopped."""
+        self.start("dane.csv", AXES)
+        with self.terminal("bash", "--norc", "--noprofile", "-i", PS1="$ ") as (_, type_at):
+            type_at("$ ", f"{self.program} dane.csv\r")
+            type_at(QUESTIONS[AXES], "za")
+            type_at("za", "\x1a")  # which discards what is not read yet
+            for key in ("\x1a", "\x1a", "m\r"):
+                self.assertIn("Stopped", type_at("$ ", "fg\r"))
+                type_at(QUESTIONS[AXES] + "za", key)
+            type_at("Rysunek: dane.dxf", "exit\r")
+        self.assertEqual(first_point(self.folder / "dane.dxf"), EXCHANGED)
 
 
 if __name__ == "__main__":
