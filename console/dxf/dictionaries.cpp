@@ -24,7 +24,7 @@ Dictionary read_dictionary(TagReader& reader, Tag& tag) {
   bool is_braced = false;
   bool is_extended = false;
   while (reader.next(tag) && tag.code != 0) {
-    if (is_extended) continue;
+    if (is_extended || tag.code == 999) continue;
     if (tag.code == 102) is_braced = tag.value.starts_with('{');
     if (is_braced) continue;
     if (tag.code == 5 && read.outline.handle == 0) read.outline.handle = tag.handle().value_or(0);

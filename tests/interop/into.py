@@ -47,6 +47,9 @@ def by_ezdxf(path, version, code_page="utf-8", line_end="\n"):
         space.add_text("słup" if code_page != "cp1252" else "Ä").set_placement((6542000, 6024810 + i))
     if version != "R12":
         drawing.groups.new("PIKIETY_dawne").extend(space.query("LINE"))
+        drawing.appids.add("VENDOR")
+        for dictionary in (drawing.rootdict, drawing.rootdict["ACAD_GROUP"]):
+            dictionary.set_xdata("VENDOR", [(1000, "behind the entries")])
         drawing.layout("Layout1").add_point((1, 1))
     drawing.saveas(path)
     encoding = code_page if version < "R2007" else "utf-8"
