@@ -179,7 +179,7 @@ void drawing(const std::vector<Position>& points) {
   static const console::Drawing grouped = grouped_drawing(points);
   add("drawing of 100,000 points, per point/write_dxf", points.size(), [] {
     NullSink sink;
-    console::write_dxf(grouped, "ANSI_1250", sink);
+    console::write_dxf(grouped, {}, "ANSI_1250", sink);
   });
   add_each("drawing of 100,000 points, per point/baseline: std::to_chars of its 6 coordinates", points,
            [](const Position& point) {

@@ -136,21 +136,27 @@ void ExistingDrawing::save(const Drawing* added, const Layers& layers) const {
   file.commit_keeping(path_, backup());
 }
 
-OpenedDrawing open_existing(const std::filesystem::path& path) {
+OpenedDrawing read_existing(const std::filesystem::path& path) {
   std::error_code ignored;
   const auto status = std::filesystem::status(path, ignored);
   if (status.type() == std::filesystem::file_type::not_found) return text_of("konsola.rys_brak", path);
   if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status))
     return text_of("konsola.rys_nie_plik", path);
   try {
-    auto drawing = std::make_unique<ExistingDrawing>(path);
-    if (const auto refusal = refusal_of(drawing->path())) return text_of("konsola.blad_zapisu", path, *refusal);
-    return drawing;
+    return std::make_unique<ExistingDrawing>(path);
   } catch (const DrawingFault& fault) {
     return text_of(path, fault);
   } catch (const std::system_error& failure) {
     return text_of("konsola.rys_nie_otwarto", path, failure);
   }
+}
+
+OpenedDrawing open_existing(const std::filesystem::path& path) {
+  OpenedDrawing opened = read_existing(path);
+  if (const auto* const drawing = std::get_if<std::unique_ptr<ExistingDrawing>>(&opened)) {
+    if (const auto refusal = refusal_of((*drawing)->path())) return text_of("konsola.blad_zapisu", path, *refusal);
+  }
+  return opened;
 }
 
 std::optional<std::string> save_existing(const ExistingDrawing& drawing, const Drawing* added, const Layers& layers) {

@@ -68,6 +68,9 @@ class ExistingDrawing {
 using OpenedDrawing = std::variant<std::unique_ptr<ExistingDrawing>, std::string>;
 [[nodiscard]] OpenedDrawing open_existing(const std::filesystem::path& path);
 
+/// The same of a drawing that is only looked at.
+[[nodiscard]] OpenedDrawing read_existing(const std::filesystem::path& path);
+
 /// Saves it, with what was added if there is something, unless another program changed it meanwhile; why it was not
 /// saved.
 [[nodiscard]] std::optional<std::string> save_existing(const ExistingDrawing& drawing, const Drawing* added,

@@ -2,31 +2,35 @@
 
 #include <iostream>
 #include <memory>
-#include <optional>
+#include <sstream>
 #include <string>
 #include <system_error>
 #include <variant>
 
 #include "console/check/check_report.h"
-#include "console/dialogue/dialogue.h"
-#include "console/drawing/database.h"
 #include "console/existing_drawing.h"
+#include "console/speaking.h"
 #include "console/texts/say.h"
 #include "vexo_xyz_impl/bindings.h"
-#include "vexo_xyz_impl/command/module.h"
 
 namespace console {
 namespace {
 
-ExitCode check(const CheckOptions& options, Dialogue& dialogue) {
+// Line by line: there may be more of them than are shown of one text.
+void print_lines(const std::string& text) {
+  std::istringstream lines(text);
+  for (std::string line; std::getline(lines, line);) vexo_xyz_impl::command_line().gcutPrintf(line + "\n");
+}
+
+ExitCode check(const CheckOptions& options) {
   std::error_code ignored;
   if (!std::filesystem::is_regular_file(options.file, ignored)) {
     say("konsola.kontrola_nie_plik", {options.file.string()});
     return kFailure;
   }
-  const OpenedDrawing opened = open_existing(options.file);
+  const OpenedDrawing opened = read_existing(options.file);
   if (const auto* const why_not = std::get_if<std::string>(&opened)) {
-    dialogue.gcutPrintf(*why_not);
+    print_lines(*why_not);
     return kFailure;
   }
   const ExistingDrawing& drawing = *std::get<std::unique_ptr<ExistingDrawing>>(opened);
@@ -39,7 +43,7 @@ ExitCode check(const CheckOptions& options, Dialogue& dialogue) {
   if (options.json) {
     std::cout << check_as_json(checked) << std::flush;
   } else {
-    dialogue.gcutPrintf(check_as_text(checked));
+    print_lines(check_as_text(checked));
   }
   return findings.controlled > 0 && findings.changed.empty() ? kImported : kNothingImported;
 }
@@ -47,11 +51,8 @@ ExitCode check(const CheckOptions& options, Dialogue& dialogue) {
 }  // namespace
 
 ExitCode run_check(const CheckOptions& options, const Choice& choice, LineSource& lines, std::ostream& out) {
-  Database database;
-  Dialogue dialogue(lines, out, database.drawing().variables, std::nullopt, {});
-  SiblingRegistry siblings = family(database, choice);
-  const vexo_xyz_impl::Entered entered({{dialogue, database, siblings}, vexo_xyz_impl::bind_siblings(siblings)});
-  return check(options, dialogue);
+  const Speaking speaking(choice, lines, out);
+  return check(options);
 }
 
 }  // namespace console

@@ -7,9 +7,9 @@
 
 #include <nlohmann/json.hpp>
 
+#include "console/decimals.h"
 #include "console/drawing/database.h"
 #include "console/plain_table.h"
-#include "console/preview/svg_elements.h"
 #include "vexo_xyz_impl/drawing/control.h"
 #include "vexo_xyz_impl/messages.h"
 
@@ -25,12 +25,6 @@ long long count_of(std::size_t count) { return static_cast<long long>(count); }
 std::size_t count_of(const ControlFindings& findings, Change change) {
   return static_cast<std::size_t>(std::count_if(findings.changed.begin(), findings.changed.end(),
                                                 [change](const ChangedPoint& one) { return one.change == change; }));
-}
-
-std::string metres(double value, int decimals) {
-  std::string text = with_decimals(value, decimals);
-  if (text.starts_with('-') && text.find_first_not_of("-0.") == std::string::npos) text.erase(0, 1);
-  return text;
 }
 
 std::string what_of(const ChangedPoint& changed, const TextDecoding& decoded) {
@@ -51,7 +45,8 @@ std::string table_of(const CheckedDrawing& drawing) {
     std::vector<std::string> row = {drawing.decoded(changed.label()), what_of(changed, drawing.decoded)};
     if (changed.point != nullptr) {
       const Position shift = changed.shift();
-      for (const double part : {shift.x, shift.y, shift.z, changed.distance()}) row.push_back(metres(part, decimals));
+      for (const double part : {shift.x, shift.y, shift.z, changed.distance()})
+        row.push_back(with_decimals(part, decimals));
     }
     rows.push_back(std::move(row));
   }

@@ -36,22 +36,6 @@ std::string escaped(std::string_view text) {
   return safe;
 }
 
-std::string with_decimals(double value, int decimals) {
-  std::array<char, 400> digits{};
-  auto* const end =
-      std::to_chars(digits.data(), digits.data() + digits.size(), value, std::chars_format::fixed, decimals).ptr;
-  return {digits.data(), end};
-}
-
-std::string spelled(double value, int decimals) {
-  std::string text = with_decimals(value, decimals);
-  if (text.find('.') != std::string::npos) {
-    text.erase(text.find_last_not_of('0') + 1);
-    if (text.ends_with('.')) text.pop_back();
-  }
-  return text == "-0" ? "0" : text;
-}
-
 std::string attribute(std::string_view name, std::string_view value) {
   std::string text = " ";
   text += name;

@@ -5,16 +5,12 @@
 #include <string>
 #include <string_view>
 
+#include "console/decimals.h"
+
 namespace console {
 
 /// A text as XML holds it: markup escaped, control characters left out, U+FFFD for what is no UTF-8.
 [[nodiscard]] std::string escaped(std::string_view text);
-
-/// A number with so many decimals, never with an exponent.
-[[nodiscard]] std::string with_decimals(double value, int decimals);
-
-/// The same without needless noughts.
-[[nodiscard]] std::string spelled(double value, int decimals = 1);
 
 /// " name="value"", for a tag; what a value holds must need no escaping.
 [[nodiscard]] std::string attribute(std::string_view name, std::string_view value);
