@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <csignal>
 #include <cstddef>
 #include <memory>
 #include <ostream>
@@ -18,6 +19,7 @@
 #include <unistd.h>
 
 #include "console/dialogue/line_source.h"
+#include "console/dialogue/shown_text.h"
 #include "console/plain_table.h"
 #include "console/report/report_file.h"
 #include "console/speaking.h"
@@ -126,6 +128,23 @@ bool wait_for_one(std::vector<Task>& tasks, ExistingDrawing* existing) {
   return true;
 }
 
+using nlohmann::ordered_json;
+
+std::string as_text(const ordered_json& report) {
+  return report.dump(1, ' ', false, ordered_json::error_handler_t::replace) + "\n";
+}
+
+// Of a file whose process left none.
+std::string failed_report(const std::string& file) {
+  return as_text({{"outcome", "failed"}, {"file", {{"path", file}}}});
+}
+
+std::string as_list(const std::vector<std::string>& reports) {
+  std::string list;
+  for (const std::string& report : reports) list += (list.empty() ? "[\n" : ",\n") + report;
+  return list + "]\n";
+}
+
 class Summary {
  public:
   Summary(std::ostream& out, std::ostream& reports) : out_(out), reports_(reports) {
@@ -135,10 +154,11 @@ class Summary {
 
   // What came of a file, told as soon as all before it have been.
   void add(const Task& task) {
-    if (task.words.find_first_not_of('\n') != std::string::npos) out_ << task.file << ":\n" << task.words << '\n';
-    all_reports_ += (rows_.size() > 1 ? ",\n" : "[\n") + (task.report.empty() ? "null\n" : task.report);
+    if (task.words.find_first_not_of('\n') != std::string::npos)
+      out_ << shown_text(task.file) << ":\n" << task.words << '\n';
     out_ << std::flush;
     const auto found = nlohmann::json::parse(task.report, nullptr, false);
+    told_.push_back(found.is_object() ? task.report : failed_report(task.file));
     long long points = 0;
     std::string drawing;
     std::string reason;
@@ -159,8 +179,24 @@ class Summary {
 
   [[nodiscard]] long long imported() const { return files_; }
 
+  // What was to be saved for all was not.
+  void nothing_was_saved() {
+    for (std::size_t i = 0; i < told_.size(); ++i) {
+      auto& row = rows_[i + 1];
+      auto report = ordered_json::parse(told_[i]);
+      if (report["outcome"] != "imported") continue;
+      report["outcome"] = "failed";
+      report.erase("drawing");
+      report.erase("repeat");
+      told_[i] = as_text(report);
+      row = {row.front(), "0", "-", T("konsola.wsad_blad")};
+    }
+    points_ = files_ = 0;
+    worst_ = kFailure;
+  }
+
   ExitCode end() {
-    reports_ << all_reports_ << "]\n" << std::flush;
+    reports_ << as_list(told_) << std::flush;
     out_ << plain_table({Align::left, Align::right, Align::left, Align::left}, rows_);
     const auto all = static_cast<long long>(rows_.size()) - 1;
     out_ << vexo_xyz_impl::filled("konsola.wsad_razem", {files_, all, points_}) << std::flush;
@@ -170,7 +206,7 @@ class Summary {
  private:
   std::ostream& out_;
   std::ostream& reports_;
-  std::string all_reports_;
+  std::vector<std::string> told_;
   std::vector<std::vector<std::string>> rows_;
   long long files_ = 0;
   long long points_ = 0;
@@ -192,12 +228,17 @@ ExitCode run_batch(const BatchOptions& options, std::ostream& out, std::ostream&
     OpenedDrawing opened = open_existing(*each.into);
     if (const auto* const why_not = std::get_if<std::string>(&opened)) {
       out << *why_not << std::flush;
+      std::vector<std::string> failed;
+      for (const std::string& file : options.files) failed.push_back(failed_report(file));
+      reports << as_list(failed) << std::flush;
       return kFailure;
     }
     each.existing = std::move(std::get<std::unique_ptr<ExistingDrawing>>(opened));
   }
   std::vector<Task> tasks(options.files.size());
   for (std::size_t i = 0; i < tasks.size(); ++i) tasks[i].file = options.files[i];
+  // Who starts the program may let it ignore the ends of processes, which then cannot be waited for.
+  std::signal(SIGCHLD, SIG_DFL);
   Summary summary(out, reports);
   const unsigned jobs = each.existing ? 1 : options.jobs;  // each adds to what the one before it made
   std::size_t told = 0;
@@ -215,9 +256,10 @@ ExitCode run_batch(const BatchOptions& options, std::ostream& out, std::ostream&
   if (each.existing && summary.imported() > 0) {
     if (const auto why_not = save_existing(*each.existing, nullptr, each.wishes.layers)) {
       out << *why_not << std::flush;
-      return kFailure;
+      summary.nothing_was_saved();
+    } else {
+      say("konsola.rys_zapisano", {each.existing->path().string(), each.existing->backup().string()});
     }
-    say("konsola.rys_zapisano", {each.existing->path().string(), each.existing->backup().string()});
   }
   return summary.end();
 }

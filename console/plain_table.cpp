@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "console/dialogue/shown_text.h"
+
 namespace console {
 namespace {
 
@@ -11,9 +13,17 @@ std::size_t width_of(const std::string& cell) {
       std::count_if(cell.begin(), cell.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }));
 }
 
+// What a cell says, on one line.
+std::string shown(const std::string& cell) {
+  std::string shown = without_control_characters(cell);
+  std::replace_if(shown.begin(), shown.end(), [](char c) { return c == '\n' || c == '\t'; }, ' ');
+  return shown;
+}
+
 }  // namespace
 
-std::string plain_table(const std::vector<Align>& columns, const std::vector<std::vector<std::string>>& rows) {
+std::string plain_table(const std::vector<Align>& columns, std::vector<std::vector<std::string>> rows) {
+  for (auto& row : rows) std::transform(row.begin(), row.end(), row.begin(), shown);
   std::vector<std::size_t> widths(columns.size());
   for (const auto& row : rows)
     for (std::size_t i = 0; i < row.size(); ++i) widths[i] = std::max(widths[i], width_of(row[i]));

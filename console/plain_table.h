@@ -10,6 +10,6 @@ enum class Align { left, right };
 
 /// A line for each row, columns two blanks apart; no blanks at a line's end. Rows may be shorter than `columns`.
 [[nodiscard]] std::string plain_table(const std::vector<Align>& columns,
-                                      const std::vector<std::vector<std::string>>& rows);
+                                      std::vector<std::vector<std::string>> rows);
 
 }  // namespace console

@@ -38,6 +38,7 @@ TEST(Outline, SaysWhereADrawingIsDamaged) {
       {"0\nSECTION\n0\nENDSEC\n0\nEOF\n", Damage::out_of_place, 3},
       {"0\nSECTION\n2\nENTITIES\n0\nSECTION\n2\nX\n0\nENDSEC\n0\nEOF\n", Damage::out_of_place, 5},
       {"0\nSECTION\n2\nX\n0\nEOF\n", Damage::out_of_place, 5},
+      {"0\nSECTION\n2\nHEADER\n9\n$PDMODE\n70\n0\n0\nTABLE\n0\nENDSEC\n0\nEOF\n", Damage::out_of_place, 9},
       {"0\nSECTION\n2\nTABLES\n0\nLAYER\n2\n0\n0\nENDSEC\n0\nEOF\n", Damage::out_of_place, 5},
       {entities("0\nLINE\n999\nabout\n5\n7FFFFFFFFFFFFFFF\n"), Damage::no_handles, 9},
   };

@@ -25,7 +25,8 @@ Dictionary read_dictionary(TagReader& reader, Tag& tag) {
   bool is_named = false;
   bool is_braced = false;
   bool is_extended = false;
-  while (reader.next(tag) && tag.code != 0) {
+  bool is_followed = false;
+  while ((is_followed = reader.next(tag)) && tag.code != 0) {
     if (is_extended || tag.code == 999) continue;
     if (tag.code == 102) is_braced = tag.value.starts_with('{');
     if (is_braced) continue;
@@ -42,7 +43,7 @@ Dictionary read_dictionary(TagReader& reader, Tag& tag) {
     is_named = tag.code == 3;
     if (is_named) name = tag.value;
   }
-  if (!is_extended) read.outline.entries_end = tag.begin;
+  if (!is_extended) read.outline.entries_end = is_followed ? tag.begin : tag.end;
   return read;
 }
 

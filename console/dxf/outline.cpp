@@ -112,6 +112,7 @@ class OutlineReader {
   void read_header() {
     std::string_view name;
     for (; !ends("ENDSEC"); advance()) {
+      if (tag_.code == 0) fail(Damage::out_of_place);  // tables, after a lost end of the header
       if (tag_.code == 9) {
         name = tag_.trimmed();
         continue;

@@ -6,6 +6,7 @@ Usage: everyday.py PROGRAM
 import json
 import os
 import pathlib
+import signal
 import subprocess
 import sys
 import tempfile
@@ -45,7 +46,8 @@ class EveryDay(unittest.TestCase):
 
     def run_it(self, *arguments, typed="", code=0):
         done = subprocess.run([PROGRAM, *arguments], cwd=self.folder, env=self.environment, input=typed, text=True,
-                              capture_output=True, timeout=120)
+                              capture_output=True, timeout=120,
+                              preexec_fn=lambda: signal.signal(signal.SIGCHLD, signal.SIG_IGN))  # as daemons do
         self.assertEqual(done.returncode, code, done.stdout + done.stderr)
         return done
 
@@ -74,6 +76,10 @@ class EveryDay(unittest.TestCase):
         self.run_it("a.csv", "b.csv", "a.csv", "--into", "a.dxf", "--quiet", code=1)
         groups = [name.split("_", 2)[2] for name, _ in ezdxf.readfile(self.folder / "a.dxf").groups]
         self.assertEqual((groups, (self.folder / "a.dxf.bak").read_bytes()), (["a", "a_2", "a_3"], before))
+        (self.folder / "a.dxf.bak").unlink()
+        (self.folder / "a.dxf.bak").mkdir()
+        unsaved = json.loads(self.run_it("a.csv", "d.csv", "--into", "a.dxf", "--json", code=3).stdout)
+        self.assertEqual([(one["outcome"], "drawing" in one) for one in unsaved], [("failed", False)] * 2)
 
     def test_drawings_as_wanted(self):
         self.write(a_csv=POINTS)

@@ -218,21 +218,27 @@ class Into(unittest.TestCase):
                 self.assertEqual(drawing.dxfversion, "AC1009")
                 self.assertEqual(self.added("--layer", "Żuraw").count("Nearest"), 1)
 
-    def test_no_groups_yet(self):
-        """Drawings without objects, without the dictionary, or with an entry that points nowhere."""
+    def test_dictionary_of_groups(self):
+        """Drawings without objects, without the dictionary, with an entry that points nowhere; the dictionary as the
+        last object, comments in it."""
         by_ezdxf(self.plan, "R2010")
         text = self.read(self.plan).decode()
         objects = text.index("  0\nSECTION\n  2\nOBJECTS\n")
         entry = text.index("  3\nACAD_GROUP\n", objects)
         end = text.index("\n", text.index("\n", entry + 17) + 1) + 1
-        for what, content in (("no objects", text[:objects] + text[text.index("  0\nSECTION\n  2\nVENDOR"):]),
-                              ("no entry", text[:entry] + text[end:]),
-                              ("dangling", re.sub(r"(ACAD_GROUP\n350\n)\w+", r"\g<1>FFF0", text, count=1))):
+        handle = re.search(r"ACAD_GROUP\n350\n(\w+)", text)[1]
+        groups = re.search(rf"  0\nDICTIONARY\n  5\n{handle}\n(?:(?!  0\n|1001\n).*\n.*\n)*", text)[0]
+        for what, content, sizes in (
+                ("no objects", text[:objects] + text[text.index("  0\nSECTION\n  2\nVENDOR"):], [6]),
+                ("no entry", text[:entry] + text[end:], [6]),
+                ("dangling", re.sub(r"(ACAD_GROUP\n350\n)\w+", r"\g<1>FFF0", text, count=1), [6]),
+                ("last", changed(text.replace(groups, ""), "OBJECTS", groups), [5, 6]),
+                ("comment", text.replace("ACAD_GROUP\n350\n", "ACAD_GROUP\n999\nold\n350\n", 1), [5, 6])):
             with self.subTest(what):
                 self.write(self.plan, content)
                 self.assertIn("are gathered in the group", self.added())
                 drawing = ezdxf.readfile(self.plan)
-                self.assertIn(6, [len(group) for _, group in drawing.groups])
+                self.assertEqual(sorted(len(group) for _, group in drawing.groups), sizes)
 
     def test_refusals(self):
         by_ezdxf(self.plan, "R2010")
