@@ -5,15 +5,12 @@
 
 #include <iconv.h>
 
-#include "console/dxf/text_encoding.h"
 #include "vexo_xyz_impl/text/utf8.h"
 
 namespace console {
 namespace {
 
 namespace text = vexo_xyz_impl::text;
-
-constexpr int kUtf8Since = 1021;
 
 std::optional<char32_t> number_in(std::string_view digits, std::size_t count, int base) {
   unsigned value = 0;
@@ -104,8 +101,8 @@ class TextDecoding::Converter {
   iconv_t library_;
 };
 
-TextDecoding::TextDecoding(int version, std::string_view code_page) {
-  if (version < kUtf8Since) converter_ = std::make_shared<const Converter>(code_page);
+TextDecoding::TextDecoding(const TextEncoding& encoding) {
+  if (!encoding.code_page().empty()) converter_ = std::make_shared<const Converter>(encoding.code_page());
 }
 
 std::string TextDecoding::operator()(std::string_view spelled) const {

@@ -57,12 +57,14 @@ std::string library_name(std::string_view code_page) {
 // Letters beyond ASCII as one code page has them. Each is asked for once.
 class TextEncoding::CodePage {
  public:
-  explicit CodePage(std::string_view name) : library_(iconv_open(library_name(name).c_str(), "UTF-8")) {}
+  explicit CodePage(std::string_view name) : name_(name), library_(iconv_open(library_name(name).c_str(), "UTF-8")) {}
   CodePage(const CodePage&) = delete;
   CodePage& operator=(const CodePage&) = delete;
   ~CodePage() {
     if (is_known()) iconv_close(library_);
   }
+
+  [[nodiscard]] std::string_view name() const { return name_; }
 
   const std::string& bytes_of(char32_t letter) const {
     const auto [found, is_new] = letters_.try_emplace(letter);
@@ -88,11 +90,16 @@ class TextEncoding::CodePage {
     return true;
   }
 
+  std::string name_;
   iconv_t library_;
   mutable std::map<char32_t, std::string> letters_;
 };
 
 TextEncoding::TextEncoding(std::string_view code_page) : code_page_(std::make_shared<CodePage>(code_page)) {}
+
+std::string_view TextEncoding::code_page() const {
+  return code_page_ == nullptr ? std::string_view() : code_page_->name();
+}
 
 void TextEncoding::append(std::string& to, char32_t letter) const {
   if (code_page_ == nullptr || letter < 0x80) {

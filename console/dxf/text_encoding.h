@@ -19,6 +19,9 @@ class TextEncoding {
   /// nothing but ASCII is used.
   explicit TextEncoding(std::string_view code_page);
 
+  /// Empty: UTF-8.
+  [[nodiscard]] std::string_view code_page() const;
+
   /// A text as group 1 of a TEXT holds it: what CAD programs would read as a code of theirs (%%d, ^J, \U+0041 …) is
   /// spelled so that they do not; control characters become blanks; letters that the code page lacks become \U+nnnn.
   /// The view is of the text itself when that needs no change, else of `changed`.
