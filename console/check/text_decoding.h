@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "console/dxf/code_page.h"
 #include "console/dxf/text_encoding.h"
 
 namespace console {
@@ -18,8 +19,7 @@ class TextDecoding {
   [[nodiscard]] std::string operator()(std::string_view spelled) const;
 
  private:
-  class Converter;
-  std::shared_ptr<const Converter> converter_;  // none: UTF-8
+  std::shared_ptr<const Conversion> to_utf8_;  // none: they are in UTF-8
 };
 
 }  // namespace console

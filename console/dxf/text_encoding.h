@@ -7,9 +7,6 @@
 
 namespace console {
 
-/// The C library's name of a code page: CP1250 for ANSI_1250, CP852 for dos852, ISO8859-2 as it stands.
-[[nodiscard]] std::string library_name(std::string_view code_page);
-
 class TextEncoding {
  public:
   /// UTF-8, as from version 2007 on.
