@@ -72,6 +72,10 @@ class EveryDay(unittest.TestCase):
         self.assertEqual([(one["account"]["points"], one["system"]["axes"], one["drawing"]) for one in reports],
                          [(3, "swap", "b.dxf"), (2, "keep", "c.dxf")])
 
+        with open("/dev/full", "wb") as full:  # what another program waits for
+            self.assertEqual(subprocess.run([PROGRAM, *answered], cwd=self.folder, env=self.environment, stdout=full,
+                                            stderr=subprocess.DEVNULL).returncode, 3)
+
         before = (self.folder / "a.dxf").read_bytes()
         self.run_it("a.csv", "b.csv", "a.csv", "--into", "a.dxf", "--quiet", code=1)
         groups = [name.split("_", 2)[2] for name, _ in ezdxf.readfile(self.folder / "a.dxf").groups]
