@@ -379,6 +379,21 @@ def prepare(bench):
     bench.show(goal("CPU time a MB", 1e3 * median(run.cpu for run in results[programs[0].name]) / megabytes, 10, 1, " ms") + "\n")
 
 
+def into(bench):
+    """a thousand points into a large drawing: time, memory, against copying its bytes"""
+    subprocess.run(shlex.split(bench.made(f"vexo-xyz survey_{bench.points // 4}.csv -o plan.dxf")), check=True,
+                   stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL)
+    megabytes = os.path.getsize("plan.dxf") / 1e6
+    ours, copy = "vexo-xyz --into", "cat"
+    bench.show(f"## A thousand points into a drawing of {megabytes:.0f} MB\n\n")
+    results = bench.in_turn([Program(ours, "vexo-xyz survey_1000.csv --into plan.dxf"),
+                             Program(copy, "sh -c 'cat plan.dxf > $0' out_plan.dxf")])
+    bench.show(comparison(results, []))
+    walls = [column(results[name], "wall") for name in (ours, copy)]
+    bench.show(goal("seconds beyond 2.5 times those of `cat`", median(a - 2.5 * b for a, b in zip(*walls)), 1, 2))
+    bench.show(goal("peak memory by the drawing's size", max(run.peak for run in results[ours]) / megabytes, 2.5, 2) + "\n")
+
+
 def script(bench):
     """the module's own share of an import in the CAD host's scripting layer"""
     points = bench.points // 10
@@ -393,7 +408,7 @@ def script(bench):
     bench.show(goal("the module's own share beside the strict stand-in, siblings and the cost of calling included", share, 12, 1, " %") + "\n")
 
 
-SECTIONS = {section.__name__: section for section in (whole, growth, phases, micro, workbook, prepare, script)}
+SECTIONS = {section.__name__: section for section in (whole, growth, phases, micro, workbook, prepare, into, script)}
 
 
 def arguments():

@@ -78,6 +78,7 @@ TEST(Nearness, IsThatOfAllPairs) {
   for (const auto& [apart, width] : {std::pair(0.0, 1.0), std::pair(9e5, 1.0), std::pair(3.0, 0.0)}) {
     std::uniform_real_distribution<double> anywhere(0.0, 500.0);
     std::vector<PlanPoint> points;
+    points.reserve(101);
     Column<PlanPoint> places;
     double least = 1e300;
     for (int i = 0; i < 100; ++i) points.push_back({anywhere(random) * width, anywhere(random)});

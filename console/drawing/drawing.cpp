@@ -16,10 +16,14 @@ bool is_near(double value) { return std::abs(value) <= kFarthest; }  // false fo
 
 bool is_sound(const Position& position) { return is_near(position.x) && is_near(position.y) && is_near(position.z); }
 
-void round_to_zero(Position& position) {
-  for (double* const value : {&position.x, &position.y, &position.z})
-    if (std::abs(*value) < kNearest) *value = 0.0;
+bool is_tiny(double value) { return std::abs(value) < kNearest && value != 0.0; }
+
+Position without_tiny(const Position& position) {
+  const auto rounded = [](double value) { return is_tiny(value) ? 0.0 : value; };
+  return {rounded(position.x), rounded(position.y), rounded(position.z)};
 }
+
+bool has_tiny(const Position& position) { return is_tiny(position.x) || is_tiny(position.y) || is_tiny(position.z); }
 
 // The text, or of a long one its beginning and an ellipsis, which `shortened` then holds.
 std::string_view bounded(std::string_view text, std::string& shortened) {
@@ -63,14 +67,13 @@ std::optional<Handle> Drawing::place(Kind kind, Column<Geometry>& all, const Geo
 
 std::optional<Handle> Drawing::add(const PointGeometry& point) {
   if (!is_sound(point.position)) return std::nullopt;
-  PointGeometry sound = point;
-  round_to_zero(sound.position);
-  return place(Kind::point, points_, sound);
+  if (has_tiny(point.position)) return place(Kind::point, points_, PointGeometry{without_tiny(point.position)});
+  return place(Kind::point, points_, point);
 }
 
 bool Drawing::take_over(TextGeometry& text) {
   if (!is_sound(text.position) || !is_near(text.height) || !(text.height > kNearest)) return false;
-  round_to_zero(text.position);
+  if (has_tiny(text.position)) text.position = without_tiny(text.position);
   std::string shortened;
   const std::span<const char> kept = letters_.keep(bounded(text.text, shortened));
   text.text = {kept.data(), kept.size()};

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "vexo_xyz_impl/text/ascii.h"
+
 namespace console {
 namespace {
 
@@ -63,9 +65,8 @@ void visit_dictionaries(std::string_view bytes, const Stretch& objects, Visit vi
 }
 
 std::optional<Tag> pointer_in(const Dictionary& root, std::string_view name) {
-  const NoCase less;
   for (const Entry& entry : root.entries)
-    if (!less(entry.name, name) && !less(name, entry.name)) return entry.pointer;
+    if (vexo_xyz_impl::text::equal_ascii_case(entry.name, name)) return entry.pointer;
   return std::nullopt;
 }
 

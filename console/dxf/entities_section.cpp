@@ -4,6 +4,7 @@
 #include <utility>
 #include <vector>
 
+#include "console/drawing/database.h"
 #include "console/dxf/sections.h"
 
 namespace console {
@@ -46,13 +47,17 @@ void write_control_record(TagWriter& tags, const vexo_reaktywne_core::ControlRec
   tags.position(1010, record.at_registration);
 }
 
-// The tags between an entity's owner and its geometry.
-std::string head_of(const DxfForm& form, std::string_view layer, std::string_view subclass) {
+// The tags between an entity's reactors and its geometry: owner and layer.
+std::string head_of(const EntityPlaces& places, std::string_view layer, std::string_view subclass) {
+  const DxfForm& form = places.form;
   const std::string on_layer = "8\n" + form.encoding.name(layer) + "\n";
   if (!form.has_subclasses()) return on_layer;
-  return "100\nAcDbEntity\n" + on_layer + "100\n" + std::string(subclass) + "\n";
+  std::string owner;
+  if (form.has_owners() && places.model_space != 0) owner = "330\n" + handle_text(places.model_space) + "\n";
+  return owner + "100\nAcDbEntity\n" + on_layer + "100\n" + std::string(subclass) + "\n";
 }
 
+// Tags that many entities share are composed once.
 class EntityWriter {
  public:
   EntityWriter(TagWriter& tags, const Drawing& drawing, const EntityPlaces& places)
@@ -60,10 +65,9 @@ class EntityWriter {
         drawing_(drawing),
         form_(places.form),
         reactors_(drawing),
-        owner_(places.model_space),
-        point_head_(head_of(form_, places.layers.points, "AcDbPoint")),
-        label_head_(head_of(form_, places.layers.labels, "AcDbText")),
-        height_head_(head_of(form_, places.layers.heights, "AcDbText")) {}
+        point_head_(head_of(places, places.layers.points, "AcDbPoint")),
+        label_head_(head_of(places, places.layers.labels, "AcDbText")),
+        height_head_(head_of(places, places.layers.heights, "AcDbText")) {}
 
   template <class Geometry>
   void operator()(Handle handle, const Geometry& geometry) {
@@ -72,16 +76,15 @@ class EntityWriter {
   }
 
  private:
-  void begin(std::string_view kind, Handle handle) {
+  void begin(std::string_view kind, Handle handle, std::string_view head) {
     tags_.lines(kind);
     tags_.handle(5, handle);
     if (form_.has_subclasses()) reactors_.write(tags_, handle);
-    if (form_.has_owners() && owner_ != 0) tags_.handle(330, owner_);
+    tags_.lines(head);
   }
 
   void write(Handle handle, const PointGeometry& point) {
-    begin("0\nPOINT\n", handle);
-    tags_.lines(point_head_);
+    begin("0\nPOINT\n", handle, point_head_);
     tags_.position(10, point.position);
   }
 
@@ -89,13 +92,18 @@ class EntityWriter {
   void write(Handle handle, const HeightGeometry& height) { write(handle, height, height_head_); }
 
   void write(Handle handle, const TextGeometry& text, std::string_view head) {
-    begin("0\nTEXT\n", handle);
-    tags_.lines(head);
+    begin("0\nTEXT\n", handle, head);
     tags_.position(10, text.position);
     tags_.real(40, text.height);
     tags_.text(1, form_.encoding.label(text.text, changed_label_));
-    tags_.text(7, style_name(text.style));
-    if (form_.has_subclasses()) tags_.lines("100\nAcDbText\n");
+    if (text_tail_.empty() || text.style != style_) compose_text_tail(text.style);
+    tags_.lines(text_tail_);
+  }
+
+  void compose_text_tail(Handle style) {
+    style_ = style;
+    text_tail_ = "7\n" + std::string(style_name(style)) + "\n";
+    if (form_.has_subclasses()) text_tail_ += "100\nAcDbText\n";
   }
 
   [[nodiscard]] std::string_view style_name(Handle style) const {
@@ -108,10 +116,11 @@ class EntityWriter {
   const Drawing& drawing_;
   const DxfForm& form_;
   Reactors reactors_;
-  Handle owner_;
   std::string point_head_;
   std::string label_head_;
   std::string height_head_;
+  Handle style_ = 0;
+  std::string text_tail_;  // of that style
   std::string changed_label_;
 };
 

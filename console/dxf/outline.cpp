@@ -156,16 +156,13 @@ class OutlineReader {
         if (is_layer && (tag.code == 390 || tag.code == 347)) plot_styles.push_back(tag);
       });
       if (is_layer && record == "0") outline_.plot_styles = plot_styles;
-      if (name == "BLOCK_RECORD" && is_same(record, "*Model_Space")) outline_.model_space = handle;
+      if (name == "BLOCK_RECORD" && vexo_xyz_impl::text::equal_ascii_case(record, "*Model_Space"))
+        outline_.model_space = handle;
       table.names.emplace(record);
     }
     table.end = tag_.begin;
     advance();
     if (!name.empty()) outline_.tables.emplace(name, std::move(table));
-  }
-
-  static bool is_same(std::string_view one, std::string_view other) {
-    return !NoCase{}(one, other) && !NoCase{}(other, one);
   }
 
   void read_entities() {

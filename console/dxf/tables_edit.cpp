@@ -35,7 +35,7 @@ void DrawingEdit::add_to_table(const NewRecords& added, std::size_t section_end)
   for (const RecordWriter& record : added.records)
     edits_.insert(there.end, [record, table = there.handle](TagWriter& tags) { record(tags, table); });
   const auto told = static_cast<long long>(there.records);
-  const auto now = static_cast<long long>(there.records + added.records.size());
+  const auto now = told + static_cast<long long>(added.records.size());
   if (there.count && there.count->whole() == told) edits_.replace(*there.count, std::to_string(now));
 }
 
@@ -60,7 +60,8 @@ std::vector<DrawingEdit::RecordWriter> DrawingEdit::new_layers() {
   for (LayerRecord layer : layers_of(drawing_, layers_)) {
     if (has("LAYER", form_.encoding.name(layer.name))) continue;
     layer.handle = new_handle();
-    records.push_back([=, this](TagWriter& tags, Handle table) { write_layer(tags, form_, layer, table, pointers); });
+    records.emplace_back(
+        [=, this](TagWriter& tags, Handle table) { write_layer(tags, form_, layer, table, pointers); });
   }
   return records;
 }
@@ -69,16 +70,15 @@ std::vector<DrawingEdit::RecordWriter> DrawingEdit::new_styles() {
   std::vector<RecordWriter> records;
   for (const TextStyle& style : drawing_.text_styles()) {
     if (has("STYLE", form_.encoding.name(style.name))) continue;
-    records.push_back([&style, this](TagWriter& tags, Handle table) { write_style(tags, form_, style, table); });
+    records.emplace_back([&style, this](TagWriter& tags, Handle table) { write_style(tags, form_, style, table); });
   }
   return records;
 }
 
 std::vector<DrawingEdit::RecordWriter> DrawingEdit::new_applications() {
-  constexpr std::string_view kName = vexo_reaktywne_core::kApplication;
-  if (drawing_.control_record_count() == 0 || has("APPID", kName)) return {};
+  if (drawing_.control_record_count() == 0 || has("APPID", vexo_reaktywne_core::kApplication)) return {};
   return {[this, handle = new_handle()](TagWriter& tags, Handle table) {
-    write_application(tags, form_, handle, kName, table);
+    write_application(tags, form_, handle, vexo_reaktywne_core::kApplication, table);
   }};
 }
 
