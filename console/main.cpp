@@ -8,6 +8,7 @@
 #include <memory>
 #include <ostream>
 #include <sstream>
+#include <stdexcept>
 #include <utility>
 
 #include <CLI/CLI.hpp>
@@ -80,21 +81,27 @@ int run(int argc, char** argv) {
   prepare.options.file = console::existing_path(std::move(prepare.options.file));
   const bool is_asked_for_json = checking->parsed() ? check.options.json : arguments.json && !preparing->parsed();
   std::ostream& out = is_asked_for_json ? std::cerr : std::cout;
+  // What another program waits for is not lost in silence.
+  const auto told = [is_asked_for_json](console::ExitCode code) {
+    if (is_asked_for_json && !std::cout) throw std::runtime_error("standard output could not be written");
+    return code;
+  };
   const auto lines = typed_lines(out);
   prepare.options.shows_progress = isatty(STDOUT_FILENO) != 0;
   if (preparing->parsed()) return console::run_prepare(prepare.options, prepare.choice, *lines, std::cout);
-  if (checking->parsed()) return console::run_check(check.options, check.choice, *lines, out);
+  if (checking->parsed()) return told(console::run_check(check.options, check.choice, *lines, out));
   std::ostream nowhere(nullptr);
   std::ostream& reports = is_asked_for_json ? std::cout : nowhere;
   console::SessionOptions options = console::session_options(app, arguments, at_a_terminal());
   options.shows_progress = isatty(STDOUT_FILENO) != 0 && !is_asked_for_json && !arguments.quiet;
-  if (arguments.files.size() > 1) return console::run_batch({arguments.files, arguments.jobs, options}, out, reports);
+  if (arguments.files.size() > 1)
+    return told(console::run_batch({arguments.files, arguments.jobs, options}, out, reports));
   std::istringstream nobody;
   const auto no_lines = console::lines_of_stream(nobody, out);
   console::Session session(std::move(options), arguments.unattended ? *no_lines : *lines, out);
   const console::ExitCode code = session.run();
   reports << console::report_as_json(session.findings()) << std::flush;
-  return code;
+  return told(code);
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <limits>
 #include <unordered_map>
 #include <unordered_set>
 #include <utility>
@@ -19,6 +20,12 @@ double length(const Position& way) { return std::hypot(way.x, way.y, way.z); }
 bool is_same(const Position& one, const Position& other) { return length(between(one, other)) <= kSamePlace; }
 
 double strayed(const PointInDrawing& point) { return length(between(point.registered, point.now)); }
+
+// What is left of a shift's last digits at so great coordinates: one as long as the tolerance may not be told by it.
+double noise_at(const Position& place) {
+  constexpr double kSteps = 4.0 * std::numeric_limits<double>::epsilon();
+  return kSteps * std::max({std::abs(place.x), std::abs(place.y), std::abs(place.z)});
+}
 
 // Places that agree to a tenth of a millimetre.
 using PlaceKey = std::array<double, 3>;
@@ -153,7 +160,7 @@ class Check {
 
   void tell_present(const PointInDrawing* point, const ListedPoint* listed) {
     const ChangedPoint moved = {Change::moved, point, listed};
-    if (moved.distance() > tolerance_) {
+    if (moved.distance() > tolerance_ + noise_at(point->now)) {
       tell(moved);
     } else {
       ++findings_.in_place;

@@ -72,6 +72,10 @@ class EveryDay(unittest.TestCase):
         self.assertEqual([(one["account"]["points"], one["system"]["axes"], one["drawing"]) for one in reports],
                          [(3, "swap", "b.dxf"), (2, "keep", "c.dxf")])
 
+        with open("/dev/full", "wb") as full:  # what another program waits for
+            self.assertEqual(subprocess.run([PROGRAM, *answered], cwd=self.folder, env=self.environment, stdout=full,
+                                            stderr=subprocess.DEVNULL).returncode, 3)
+
         before = (self.folder / "a.dxf").read_bytes()
         self.run_it("a.csv", "b.csv", "a.csv", "--into", "a.dxf", "--quiet", code=1)
         groups = [name.split("_", 2)[2] for name, _ in ezdxf.readfile(self.folder / "a.dxf").groups]
@@ -109,13 +113,15 @@ class EveryDay(unittest.TestCase):
         self.assertEqual({one.dxf.height for one in document.modelspace().query("TEXT")}, {3.0})
         self.assertIn("cannot be opened", self.run_it("nie.csv", code=3).stdout)
         defaults.write_text("warstwa = 1\n")
-        self.assertIn("warstwa", self.run_it("a.csv", code=2).stderr)
+        self.assertRegex(self.run_it("a.csv", code=2).stderr, f"warstwa[^~]*{defaults}")
 
     def test_the_command_that_repeats(self):
+        (self.folder / "own.toml").write_text("quiet = false\nheights = 1\n")
         for name, content, options, typed in [
             ("it's a \"file\" $(x).csv", AMBIGUOUS, ["--heights", "--layer", "Ein Plan"], "s\n"),
             ("a.csv", OPEN, ["--scale", "1:250", "--dxf", "2004"], "c\n"),
-            ("-a.csv", AMBIGUOUS, ["-o", "plan", "--market", "PL"], "\n"),
+            ("-a.csv", AMBIGUOUS, ["--output=-plan", "--market", "PL"], "\n"),
+            ("c.csv", POINTS, ["--layer=--output", "--config", "own.toml"], ""),
             ("b.csv", POINTS.replace(";", "|"), ["--prepare"], ""),
         ]:
             with self.subTest(name):
