@@ -123,7 +123,11 @@ IsFileOfPoints Session::is_points() const {
 }
 
 ExitCode Session::run() {
-  if (report_is_refused() || preview_is_refused()) return kFailure;  // before any question
+  if (report_is_refused() || preview_is_refused()) {  // before any question
+    watcher_.drawing_failed();
+    dialogue_.say_held();
+    return kFailure;
+  }
   const std::filesystem::path given = vexo_xyz_impl::clean_path(options_.file.value_or(std::string()));
   const ExitCode code = drawing_is_refused(given) ? kFailure : import_and_save();
   if (code == kFailure) watcher_.drawing_failed();
