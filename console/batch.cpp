@@ -259,6 +259,7 @@ ExitCode run_batch(const BatchOptions& options, std::ostream& out, std::ostream&
       summary.nothing_was_saved();
     } else {
       say("konsola.rys_zapisano", {each.existing->path().string(), each.existing->backup().string()});
+      vexo_xyz_impl::command_line().gcutPrintf(each.existing->notes(each.wishes));
     }
   }
   return summary.end();

@@ -113,6 +113,25 @@ bool ExistingDrawing::is_unchanged() const {
   }
 }
 
+std::string ExistingDrawing::notes(const DrawingWishes& wishes) const {
+  constexpr long long kNoUnit = 0;
+  constexpr long long kMetre = 6;
+  const TextEncoding encoding = form_of(outline_).encoding;
+  std::string hidden;
+  const auto look_at = [&](const std::string& layer) {
+    if (outline_.hidden_layers.contains(encoding.name(layer))) hidden += (hidden.empty() ? "" : ", ") + layer;
+  };
+  look_at(wishes.layers.points);
+  look_at(wishes.layers.labels);
+  if (wishes.height_decimals) look_at(wishes.layers.heights);
+  std::string notes;
+  if (!hidden.empty()) notes += vexo_xyz_impl::filled("konsola.rys_niewidoczne", {std::string_view(hidden)});
+  const Tag* const stated = outline_.variable("$INSUNITS");
+  const long long unit = stated == nullptr ? kNoUnit : stated->whole().value_or(kNoUnit);
+  if (unit != kNoUnit && unit != kMetre) notes += vexo_xyz_impl::filled("konsola.rys_jednostka", {unit});
+  return notes;
+}
+
 void ExistingDrawing::write(const Drawing& added, const Layers& layers, ByteSink& sink) const {
   write_added(bytes_, outline_, added, layers, sink);
 }

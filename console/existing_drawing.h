@@ -33,6 +33,10 @@ class ExistingDrawing {
   /// Whether the file on the disk is still the one that was read.
   [[nodiscard]] bool is_unchanged() const;
 
+  /// What the user should know of it once points were added: that their layers do not show, that its unit is not the
+  /// metre. Lines; empty for nothing.
+  [[nodiscard]] std::string notes(const DrawingWishes& wishes) const;
+
   /// Writes the drawing with `added` in it.
   void write(const Drawing& added, const Layers& layers, ByteSink& sink) const;
 

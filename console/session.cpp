@@ -234,6 +234,7 @@ ExitCode Session::save_into_existing() {
   work.reset();
   const std::string drawing = existing_->path().string();
   say("konsola.rys_zapisano", {drawing, existing_->backup().string()});
+  dialogue_.gcutPrintf(existing_->notes(options_.wishes));
   tell_repeating_command(drawing);
   return kImported;
 }

@@ -4,7 +4,6 @@
 #include "console/dxf/sections.h"
 
 namespace console {
-namespace {
 
 DxfForm form_of(const Outline& outline) {
   DxfForm form{static_cast<DxfVersion>(outline.version), {}};
@@ -13,8 +12,6 @@ DxfForm form_of(const Outline& outline) {
   if (!form.is_utf8()) form.encoding = TextEncoding(code_page.empty() ? "ASCII" : code_page);
   return form;
 }
-
-}  // namespace
 
 DrawingEdit::DrawingEdit(std::string_view bytes, const Outline& outline, const Drawing& drawing, const Layers& layers)
     : outline_(outline),

@@ -5,10 +5,14 @@
 
 #include "console/drawing/drawing.h"
 #include "console/drawing/wishes.h"
+#include "console/dxf/form.h"
 #include "console/dxf/outline.h"
 #include "console/dxf/tag_writer.h"
 
 namespace console {
+
+/// How the drawing spells what is added to it.
+[[nodiscard]] DxfForm form_of(const Outline& outline);
 
 /// What the drawing in these bytes gives an import to begin with.
 [[nodiscard]] Ground ground_of(const Outline& outline);

@@ -151,10 +151,13 @@ class OutlineReader {
       const bool is_layer = is_mark("LAYER");
       std::string_view record;
       std::vector<Tag> plot_styles;
+      bool is_hidden = false;
       const Handle handle = read_record(handle_code, [&](const Tag& tag) {
         if (tag.code == 2 && record.empty()) record = tag.trimmed();
         if (is_layer && (tag.code == 390 || tag.code == 347)) plot_styles.push_back(tag);
+        if (is_layer && (tag.code == 62 || tag.code == 70)) is_hidden = is_hidden || hides_layer(tag);
       });
+      if (is_hidden) outline_.hidden_layers.emplace(record);
       if (is_layer && record == "0") outline_.plot_styles = plot_styles;
       if (name == "BLOCK_RECORD" && vexo_xyz_impl::text::equal_ascii_case(record, "*Model_Space"))
         outline_.model_space = handle;
@@ -163,6 +166,12 @@ class OutlineReader {
     table.end = tag_.begin;
     advance();
     if (!name.empty()) outline_.tables.emplace(name, std::move(table));
+  }
+
+  // A negative colour turns a layer off, the first bit of its flags freezes it.
+  static bool hides_layer(const Tag& tag) {
+    const long long value = tag.whole().value_or(0);
+    return tag.code == 62 ? value < 0 : (static_cast<unsigned long long>(value) & 1U) != 0;
   }
 
   void read_entities() {

@@ -70,6 +70,7 @@ struct Outline {
   std::map<std::string_view, TableOutline> tables;
   Handle model_space = 0;                   ///< its block record; 0: none
   std::vector<Tag> plot_styles;             ///< 390 and 347 of layer 0
+  Names hidden_layers;                      ///< off or frozen
   std::optional<DictionaryOutline> root;    ///< the dictionary that holds the named ones
   std::optional<Tag> groups_entry;          ///< the root's pointer to the dictionary of groups
   std::optional<DictionaryOutline> groups;  ///< none: no such object

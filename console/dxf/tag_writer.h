@@ -29,8 +29,7 @@ class TagWriter {
   /// A tag with a text, which must hold no line break.
   void text(int code, std::string_view value) {
     char* const to = put_code(room(value.size() + kLongestTag), code);
-    std::memcpy(to, value.data(), value.size());
-    end_line(to + value.size());
+    end_line(to + value.copy(to, value.size()));  // which a view of nothing may be, too
   }
 
   void whole(int code, long long value) { end_line(put_whole(put_code(room(kLongestTag), code), value)); }

@@ -70,6 +70,16 @@ std::span<const Text> into_texts() {
        "Die Punkte stehen in der Zeichnung: %s\nFrühere Zeichnung: %s\n",
        "Punctele au fost adăugate în desenul: %s\nDesenul anterior: %s\n",
        "Points added to the drawing: %s\nFormer drawing: %s\n"},
+      {"konsola.rys_niewidoczne", "s",  // names of layers
+       "Warstwy wyłączone lub zamrożone w rysunku: %s. Włącz je, aby zobaczyć punkty.\n",
+       "In der Zeichnung ausgeschaltete oder gefrorene Layer: %s. Erst eingeschaltet zeigen sie die Punkte.\n",
+       "Straturi oprite sau înghețate în desen: %s. Porniți-le pentru a vedea punctele.\n",
+       "Layers that are off or frozen in the drawing: %s. Turn them on to see the points.\n"},
+      {"konsola.rys_jednostka", "d",  // $INSUNITS
+       "Jednostką rysunku nie jest metr ($INSUNITS %d); współrzędne wstawiono tak, jak stoją.\n",
+       "Die Einheit der Zeichnung ist nicht der Meter ($INSUNITS %d); die Koordinaten stehen darin wie in der Datei.\n",
+       "Unitatea desenului nu este metrul ($INSUNITS %d); coordonatele au fost inserate ca atare.\n",
+       "The drawing's unit is not the metre ($INSUNITS %d); the coordinates were inserted as they stand.\n"},
       {"konsola.rys_odleglosc", "s",  // distance
        "Najbliżej tego, co jest w rysunku: %s\n", "Am nächsten zum Bestand der Zeichnung: %s\n",
        "Cel mai aproape de conținutul desenului: %s\n", "Nearest to what the drawing holds: %s\n"},

@@ -293,6 +293,9 @@ class Into(unittest.TestCase):
 
     def test_another_system(self):
         drawing = ezdxf.new("R2000")
+        drawing.units = 4
+        drawing.layers.add("pikiety").off()
+        drawing.layers.add("PIKIETY_H").freeze()  # heights are not asked for
         drawing.modelspace().add_lwpolyline([(0, 0), (6542010.25, 5500000)])
         drawing.modelspace().add_hatch().paths.add_polyline_path([(1, 1), (2, 1), (2, 2)])
         mirrored = {"extrusion": (0, 0, -1), "insert": (6542010.25, 6024815.5)}
@@ -301,6 +304,8 @@ class Into(unittest.TestCase):
         output = self.added()
         self.assertIn("the points are 525 km away from what the drawing holds. Another coordinate system", output)
         self.assertNotIn("Nearest", output)
+        self.assertIn("off or frozen in the drawing: PIKIETY.", output)
+        self.assertIn("$INSUNITS 4", output)
 
 
 if __name__ == "__main__":
