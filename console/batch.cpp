@@ -102,11 +102,20 @@ struct Task {
   _exit(code);
 }
 
-void start(Task& task, const SessionOptions& options) {
-  task.output = std::make_unique<Task::Output>();
-  task.process = fork();
-  if (task.process < 0) fail("starting a process");
+// Whether it was; where the system allows no more at a time, the others are to end before.
+bool start(Task& task, const SessionOptions& options, bool others_run) {
+  try {
+    task.output = std::make_unique<Task::Output>();
+    task.process = fork();
+    if (task.process < 0) fail("starting a process");
+  } catch (const std::system_error&) {
+    task.output.reset();
+    task.process = 0;
+    if (!others_run) throw;
+    return false;
+  }
   if (task.process == 0) import_in_child(task, options);
+  return true;
 }
 
 // Whether one has ended. What it added to the drawing that all go into is the ground for the next.
@@ -245,7 +254,7 @@ ExitCode run_batch(const BatchOptions& options, std::ostream& out, std::ostream&
   std::size_t started = 0;
   std::size_t ended = 0;
   while (told < tasks.size()) {
-    while (started < tasks.size() && started - ended < jobs) start(tasks[started++], each);
+    while (started < tasks.size() && started - ended < jobs && start(tasks[started], each, started > ended)) ++started;
     ended += wait_for_one(tasks, each.existing.get()) ? 1 : 0;
     for (; told < tasks.size() && tasks[told].has_ended; ++told) {
       summary.add(tasks[told]);

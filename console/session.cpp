@@ -101,7 +101,11 @@ bool Session::is_drawing_refused(const std::filesystem::path& points) {
 }
 
 ExitCode Session::run() {
-  if (told_failure(outputs_.refusal_beside_drawing())) return kFailure;  // before any question
+  if (told_failure(outputs_.refusal_beside_drawing())) {  // before any question
+    watcher_.drawing_failed();
+    dialogue_.say_held();
+    return kFailure;
+  }
   const std::filesystem::path given = vexo_xyz_impl::clean_path(options_.file.value_or(std::string()));
   ExitCode code = is_drawing_refused(given) ? kFailure : import_and_save();
   if (code == kFailure) watcher_.drawing_failed();

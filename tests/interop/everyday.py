@@ -76,6 +76,9 @@ class EveryDay(unittest.TestCase):
             self.assertEqual(subprocess.run([PROGRAM, *answered], cwd=self.folder, env=self.environment, stdout=full,
                                             stderr=subprocess.DEVNULL).returncode, 3)
 
+        limited = ["sh", "-c", 'ulimit -n 16; exec "$0" "$@"', PROGRAM, *["a.csv"] * 9, "--jobs", "8", "--quiet"]
+        self.assertEqual(subprocess.run(limited, cwd=self.folder, env=self.environment, capture_output=True).returncode, 0)
+
         before = (self.folder / "a.dxf").read_bytes()
         self.run_it("a.csv", "b.csv", "a.csv", "--into", "a.dxf", "--quiet", code=1)
         groups = [name.split("_", 2)[2] for name, _ in ezdxf.readfile(self.folder / "a.dxf").groups]
@@ -112,6 +115,8 @@ class EveryDay(unittest.TestCase):
         self.assertEqual({layer for _, layer, _ in found}, {"0"})
         self.assertEqual({one.dxf.height for one in document.modelspace().query("TEXT")}, {3.0})
         self.assertIn("cannot be opened", self.run_it("nie.csv", code=3).stdout)
+        refused = self.run_it("a.csv", "-o", "b.dxf", "--report", "b.dxf", "--json", code=3)
+        self.assertEqual((json.loads(refused.stdout)["outcome"], "the drawing's name" in refused.stderr), ("failed", True))
         defaults.write_text("warstwa = 1\n")
         self.assertRegex(self.run_it("a.csv", code=2).stderr, f"warstwa[^~]*{defaults}")
 
