@@ -76,6 +76,12 @@ class EveryDay(unittest.TestCase):
             self.assertEqual(subprocess.run([PROGRAM, *answered], cwd=self.folder, env=self.environment, stdout=full,
                                             stderr=subprocess.DEVNULL).returncode, 3)
 
+        for room, outcomes in [(5, {"not_started"}), (12, {None})]:  # descriptors
+            done = subprocess.run(["sh", "-c", f'ulimit -n {room}; exec "$0" "$@"', PROGRAM, *["a.csv"] * 5, "--json",
+                                   "--jobs", "5"], cwd=self.folder, env=self.environment, capture_output=True)
+            reasons = [(one["reason"] or {}).get("code") for one in json.loads(done.stdout)]
+            self.assertEqual((len(reasons), set(reasons)), (5, outcomes))
+
         before = (self.folder / "a.dxf").read_bytes()
         self.run_it("a.csv", "b.csv", "a.csv", "--into", "a.dxf", "--quiet", code=1)
         groups = [name.split("_", 2)[2] for name, _ in ezdxf.readfile(self.folder / "a.dxf").groups]
