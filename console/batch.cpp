@@ -149,7 +149,12 @@ bool start(std::vector<Task>& tasks, Task& task, const SessionOptions& options) 
 void take_over(Task& task, int status, ExistingDrawing* existing) {
   task.words = task.output->words.content();
   task.report = task.output->report.content();
-  const int code = WIFEXITED(status) ? WEXITSTATUS(status) : kFailure;
+  if (WIFSIGNALED(status)) {
+    const long long number = WTERMSIG(status);
+    task.fail({"ended_by_signal", vexo_xyz_impl::filled("konsola.wsad_sygnal", {number})});
+    return;
+  }
+  const int code = WEXITSTATUS(status);
   if (existing != nullptr && code == kImported) existing->go_on_with(task.output->drawing.content());
   task.code = code <= kFailure && !task.report.empty() ? static_cast<ExitCode>(code) : kFailure;
 }
@@ -186,6 +191,13 @@ std::string failed_report(const std::string& file, const Reason& reason) {
   return as_text(report);
 }
 
+// In a word; what is set aside waits for an answer.
+std::string_view result_of(ExitCode code, std::string_view reason) {
+  if (code == kImported) return "konsola.wsad_wczytany";
+  if (code != kNothingImported) return "konsola.wsad_blad";
+  return reason == "columns_open" || reason == "axes_open" ? "konsola.wsad_odlozony" : "konsola.wsad_nic";
+}
+
 std::string as_list(const std::vector<std::string>& reports) {
   std::string list;
   for (const std::string& report : reports) list += (list.empty() ? "[\n" : ",\n") + report;
@@ -208,17 +220,19 @@ class Summary {
     told_.push_back(found.is_object() ? task.report : failed_report(task.file, task.reason));
     long long points = 0;
     std::string drawing;
+    std::string code(task.reason.code);
     std::string reason = task.reason.text;
     if (found.is_object()) {
       drawing = found.value("drawing", "");
       if (task.code == kImported) points = found["account"]["points"];
-      if (found["reason"].is_object()) reason = found["reason"]["text"];
+      if (found["reason"].is_object()) {
+        code = found["reason"]["code"];
+        reason = found["reason"]["text"];
+      }
     }
     points_ += points;
     files_ += task.code == kImported ? 1 : 0;
-    const std::string result = T(task.code == kImported          ? "konsola.wsad_wczytany"
-                                 : task.code == kNothingImported ? "konsola.wsad_odlozony"
-                                                                 : "konsola.wsad_blad");
+    const std::string result = T(result_of(task.code, code));
     rows_.push_back({task.file, std::to_string(points), drawing.empty() ? "-" : drawing,
                      reason.empty() ? result : result + ": " + reason});
     worst_ = std::max(worst_, task.code);

@@ -82,6 +82,16 @@ class EveryDay(unittest.TestCase):
             reasons = [(one["reason"] or {}).get("code") for one in json.loads(done.stdout)]
             self.assertEqual((len(reasons), set(reasons)), (5, outcomes))
 
+        self.write(large_csv=POINTS * 50000, none_csv="")
+        process = subprocess.Popen([PROGRAM, "large.csv", "none.csv", "d.csv", "--lang", "EN"], cwd=self.folder,
+                                   env=self.environment, stdout=subprocess.PIPE, text=True)
+        while not (children := pathlib.Path(f"/proc/{process.pid}/task/{process.pid}/children").read_text().split()):
+            self.assertIsNone(process.poll())
+        os.kill(int(children[0]), signal.SIGKILL)
+        table = process.communicate()[0].splitlines()[-4:]
+        for row, outcome in zip(table, ["failed: the process was ended by signal 9", "nothing imported:", "imported"]):
+            self.assertIn(f"  {outcome}", row)
+
         before = (self.folder / "a.dxf").read_bytes()
         self.run_it("a.csv", "b.csv", "a.csv", "--into", "a.dxf", "--quiet", code=1)
         groups = [name.split("_", 2)[2] for name, _ in ezdxf.readfile(self.folder / "a.dxf").groups]
