@@ -76,8 +76,21 @@ class EveryDay(unittest.TestCase):
             self.assertEqual(subprocess.run([PROGRAM, *answered], cwd=self.folder, env=self.environment, stdout=full,
                                             stderr=subprocess.DEVNULL).returncode, 3)
 
-        limited = ["sh", "-c", 'ulimit -n 16; exec "$0" "$@"', PROGRAM, *["a.csv"] * 9, "--jobs", "8", "--quiet"]
-        self.assertEqual(subprocess.run(limited, cwd=self.folder, env=self.environment, capture_output=True).returncode, 0)
+        for room, outcomes in [(5, {"not_started"}), (12, {None})]:  # descriptors
+            done = subprocess.run(["sh", "-c", f'ulimit -n {room}; exec "$0" "$@"', PROGRAM, *["a.csv"] * 5, "--json",
+                                   "--jobs", "5"], cwd=self.folder, env=self.environment, capture_output=True)
+            reasons = [(one["reason"] or {}).get("code") for one in json.loads(done.stdout)]
+            self.assertEqual((len(reasons), set(reasons)), (5, outcomes))
+
+        self.write(large_csv=POINTS * 50000, none_csv="")
+        process = subprocess.Popen([PROGRAM, "large.csv", "none.csv", "d.csv", "--lang", "EN"], cwd=self.folder,
+                                   env=self.environment, stdout=subprocess.PIPE, text=True)
+        while not (children := pathlib.Path(f"/proc/{process.pid}/task/{process.pid}/children").read_text().split()):
+            self.assertIsNone(process.poll())
+        os.kill(int(children[0]), signal.SIGKILL)
+        table = process.communicate()[0].splitlines()[-4:]
+        for row, outcome in zip(table, ["failed: the process was ended by signal 9", "nothing imported:", "imported"]):
+            self.assertIn(f"  {outcome}", row)
 
         before = (self.folder / "a.dxf").read_bytes()
         self.run_it("a.csv", "b.csv", "a.csv", "--into", "a.dxf", "--quiet", code=1)
