@@ -5,13 +5,13 @@
 #include <unordered_map>
 #include <utility>
 
+#include "console/dxf/sections.h"
 #include "console/dxf/tag_reader.h"
 #include "siblings/vexo_reaktywne_core/reaktywne_core.h"
+#include "vexo_xyz_impl/drawing/control.h"
 
 namespace console {
 namespace {
-
-constexpr std::string_view kRecordKind = "XYZPKT";
 
 // Takes one of the three reals that stand under `base`, `base` + 10 and `base` + 20.
 bool take_real(Position& position, const Tag& tag, int base) {
@@ -78,7 +78,7 @@ class EntityReader {
       return;
     }
     if (tag.code == 1001) is_ours_ = tag.says(vexo_reaktywne_core::kApplication);
-    if (tag.code == 1001 || tag.code == 1000) is_record_ = is_ours_ && tag.says(kRecordKind);
+    if (tag.code == 1001 || tag.code == 1000) is_record_ = is_ours_ && tag.says(vexo_xyz_impl::kRecordKind);
     if (!is_record_) return;
     if (tag.code == 1005 && point.recorded == 0) point.recorded = tag.handle().value_or(0);
     if (take_real(point.registered, tag, 1010)) point.has_record = true;
@@ -129,7 +129,7 @@ class ObjectReader {
         Tag entry;
         entry.value = name;
         const auto control = entries_.find(object);
-        if (entry.says(kControlDictionaryName) && control != entries_.end()) take_lists_of(control->second, found);
+        if (entry.says(kControlDictionary) && control != entries_.end()) take_lists_of(control->second, found);
       }
   }
 

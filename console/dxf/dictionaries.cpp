@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "console/dxf/sections.h"
 #include "vexo_xyz_impl/text/ascii.h"
 
 namespace console {
@@ -81,8 +82,8 @@ void find_dictionaries(std::string_view bytes, const Stretch& objects, Outline& 
   });
   if (!root) return;
   outline.root = root->outline;
-  outline.groups_entry = pointer_in(*root, kGroupDictionaryName);
-  outline.control_entry = pointer_in(*root, kControlDictionaryName);
+  outline.groups_entry = pointer_in(*root, kGroupDictionary);
+  outline.control_entry = pointer_in(*root, kControlDictionary);
   const auto is_at = [](const std::optional<Tag>& pointer, Handle handle) {
     return pointer && handle != 0 && pointer->handle() == handle;
   };

@@ -14,8 +14,8 @@ void DrawingEdit::edit_objects() {
     const Handle groups = drawing_.groups().empty() ? 0 : handle_of_dictionary(outline_.groups);
     const Handle control = is_listed ? handle_of_dictionary(outline_.control) : 0;
     add_named(root, end,
-              {{kGroupDictionaryName, groups, outline_.groups_entry, outline_.groups.has_value()},
-               {kControlDictionaryName, control, outline_.control_entry, outline_.control.has_value()}});
+              {{kGroupDictionary, groups, outline_.groups_entry, outline_.groups.has_value()},
+               {kControlDictionary, control, outline_.control_entry, outline_.control.has_value()}});
     if (groups != 0) add_groups(groups, root, end);
     if (control != 0) add_control_list(control, root, end);
   });

@@ -61,7 +61,7 @@ void write_dictionaries(TagWriter& tags, const Drawing& drawing) {
   tags.handle(5, at(Fixed::root_dictionary));
   tags.lines("330\n0\n");
   begin_entries(tags, DxfForm{});
-  write_entry(tags, "ACAD_GROUP", at(Fixed::group_dictionary));
+  write_entry(tags, kGroupDictionary, at(Fixed::group_dictionary));
   write_entry(tags, "ACAD_LAYOUT", at(Fixed::layout_dictionary));
   write_entry(tags, "ACAD_PLOTSTYLENAME", at(Fixed::plot_style_dictionary));
   if (drawing.control_record_count() > 0) write_entry(tags, kControlDictionary, at(Fixed::control_dictionary));

@@ -82,9 +82,6 @@ struct Outline {
   [[nodiscard]] const Tag* variable(std::string_view name) const;
 };
 
-inline constexpr std::string_view kGroupDictionaryName = "ACAD_GROUP";
-inline constexpr std::string_view kControlDictionaryName = "VEXO_KONTROLA";
-
 /// Throws DrawingFault. The bytes outlive the outline, which holds views of them.
 [[nodiscard]] Outline outline_of(std::string_view bytes);
 
