@@ -76,9 +76,6 @@ class EveryDay(unittest.TestCase):
             self.assertEqual(subprocess.run([PROGRAM, *answered], cwd=self.folder, env=self.environment, stdout=full,
                                             stderr=subprocess.DEVNULL).returncode, 3)
 
-        limited = ["sh", "-c", 'ulimit -n 16; exec "$0" "$@"', PROGRAM, *["a.csv"] * 9, "--jobs", "8", "--quiet"]
-        self.assertEqual(subprocess.run(limited, cwd=self.folder, env=self.environment, capture_output=True).returncode, 0)
-
         before = (self.folder / "a.dxf").read_bytes()
         self.run_it("a.csv", "b.csv", "a.csv", "--into", "a.dxf", "--quiet", code=1)
         groups = [name.split("_", 2)[2] for name, _ in ezdxf.readfile(self.folder / "a.dxf").groups]
