@@ -73,8 +73,10 @@ class EveryDay(unittest.TestCase):
                          [(3, "swap", "b.dxf"), (2, "keep", "c.dxf")])
 
         with open("/dev/full", "wb") as full:  # what another program waits for
-            self.assertEqual(subprocess.run([PROGRAM, *answered], cwd=self.folder, env=self.environment, stdout=full,
-                                            stderr=subprocess.DEVNULL).returncode, 3)
+            for words in [answered, ["a.csv", "--json"], ["check", "a.dxf", "--json"]]:
+                done = subprocess.run([PROGRAM, *words], cwd=self.folder, env=self.environment, stdout=full,
+                                      stderr=subprocess.PIPE)
+                self.assertEqual((done.returncode, b"standard output" in done.stderr), (3, True), done.stderr)
 
         for room, outcomes in [(5, {"not_started"}), (12, {None})]:  # descriptors
             done = subprocess.run(["sh", "-c", f'ulimit -n {room}; exec "$0" "$@"', PROGRAM, *["a.csv"] * 5, "--json",
