@@ -130,6 +130,8 @@ class EveryDay(unittest.TestCase):
         self.assertEqual({layer for _, layer, _ in found}, {"0"})
         self.assertEqual({one.dxf.height for one in document.modelspace().query("TEXT")}, {3.0})
         self.assertIn("cannot be opened", self.run_it("nie.csv", code=3).stdout)
+        refused = self.run_it("a.csv", "-o", "b.dxf", "--report", "b.dxf", "--json", code=3)
+        self.assertEqual((json.loads(refused.stdout)["outcome"], "the drawing's name" in refused.stderr), ("failed", True))
         defaults.write_text("warstwa = 1\n")
         self.assertRegex(self.run_it("a.csv", code=2).stderr, f"warstwa[^~]*{defaults}")
 
