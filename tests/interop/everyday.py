@@ -134,6 +134,10 @@ class EveryDay(unittest.TestCase):
         self.assertEqual((json.loads(refused.stdout)["outcome"], "the drawing's name" in refused.stderr), ("failed", True))
         defaults.write_text("warstwa = 1\n")
         self.assertRegex(self.run_it("a.csv", code=2).stderr, f"warstwa[^~]*{defaults}")
+        defaults.parent.parent.rename(self.folder / ".config")
+        for home in [{}, {"HOME": ""}, {"HOME": ".", "XDG_CONFIG_HOME": ".config"}]:  # whoever made the current folder
+            self.environment = {name: value for name, value in self.environment.items() if name != "HOME"} | home
+            self.run_it("a.csv")
 
     def test_the_command_that_repeats(self):
         (self.folder / "own.toml").write_text("quiet = false\nheights = 1\n")
