@@ -3,12 +3,12 @@
 #include <algorithm>
 #include <cctype>
 #include <charconv>
-#include <cstdlib>
 #include <filesystem>
 #include <optional>
 #include <string_view>
 
 #include "console/prepare_arguments.h"
+#include "siblings/vexo_boot/user_folder.h"
 #include "siblings/vexo_rynek/rynek.h"
 #include "vexo_xyz_impl/command/keywords.h"
 
@@ -30,15 +30,10 @@ constexpr const char* kFooter =
     "  2  the command line was not understood\n"
     "  3  failure: a file that cannot be read, a drawing that cannot be saved, an error during the import";
 
-// Where a user's defaults stand.
+// Where a user's defaults stand, if there is a place for them.
 std::string config_file() {
-  const auto variable = [](const char* name) {
-    const char* const value = std::getenv(name);  // NOLINT(concurrency-mt-unsafe): one thread
-    return std::filesystem::path(value == nullptr ? "" : value);
-  };
-  const std::filesystem::path own = variable("XDG_CONFIG_HOME");
-  const std::filesystem::path folder = own.is_absolute() ? own : variable("HOME") / ".config";
-  return (folder / "vexo-xyz" / "config.toml").string();
+  const std::filesystem::path folder = vexo_boot::user_folder("XDG_CONFIG_HOME", ".config");
+  return folder.empty() ? "" : (folder / "vexo-xyz" / "config.toml").string();
 }
 
 // The height of letters in metres that is meant by "2.5", or by the scale of a plot, "1:500"; none by anything else.

@@ -26,6 +26,7 @@
 #include "console/report/report_file.h"
 #include "console/speaking.h"
 #include "console/texts/say.h"
+#include "console/written.h"
 
 namespace console {
 namespace {
@@ -206,7 +207,7 @@ std::string as_list(const std::vector<std::string>& reports) {
 
 class Summary {
  public:
-  Summary(std::ostream& out, std::ostream& reports) : out_(out), reports_(reports) {
+  Summary(std::ostream& out, std::ostream* reports) : out_(out), reports_(reports) {
     rows_.push_back(
         {T("konsola.wsad_plik"), T("konsola.wsad_punkty"), T("konsola.wsad_rysunek"), T("konsola.wsad_wynik")});
   }
@@ -257,7 +258,7 @@ class Summary {
   }
 
   ExitCode end() {
-    reports_ << as_list(told_) << std::flush;
+    if (reports_ != nullptr && !written(*reports_, as_list(told_))) worst_ = kFailure;
     out_ << plain_table({Align::left, Align::right, Align::left, Align::left}, rows_);
     const auto all = static_cast<long long>(rows_.size()) - 1;
     out_ << vexo_xyz_impl::filled("konsola.wsad_razem", {files_, all, points_}) << std::flush;
@@ -266,7 +267,7 @@ class Summary {
 
  private:
   std::ostream& out_;
-  std::ostream& reports_;
+  std::ostream* reports_;
   std::vector<std::string> told_;
   std::vector<std::vector<std::string>> rows_;
   long long files_ = 0;
@@ -276,7 +277,7 @@ class Summary {
 
 }  // namespace
 
-ExitCode run_batch(const BatchOptions& options, std::ostream& out, std::ostream& reports) {
+ExitCode run_batch(const BatchOptions& options, std::ostream& out, std::ostream* reports) {
   SessionOptions each = options.each;
   each.unattended = true;
   each.interactive = false;
@@ -291,15 +292,13 @@ ExitCode run_batch(const BatchOptions& options, std::ostream& out, std::ostream&
       out << *why_not << std::flush;
       std::vector<std::string> failed;
       for (const std::string& file : options.files) failed.push_back(failed_report(file, {}));
-      reports << as_list(failed) << std::flush;
+      if (reports != nullptr) static_cast<void>(written(*reports, as_list(failed)));  // a failure in any case
       return kFailure;
     }
     each.existing = std::move(std::get<std::unique_ptr<ExistingDrawing>>(opened));
   }
   std::vector<Task> tasks(options.files.size());
   for (std::size_t i = 0; i < tasks.size(); ++i) tasks[i].file = options.files[i];
-  // Who starts the program may let it ignore the ends of processes, which then cannot be waited for.
-  std::signal(SIGCHLD, SIG_DFL);
   Summary summary(out, reports);
   const unsigned jobs = each.existing ? 1 : options.jobs;  // each adds to what the one before it made
   std::size_t told = 0;

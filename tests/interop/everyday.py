@@ -73,8 +73,10 @@ class EveryDay(unittest.TestCase):
                          [(3, "swap", "b.dxf"), (2, "keep", "c.dxf")])
 
         with open("/dev/full", "wb") as full:  # what another program waits for
-            self.assertEqual(subprocess.run([PROGRAM, *answered], cwd=self.folder, env=self.environment, stdout=full,
-                                            stderr=subprocess.DEVNULL).returncode, 3)
+            for words in [answered, ["a.csv", "--json"], ["check", "a.dxf", "--json"]]:
+                done = subprocess.run([PROGRAM, *words], cwd=self.folder, env=self.environment, stdout=full,
+                                      stderr=subprocess.PIPE)
+                self.assertEqual((done.returncode, b"standard output" in done.stderr), (3, True), done.stderr)
 
         self.write(large_csv=POINTS * 50000, none_csv="")
         process = subprocess.Popen([PROGRAM, "large.csv", "none.csv", "d.csv", "--lang", "EN"], cwd=self.folder,
@@ -126,6 +128,10 @@ class EveryDay(unittest.TestCase):
         self.assertEqual((json.loads(refused.stdout)["outcome"], "the drawing's name" in refused.stderr), ("failed", True))
         defaults.write_text("warstwa = 1\n")
         self.assertRegex(self.run_it("a.csv", code=2).stderr, f"warstwa[^~]*{defaults}")
+        defaults.parent.parent.rename(self.folder / ".config")
+        for home in [{}, {"HOME": ""}, {"HOME": ".", "XDG_CONFIG_HOME": ".config"}]:  # whoever made the current folder
+            self.environment = {name: value for name, value in self.environment.items() if name != "HOME"} | home
+            self.run_it("a.csv")
 
     def test_the_command_that_repeats(self):
         (self.folder / "own.toml").write_text("quiet = false\nheights = 1\n")
