@@ -3,12 +3,12 @@
 #include <algorithm>
 #include <cctype>
 #include <charconv>
-#include <cstdlib>
 #include <filesystem>
 #include <optional>
 #include <string_view>
 
 #include "console/prepare_arguments.h"
+#include "siblings/vexo_boot/user_folder.h"
 #include "siblings/vexo_rynek/rynek.h"
 #include "vexo_xyz_impl/command/keywords.h"
 
@@ -30,15 +30,10 @@ constexpr const char* kFooter =
     "  2  the command line was not understood\n"
     "  3  failure: a file that cannot be read, a drawing that cannot be saved, an error during the import";
 
-// Where a user's defaults stand.
+// Where a user's defaults stand, if there is a place for them.
 std::string config_file() {
-  const auto variable = [](const char* name) {
-    const char* const value = std::getenv(name);  // NOLINT(concurrency-mt-unsafe): one thread
-    return std::filesystem::path(value == nullptr ? "" : value);
-  };
-  const std::filesystem::path own = variable("XDG_CONFIG_HOME");
-  const std::filesystem::path folder = own.is_absolute() ? own : variable("HOME") / ".config";
-  return (folder / "vexo-xyz" / "config.toml").string();
+  const std::filesystem::path folder = vexo_boot::user_folder("XDG_CONFIG_HOME", ".config");
+  return folder.empty() ? "" : (folder / "vexo-xyz" / "config.toml").string();
 }
 
 // The height of letters in metres that is meant by "2.5", or by the scale of a plot, "1:500"; none by anything else.
@@ -63,14 +58,35 @@ std::string text_height_fault(const std::string& text) {
 std::vector<std::string> words_of(const CLI::App& app, const Arguments& arguments) {
   std::vector<std::string> words;
   for (const CLI::Option* const option : app.get_options()) {
-    const bool is_ours = !option->get_lnames().empty() && option != app.get_config_ptr();
-    if (!is_ours || option->count() == 0) continue;
-    words.push_back("--" + option->get_lnames().front());
-    if (option->get_expected_max() > 0) words.push_back(option->as<std::string>());
+    if (option->get_lnames().empty() || option->count() == 0) continue;
+    if (option == app.get_config_ptr() && option->as<std::string>() == config_file()) continue;
+    const std::string name = "--" + option->get_lnames().front();
+    if (option->get_expected_max() == 0) {
+      if (option->as<bool>()) words.push_back(name);  // a file of defaults may also deny it
+      continue;
+    }
+    const auto value = option->as<std::string>();
+    if (value.starts_with('-')) {
+      words.push_back(name + "=" + value);
+    } else {
+      words.insert(words.end(), {name, value});
+    }
   }
   if (app.count("--market") == 0)
     words.insert(words.end(), {"--market", vexo_rynek::Market(arguments.choice.market).rynek()});
   return words;
+}
+
+// What is wrong with the options, of which some may stand among the defaults.
+std::string failure_message(const CLI::App* app, const CLI::Error& error) {
+  std::string message = CLI::FailureMessage::simple(app, error);
+  const CLI::Option* const config = app->get_config_ptr();
+  const std::string path = config->count() == 0 ? config_file() : config->as<std::string>();
+  const auto kind = static_cast<CLI::ExitCodes>(error.get_exit_code());
+  const bool is_of_values = kind != CLI::ExitCodes::ExtrasError && kind != CLI::ExitCodes::RequiredError;
+  std::error_code ignored;
+  if (is_of_values && std::filesystem::exists(path, ignored)) message += "Defaults are read from " + path + "\n";
+  return message;
 }
 
 // What all programs take for the name of a layer.
@@ -195,6 +211,7 @@ void declare_import(CLI::App& app, Arguments& arguments) {
                  "File of defaults, an option a line, as lang=\"DE\" or heights=2. Default: "
                  "~/.config/vexo-xyz/config.toml");
   app.allow_config_extras(CLI::config_extras_mode::error);
+  app.failure_message(failure_message);
   declare_files(app, arguments);
   declare_answers(app, arguments);
   declare_drawing(app, arguments);

@@ -137,11 +137,11 @@ void ExistingDrawing::write(const Drawing& added, const Layers& layers, ByteSink
 }
 
 void ExistingDrawing::go_on_with(std::string bytes) {
-  outline_ = {};
+  auto written = std::make_unique<const std::string>(std::move(bytes));
+  outline_ = outline_of(*written);
   memory_.reset();
-  written_ = std::move(bytes);
-  bytes_ = written_;
-  outline_ = outline_of(bytes_);
+  written_ = std::move(written);
+  bytes_ = *written_;
 }
 
 void ExistingDrawing::save(const Drawing* added, const Layers& layers) const {

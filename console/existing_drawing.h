@@ -40,7 +40,7 @@ class ExistingDrawing {
   /// Writes the drawing with `added` in it.
   void write(const Drawing& added, const Layers& layers, ByteSink& sink) const;
 
-  /// Goes on with bytes that were written of it. Fails with DrawingFault.
+  /// Goes on with bytes that were written of it. Fails with DrawingFault, and is then as before.
   void go_on_with(std::string bytes);
 
   /// Writes the file, with `added` in the drawing if there is something; the former file becomes the backup. At every
@@ -62,7 +62,7 @@ class ExistingDrawing {
 
   std::filesystem::path path_;
   std::unique_ptr<char[]> memory_;  // NOLINT(modernize-avoid-c-arrays): bytes that nobody clears before they are read
-  std::string written_;             // in the place of those read
+  std::unique_ptr<const std::string> written_;  // in the place of those read
   std::string_view bytes_;
   Identity identity_;
   Outline outline_;

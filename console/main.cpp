@@ -23,6 +23,7 @@
 #include "console/prepare_arguments.h"
 #include "console/report/report_file.h"
 #include "console/session.h"
+#include "console/written.h"
 
 namespace {
 
@@ -44,6 +45,8 @@ int run(int argc, char** argv) {
   // A reader that went away or a size limit is an error of writing, not the end of the program.
   std::signal(SIGPIPE, SIG_IGN);
   std::signal(SIGXFSZ, SIG_IGN);
+  // Who starts the program may let it ignore the ends of processes, which then cannot be waited for.
+  std::signal(SIGCHLD, SIG_DFL);
   use_utf8_locale();
   console::keep_freed_memory();
 
@@ -83,18 +86,19 @@ int run(int argc, char** argv) {
   const auto lines = typed_lines(out);
   prepare.options.shows_progress = isatty(STDOUT_FILENO) != 0;
   if (preparing->parsed()) return console::run_prepare(prepare.options, prepare.choice, *lines, std::cout);
-  if (checking->parsed()) return console::run_check(check.options, check.choice, *lines, out);
-  std::ostream nowhere(nullptr);
-  std::ostream& reports = is_asked_for_json ? std::cout : nowhere;
+  if (checking->parsed()) return console::run_check(check.options, check.choice, *lines, out, std::cout);
   console::SessionOptions options = console::session_options(app, arguments, at_a_terminal());
   options.shows_progress = isatty(STDOUT_FILENO) != 0 && !is_asked_for_json && !arguments.quiet;
-  if (arguments.files.size() > 1) return console::run_batch({arguments.files, arguments.jobs, options}, out, reports);
+  if (arguments.files.size() > 1) {
+    return console::run_batch({arguments.files, arguments.jobs, options}, out,
+                              is_asked_for_json ? &std::cout : nullptr);
+  }
   std::istringstream nobody;
   const auto no_lines = console::lines_of_stream(nobody, out);
   console::Session session(std::move(options), arguments.unattended ? *no_lines : *lines, out);
   const console::ExitCode code = session.run();
-  reports << console::report_as_json(session.findings()) << std::flush;
-  return code;
+  if (!is_asked_for_json) return code;
+  return console::written(std::cout, console::report_as_json(session.findings())) ? code : console::kFailure;
 }
 
 }  // namespace

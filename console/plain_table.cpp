@@ -16,7 +16,8 @@ std::size_t width_of(const std::string& cell) {
 // What a cell says, on one line.
 std::string shown(const std::string& cell) {
   std::string shown = without_control_characters(cell);
-  std::replace_if(shown.begin(), shown.end(), [](char c) { return c == '\n' || c == '\t'; }, ' ');
+  std::replace_if(
+      shown.begin(), shown.end(), [](char c) { return c == '\n' || c == '\t'; }, ' ');
   return shown;
 }
 

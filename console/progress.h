@@ -12,6 +12,7 @@
 #include <string>
 #include <string_view>
 #include <thread>
+#include <utility>
 
 #include "console/dialogue/line_source.h"
 #include "console/dxf/tag_writer.h"
@@ -37,6 +38,22 @@ class Progress {
 
   /// How much is done of it. Cheap enough for every few thousand steps.
   void done(std::uint64_t steps) { done_.store(steps, std::memory_order_relaxed); }
+
+  /// While it lives work of that name goes on. Does nothing without a progress.
+  class Work {
+   public:
+    Work(Progress* progress, std::string name, Measure measure) : progress_(progress) {
+      if (progress_ != nullptr) progress_->go_on(std::move(name), measure);
+    }
+    Work(const Work&) = delete;
+    Work& operator=(const Work&) = delete;
+    ~Work() {
+      if (progress_ != nullptr) progress_->stop();
+    }
+
+   private:
+    Progress* progress_;
+  };
 
   /// While it lives the line is gone and its time stands still. Does nothing without a progress.
   class Pause {

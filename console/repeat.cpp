@@ -9,7 +9,8 @@ namespace console {
 std::string repeating_command(const std::string& file, const std::vector<std::string>& options,
                               const std::vector<std::string>& answers) {
   const auto is_given = [&options](const std::string& option) {
-    return std::find(options.begin(), options.end(), option) != options.end();
+    return std::any_of(options.begin(), options.end(),
+                       [&option](const std::string& word) { return word == option || word.starts_with(option + "="); });
   };
   std::string command = "vexo-xyz " + shell_word(file.starts_with('-') ? "./" + file : file);
   for (const std::string& word : options) command += " " + shell_word(word);

@@ -14,10 +14,10 @@
 #include "console/drawing/wishes.h"
 #include "console/existing_drawing.h"
 #include "console/exit_code.h"
+#include "console/outputs.h"
 #include "console/progress.h"
 #include "console/report/import_watcher.h"
 #include "console/sibling_registry.h"
-#include "console/targets.h"
 #include "vexo_xyz_impl/bindings.h"
 
 namespace console {
@@ -63,35 +63,24 @@ class Session final : private vexo_xyz_impl::host::CommandTable, private vexo_xy
   }
   std::optional<double> label_height() override { return options_.wishes.text_height; }
   [[nodiscard]] bool is_file_of_points(const std::filesystem::path& path) const;
-  [[nodiscard]] IsFileOfPoints is_points() const;
-  // Whether there is a text of a failure: then the user is told and the log has it.
-  bool failed(const std::optional<std::string>& text);
-  [[nodiscard]] bool report_is_refused();
-  [[nodiscard]] bool preview_is_refused();
-  [[nodiscard]] bool drawing_is_refused(const std::filesystem::path& points);
-  std::optional<std::string> existing_refused();
-  void begin_with(std::shared_ptr<ExistingDrawing> existing);
-  ExitCode save_into_existing();
+  bool told_failure(const std::optional<std::string>& text);
+  bool is_drawing_refused(const std::filesystem::path& points);
   ExitCode import_and_save();
   vexo_xyz_impl::host::CommandOutcome import_once();
   [[nodiscard]] bool prepares_instead();
-  // Shows the work of that name until the value returned is gone.
-  [[nodiscard]] std::shared_ptr<void> shown(std::string_view key, Progress::Measure measure);
   [[nodiscard]] std::filesystem::path source() const;
   ExitCode save();
-  void tell_repeating_command(const std::string& drawing);
-  void end_quietly(ExitCode code);
-  ExitCode save_preview(ExitCode so_far);
+  ExitCode save_preview();
   ExitCode save_report(ExitCode so_far);
-  std::filesystem::path write_drawing();
+  void end_quietly(ExitCode code);
 
   SessionOptions options_;
-  Targets targets_;
   std::unique_ptr<Progress> progress_;  // at a terminal
+  Outputs outputs_;
   PausedLines lines_;
   std::optional<std::filesystem::path> prepared_from_;  // the file that the user chose
-  std::shared_ptr<ExistingDrawing> existing_;
   Database database_;
+  bool has_ground_ = false;  // the drawing began with what an existing one holds
   Dialogue dialogue_;
   SiblingRegistry siblings_;
   ImportWatcher watcher_;

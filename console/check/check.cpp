@@ -1,6 +1,5 @@
 #include "console/check/check.h"
 
-#include <iostream>
 #include <memory>
 #include <sstream>
 #include <string>
@@ -12,6 +11,7 @@
 #include "console/existing_drawing.h"
 #include "console/speaking.h"
 #include "console/texts/say.h"
+#include "console/written.h"
 #include "vexo_xyz_impl/bindings.h"
 
 namespace console {
@@ -23,7 +23,7 @@ void print_lines(const std::string& text) {
   for (std::string line; std::getline(lines, line);) vexo_xyz_impl::command_line().gcutPrintf(line + "\n");
 }
 
-ExitCode check(const CheckOptions& options) {
+ExitCode check(const CheckOptions& options, std::ostream& reports) {
   std::error_code ignored;
   if (!std::filesystem::is_regular_file(options.file, ignored)) {
     say("konsola.kontrola_nie_plik", {options.file.string()});
@@ -40,7 +40,7 @@ ExitCode check(const CheckOptions& options) {
   const TextDecoding decoded(form_of(drawing.outline()).encoding);
   const CheckedDrawing checked = {options.file.string(), options.tolerance, points, findings, decoded};
   if (options.json) {
-    std::cout << check_as_json(checked) << std::flush;
+    if (!written(reports, check_as_json(checked))) return kFailure;
   } else {
     print_lines(check_as_text(checked));
   }
@@ -49,9 +49,10 @@ ExitCode check(const CheckOptions& options) {
 
 }  // namespace
 
-ExitCode run_check(const CheckOptions& options, const Choice& choice, LineSource& lines, std::ostream& out) {
+ExitCode run_check(const CheckOptions& options, const Choice& choice, LineSource& lines, std::ostream& out,
+                   std::ostream& reports) {
   const Speaking speaking(choice, lines, out);
-  return check(options);
+  return check(options, reports);
 }
 
 }  // namespace console

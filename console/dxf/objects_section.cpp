@@ -83,7 +83,7 @@ void write_control_list(TagWriter& tags, const Drawing& drawing, const DxfForm& 
     tags.handle(320, point);
     tags.position(10, record.at_registration);
     const TextGeometry* const label = drawing.label_of(point);
-    tags.text(1, label == nullptr ? std::string_view() : form.encoding.label(label->text, changed));
+    tags.text(1, label == nullptr ? std::string_view("") : form.encoding.label(label->text, changed));
   });
 }
 

@@ -38,6 +38,7 @@ struct Findings {
   Account account;
   std::string layout;    ///< code; empty when it stayed open
   std::string evidence;  ///< what the layout was told by
+  bool has_heights = false;
   struct System {
     vexo_xyz_impl::Candidate candidate;
     std::string name;

@@ -81,7 +81,7 @@ std::vector<std::size_t> all_points(const ImportSeen& seen) {
 // What would have answered the questions that arose.
 std::vector<std::string> answers_to(const ImportSeen& seen) {
   std::vector<std::string> answers;
-  if (seen.verdict.fmt && seen.verdict.opis == vexo_xyz_impl::T("xyz.opis_wybor_uzytkownika"))
+  if (seen.verdict.fmt && seen.columns_asked)
     answers = {"--first-column", has_number(*seen.verdict.fmt) ? "number" : "coordinate"};
   if (seen.axes.how == AxesBy::answered || seen.axes.how == AxesBy::unconfirmed)
     answers.insert(answers.end(), {"--axes", seen.axes.swap ? "swap" : "keep"});
@@ -156,7 +156,10 @@ void ImportWatcher::ended(const ImportSeen& seen) {
   } else if (places_) {
     take_back(findings_.account, seen, *places_, seen.refused, Why::refused);
   }
-  if (seen.verdict.fmt) findings_.layout = layout_code(*seen.verdict.fmt);
+  if (seen.verdict.fmt) {
+    findings_.layout = layout_code(*seen.verdict.fmt);
+    findings_.has_heights = vexo_xyz_impl::has_heights(*seen.verdict.fmt);
+  }
   findings_.evidence = seen.verdict.opis;
   for (const auto& candidate : seen.axes.candidates)
     findings_.systems.push_back({candidate, vexo_xyz_impl::_uklad_nazwa(candidate.srid)});

@@ -174,7 +174,7 @@ std::span<const Text> doubt_texts() {
        "point numbers hold a mark that seems to separate columns (“%s”; lines %s). Read them without it: vexo-xyz "
        "prepare FILE."},
       {"konsola.watp_dlugi_numer", "ds",  // labels, lines
-       "numery dłuższe niż 250 bajtów: %d (linie %s); na rysunku skrócono je. Popraw plik, jeśli kolumny są inne.",
+       "numery dłuższe niż 250 bajtów: %d (linie %s); na rysunku skrócono je. Sprawdź plik.",
        "Punktnummern von mehr als 250 Byte: %d (Zeilen %s); in der Zeichnung sind sie gekürzt. Bitte die Datei "
        "prüfen.",
        "numere mai lungi de 250 de octeți: %d (liniile %s); în desen sunt scurtate. Verificați fișierul.",

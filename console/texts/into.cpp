@@ -55,7 +55,7 @@ std::span<const Text> into_texts() {
       {"konsola.rys_nie_na_miejscu", "", "sekcje lub tablice nie są na swoim miejscu",
        "Abschnitte oder Tabellen stehen nicht an ihrem Platz", "secțiunile sau tabelele nu sunt la locul lor",
        "sections or tables are not in their places"},
-      {"konsola.rys_brak_uchwytow", "", "uchwyt jest tak wielki, że nie ma już wolnych",
+      {"konsola.rys_brak_uchwytow", "", "uchwyt jest tak duży, że nie ma już wolnych",
        "die Referenznummer (Handle) ist so groß, dass keine mehr frei ist",
        "identificatorul (handle) este atât de mare, încât nu mai există unul liber",
        "the handle is so large that none is left for new objects"},
@@ -81,16 +81,15 @@ std::span<const Text> into_texts() {
        "Unitatea desenului nu este metrul ($INSUNITS %d); coordonatele au fost inserate ca atare.\n",
        "The drawing's unit is not the metre ($INSUNITS %d); the coordinates were inserted as they stand.\n"},
       {"konsola.rys_odleglosc", "s",  // distance
-       "Najbliżej tego, co jest w rysunku: %s\n", "Am nächsten zum Bestand der Zeichnung: %s\n",
-       "Cel mai aproape de conținutul desenului: %s\n", "Nearest to what the drawing holds: %s\n"},
+       "Najmniejsza odległość od zawartości rysunku: %s\n", "Kleinster Abstand zum Bestand der Zeichnung: %s\n",
+       "Distanța minimă până la conținutul desenului: %s\n", "Nearest to what the drawing holds: %s\n"},
       {"konsola.odczyt_odleglosc", "s",  // distance
-       "    najbliżej tego, co jest w rysunku: %s\n", "    am nächsten zum Bestand der Zeichnung: %s\n",
-       "    cel mai aproape de conținutul desenului: %s\n", "    nearest to what the drawing holds: %s\n"},
+       "    najmniejsza odległość od zawartości rysunku: %s\n", "    kleinster Abstand zum Bestand der Zeichnung: %s\n",
+       "    distanța minimă până la conținutul desenului: %s\n", "    nearest to what the drawing holds: %s\n"},
       {"konsola.watp_od_rysunku", "s",  // distance
-       "od punktów do tego, co jest w rysunku, jest %s. Inny układ współrzędnych albo odwrotna kolejność osi? Sprawdź.",
+       "punkty leżą %s od zawartości rysunku. Inny układ współrzędnych albo odwrotna kolejność osi? Sprawdź.",
        "Die Punkte liegen %s vom Bestand der Zeichnung entfernt. Ein anderes Koordinatensystem oder vertauschte "
-       "Achsen? "
-       "Bitte prüfen.",
+       "Achsen? Bitte prüfen.",
        "punctele sunt la %s de conținutul desenului. Alt sistem de coordonate sau axe inversate? Verificați.",
        "the points are %s away from what the drawing holds. Another coordinate system, or exchanged axes? Check."},
   });

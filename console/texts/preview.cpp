@@ -18,11 +18,11 @@ std::span<const Text> preview_texts() {
       {"konsola.podglad_bez_ukladu", "", "układ współrzędnych nierozpoznany", "Koordinatensystem nicht erkannt",
        "sistem de coordonate nerecunoscut", "coordinate system not recognised"},
       {"konsola.podglad_punkt", "", "punkt", "Punkt", "punct", "point"},
-      {"konsola.podglad_daleko", "", "daleko od pozostałych", "weit von den anderen", "departe de celelalte",
+      {"konsola.podglad_daleko", "", "daleko od pozostałych", "weit entfernt von den anderen", "departe de celelalte",
        "far from the others"},
       {"konsola.podglad_powtorzony", "", "powtórzony numer", "doppelte Nummer", "număr repetat", "repeated number"},
       {"konsola.podglad_to_samo_miejsce", "", "to samo miejsce", "derselbe Ort", "același loc", "same place"},
-      {"konsola.podglad_wysokosc", "", "wątpliwa wysokość", "fragliche Höhe", "cotă îndoielnică", "doubtful height"},
+      {"konsola.podglad_wysokosc", "", "wątpliwa wysokość", "zweifelhafte Höhe", "cotă îndoielnică", "doubtful height"},
       {"konsola.podglad_poza_ramka", "d",  // points
        "poza ramką: %d (odległość od środka)", "außerhalb des Rahmens: %d (Abstand von der Mitte)",
        "în afara cadrului: %d (distanța de la centru)", "outside the frame: %d (distance from its middle)"},

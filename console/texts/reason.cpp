@@ -160,16 +160,14 @@ std::span<const Text> reason_texts() {
        "plik osobno.",
        "Es muss bekannt sein, ob die erste Spalte die Nummer ist: --first-column number oder coordinate angeben oder "
        "diese Datei allein einlesen.",
-       "trebuie știut dacă prima coloană este numărul: dați --first-column number sau coordinate ori importați "
-       "fișierul "
-       "separat.",
+       "trebuie știut dacă prima coloană este numărul: dați --first-column number sau coordinate ori citiți "
+       "fișierul separat.",
        "whether the first column is the number has to be known: give --first-column number or coordinate, or import "
-       "this "
-       "file by itself."},
+       "this file by itself."},
       {"konsola.powod_axes_open", "",
-       "współrzędne pasują do kilku odczytań osi: podaj --axes albo wczytaj ten plik osobno.",
-       "Die Koordinaten passen zu mehreren Achslesarten: --axes angeben oder diese Datei allein einlesen.",
-       "coordonatele se potrivesc cu mai multe citiri ale axelor: dați --axes sau importați fișierul separat.",
+       "współrzędne pasują do więcej niż jednej kolejności osi: podaj --axes albo wczytaj ten plik osobno.",
+       "Die Koordinaten lassen mehr als eine Reihenfolge der Achsen zu: --axes angeben oder diese Datei allein einlesen.",
+       "coordonatele se potrivesc cu mai multe ordini ale axelor: dați --axes sau citiți fișierul separat.",
        "the coordinates fit more than one reading of the axes: give --axes, or import this file by itself."},
   });
   return kTexts;

@@ -5,6 +5,8 @@
 #include <fstream>
 #include <system_error>
 
+#include "siblings/vexo_boot/user_folder.h"
+
 namespace vexo_boot {
 namespace {
 
@@ -15,15 +17,7 @@ std::filesystem::path state_folder() {
   return folder == nullptr ? std::filesystem::path() : folder;
 }
 #else
-std::filesystem::path state_folder() {
-  const auto variable = [](const char* name) -> std::filesystem::path {
-    const char* value = std::getenv(name);
-    return value == nullptr ? "" : value;
-  };
-  if (auto state = variable("XDG_STATE_HOME"); state.is_absolute()) return state;
-  if (const auto home = variable("HOME"); home.is_absolute()) return home / ".local" / "state";
-  return {};
-}
+std::filesystem::path state_folder() { return user_folder("XDG_STATE_HOME", ".local/state"); }
 #endif
 
 }  // namespace

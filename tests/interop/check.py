@@ -105,6 +105,7 @@ CASES = {
     "nothing": ([], change(lambda doc: None), [], [], [], True),
     "3 mm": ([], change(lambda doc: move(points(doc)[2], dy=0.003)), ["Ż3"], [], [], True),
     "below the tolerance": ([], change(lambda doc: move(points(doc)[2], dx=0.0004)), [], [], [], True),
+    "as much as the tolerance": ([], change(lambda doc: move(points(doc)[2], dx=0.0005)), [], [], [], True),
     "height only": ([], change(lambda doc: move(points(doc)[2], dz=-0.5)), ["Ż3"], [], [], True),
     "deleted": ([], change(lambda doc: points(doc)[6].destroy()), [], ["Ż7"], [], True),
     "copied": ([], change(lambda doc: copy(points(doc)[4], doc, 5)), [], [], ["Ż5"], True),

@@ -72,6 +72,22 @@ class EveryDay(unittest.TestCase):
         self.assertEqual([(one["account"]["points"], one["system"]["axes"], one["drawing"]) for one in reports],
                          [(3, "swap", "b.dxf"), (2, "keep", "c.dxf")])
 
+        with open("/dev/full", "wb") as full:  # what another program waits for
+            for words in [answered, ["a.csv", "--json"], ["check", "a.dxf", "--json"]]:
+                done = subprocess.run([PROGRAM, *words], cwd=self.folder, env=self.environment, stdout=full,
+                                      stderr=subprocess.PIPE)
+                self.assertEqual((done.returncode, b"standard output" in done.stderr), (3, True), done.stderr)
+
+        self.write(large_csv=POINTS * 50000, none_csv="")
+        process = subprocess.Popen([PROGRAM, "large.csv", "none.csv", "d.csv", "--lang", "EN"], cwd=self.folder,
+                                   env=self.environment, stdout=subprocess.PIPE, text=True)
+        while not (children := pathlib.Path(f"/proc/{process.pid}/task/{process.pid}/children").read_text().split()):
+            self.assertIsNone(process.poll())
+        os.kill(int(children[0]), signal.SIGKILL)
+        table = process.communicate()[0].splitlines()[-4:]
+        for row, outcome in zip(table, ["failed: the process was ended by signal 9", "nothing imported:", "imported"]):
+            self.assertIn(f"  {outcome}", row)
+
         before = (self.folder / "a.dxf").read_bytes()
         self.run_it("a.csv", "b.csv", "a.csv", "--into", "a.dxf", "--quiet", code=1)
         groups = [name.split("_", 2)[2] for name, _ in ezdxf.readfile(self.folder / "a.dxf").groups]
@@ -108,14 +124,22 @@ class EveryDay(unittest.TestCase):
         self.assertEqual({layer for _, layer, _ in found}, {"0"})
         self.assertEqual({one.dxf.height for one in document.modelspace().query("TEXT")}, {3.0})
         self.assertIn("cannot be opened", self.run_it("nie.csv", code=3).stdout)
+        refused = self.run_it("a.csv", "-o", "b.dxf", "--report", "b.dxf", "--json", code=3)
+        self.assertEqual((json.loads(refused.stdout)["outcome"], "the drawing's name" in refused.stderr), ("failed", True))
         defaults.write_text("warstwa = 1\n")
-        self.assertIn("warstwa", self.run_it("a.csv", code=2).stderr)
+        self.assertRegex(self.run_it("a.csv", code=2).stderr, f"warstwa[^~]*{defaults}")
+        defaults.parent.parent.rename(self.folder / ".config")
+        for home in [{}, {"HOME": ""}, {"HOME": ".", "XDG_CONFIG_HOME": ".config"}]:  # whoever made the current folder
+            self.environment = {name: value for name, value in self.environment.items() if name != "HOME"} | home
+            self.run_it("a.csv")
 
     def test_the_command_that_repeats(self):
+        (self.folder / "own.toml").write_text("quiet = false\nheights = 1\n")
         for name, content, options, typed in [
             ("it's a \"file\" $(x).csv", AMBIGUOUS, ["--heights", "--layer", "Ein Plan"], "s\n"),
             ("a.csv", OPEN, ["--scale", "1:250", "--dxf", "2004"], "c\n"),
-            ("-a.csv", AMBIGUOUS, ["-o", "plan", "--market", "PL"], "\n"),
+            ("-a.csv", AMBIGUOUS, ["--output=-plan", "--market", "PL"], "\n"),
+            ("c.csv", POINTS, ["--layer=--output", "--config", "own.toml"], ""),
             ("b.csv", POINTS.replace(";", "|"), ["--prepare"], ""),
         ]:
             with self.subTest(name):

@@ -62,7 +62,8 @@ CommandOutcome import_file(ImportSeen& seen) {
   const auto declared = columns_by_first_line(seen.loaded.rows->text(), rows);
   LayoutVerdict& verdict = seen.verdict;
   without_lock([&] { verdict = declared ? declared_layout(*declared, rows) : _wykryj_format(rows); });
-  if (!verdict.fmt && !ask_layout(verdict)) return CommandOutcome::nothing_done;
+  seen.columns_asked = !verdict.fmt;
+  if (seen.columns_asked && !ask_layout(verdict)) return CommandOutcome::nothing_done;
   if (verdict.fmt) {
     announce_layout(*verdict.fmt, verdict.opis);
     without_lock([&] { take_rows_apart(seen); });

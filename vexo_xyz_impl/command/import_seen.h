@@ -17,9 +17,10 @@ namespace vexo_xyz_impl {
 
 struct ImportSeen {
   std::string path;
-  LoadResult loaded;      ///< its rows are forgotten once they are taken apart; the texts of their cells stay
-  LayoutVerdict verdict;  ///< its data rows likewise; without a layout when it stayed open
-  Decomposition read;     ///< points in the file's order, axes exchanged when they were
+  LoadResult loaded;           ///< its rows are forgotten once they are taken apart; the texts of their cells stay
+  LayoutVerdict verdict;       ///< its data rows likewise; without a layout when it stayed open
+  bool columns_asked = false;  ///< the layout is the user's answer
+  Decomposition read;          ///< points in the file's order, axes exchanged when they were
   SettledAxes axes;
   std::size_t dubli = 0;             ///< points less distinct numbers
   std::vector<std::size_t> refused;  ///< points that the drawing refused, by their index
