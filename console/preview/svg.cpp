@@ -76,7 +76,7 @@ std::size_t draw_outside(SvgElements& svg, const Picture& picture, const Page& p
   for (const auto& [point, x, y] : marks) {
     area.occupy({x - kArrow, y - kArrow, x + kArrow, y + kArrow}, OccupiedArea::By::label);
     const double distance = std::hypot(point->x - page.middle_x, point->y - page.middle_y);
-    texts.push_back(std::string(point->label) + " · " + distance_text(distance, picture));
+    texts.push_back(std::string(point->label) + " · " + distance_in(picture, distance));
   }
   for (std::size_t i = 0; i < marks.size(); ++i) wishes.push_back({marks[i].x, marks[i].y, texts[i]});
   const auto placed = place_labels(wishes, kLetters, kArrow + 6, area);

@@ -10,8 +10,8 @@
 #include <nlohmann/json.hpp>
 
 #include "console/account/account_lines.h"
+#include "console/decimals.h"
 #include "console/files.h"
-#include "console/nearness.h"
 #include "vexo_xyz_impl/messages.h"
 
 namespace console {
