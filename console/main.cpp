@@ -15,7 +15,7 @@
 #include <unistd.h>
 
 #include "console/arguments.h"
-#include "console/batch.h"
+#include "console/batch/batch.h"
 #include "console/check_arguments.h"
 #include "console/dialogue/typed_path.h"
 #include "console/kept_memory.h"
