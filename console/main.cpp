@@ -79,7 +79,7 @@ int run(int argc, char** argv) {
       ->callback(print(console::bash_completion))
       ->group("");
   try {
-    app.parse(console::separate_arguments(argc, argv));
+    app.parse(console::separate_arguments(app, argc, argv));
     if (preparing->parsed()) {
       console::check_market(prepare.choice);
     } else if (checking->parsed()) {
