@@ -7,6 +7,7 @@
 #include <variant>
 
 #include "console/check/check_report.h"
+#include "console/dxf/drawing_edit.h"
 #include "console/existing_drawing.h"
 #include "console/speaking.h"
 #include "console/texts/say.h"
@@ -36,9 +37,7 @@ ExitCode check(const CheckOptions& options, std::ostream& reports) {
   const ExistingDrawing& drawing = *std::get<std::unique_ptr<ExistingDrawing>>(opened);
   const DrawingPoints points = points_in(drawing.bytes(), drawing.outline());
   const ControlFindings findings = check_control(points, options.tolerance);
-  const Tag* const code_page = drawing.outline().variable("$DWGCODEPAGE");
-  const TextDecoding decoded(drawing.outline().version,
-                             code_page == nullptr ? std::string_view("ANSI_1250") : code_page->trimmed());
+  const TextDecoding decoded(form_of(drawing.outline()).encoding);
   const CheckedDrawing checked = {options.file.string(), options.tolerance, points, findings, decoded};
   if (options.json) {
     if (!written(reports, check_as_json(checked))) return kFailure;

@@ -1,23 +1,16 @@
 #include "console/check/control_check.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <limits>
 #include <unordered_map>
 #include <unordered_set>
 #include <utility>
 
+#include "console/check/by_place.h"
+
 namespace console {
 namespace {
-
-constexpr double kSamePlace = 0.001;  // metres that programs may round a registered place by
-
-Position between(const Position& from, const Position& to) { return {to.x - from.x, to.y - from.y, to.z - from.z}; }
-
-double length(const Position& way) { return std::hypot(way.x, way.y, way.z); }
-
-bool is_same(const Position& one, const Position& other) { return length(between(one, other)) <= kSamePlace; }
 
 double strayed(const PointInDrawing& point) { return length(between(point.registered, point.now)); }
 
@@ -26,21 +19,6 @@ double noise_at(const Position& place) {
   constexpr double kSteps = 4.0 * std::numeric_limits<double>::epsilon();
   return kSteps * std::max({std::abs(place.x), std::abs(place.y), std::abs(place.z)});
 }
-
-// Places that agree to a tenth of a millimetre.
-using PlaceKey = std::array<double, 3>;
-PlaceKey key_of(const Position& place) {
-  constexpr double kSteps = 10000.0;  // a metre
-  const auto rounded = [](double value) { return std::round(value * kSteps) + 0.0; };
-  return {rounded(place.x), rounded(place.y), rounded(place.z)};
-}
-struct PlaceHash {
-  std::size_t operator()(const PlaceKey& key) const {
-    std::size_t hash = 0;
-    for (const double part : key) hash = hash * 1000003U ^ std::hash<double>()(part);
-    return hash;
-  }
-};
 
 class Check {
  public:
@@ -118,40 +96,48 @@ class Check {
   }
 
   void find_by_place() {
-    std::unordered_map<PlaceKey, Points, PlaceHash> at;
-    for (const PointInDrawing& point : points_) {
-      const bool is_open = point.has_record && !is_taken(&point) && (are_handles_new_ || point.recorded == 0);
-      if (is_open) at[key_of(point.registered)].push_back(&point);
-    }
-    for (auto& [place, points] : at)  // the nearest last, to be taken first
-      std::stable_sort(points.begin(), points.end(), [](auto* a, auto* b) { return strayed(*a) > strayed(*b); });
-    for (std::size_t i = 0; i < listed_.size(); ++i) {
-      const auto found = point_of_[i] == nullptr ? at.find(key_of(listed_[i].registered)) : at.end();
-      if (found == at.end() || found->second.empty()) continue;
-      take(i, found->second.back());
-      found->second.pop_back();
-    }
+    ByPlace open(&PointInDrawing::registered);
+    for (const PointInDrawing& point : points_)
+      if (point.has_record && !is_taken(&point) && (are_handles_new_ || point.recorded == 0)) open.add(point);
+    for (std::size_t i = 0; i < listed_.size(); ++i)
+      if (const auto* point = point_of_[i] == nullptr ? nearest(open, &PointInDrawing::registered, i) : nullptr)
+        take(i, point);
+  }
+
+  // Of points at the listed place the one that comes nearest to it, of equals the one that strayed least from it.
+  const PointInDrawing* nearest(ByPlace& at, Position PointInDrawing::*place, std::size_t entry) {
+    const Position& listed = listed_[entry].registered;
+    const PointInDrawing* best = nullptr;
+    std::pair<double, double> least;
+    at.for_each_near(listed, [&](const PointInDrawing* point) {
+      if (is_taken(point)) return true;
+      const std::pair rank(length(between(point->*place, listed)), strayed(*point));
+      if (best == nullptr || rank < least) {
+        best = point;
+        least = rank;
+      }
+      return false;
+    });
+    return best;
   }
 
   // Points that lost their records but not their handles; or both, where there is no record at all.
   void find_without_record() {
     std::unordered_map<Handle, const PointInDrawing*> of_handle;
-    std::unordered_map<PlaceKey, Points, PlaceHash> at;
+    ByPlace at(&PointInDrawing::now);
     for (const PointInDrawing& point : points_) {
       if (point.has_record) continue;
       if (point.own != 0) of_handle.emplace(point.own, &point);
-      if (records_ == 0) at[key_of(point.now)].push_back(&point);
+      if (records_ == 0) at.add(point);
     }
     for (std::size_t i = 0; i < listed_.size(); ++i) {
       if (point_of_[i] != nullptr) continue;
       const auto same_handle = of_handle.find(listed_[i].handle);
-      const auto there = at.find(key_of(listed_[i].registered));
       if (same_handle != of_handle.end() && !is_taken(same_handle->second) &&
           (!are_handles_new_ || is_same(same_handle->second->now, listed_[i].registered))) {
         take(i, same_handle->second);
-      } else if (there != at.end()) {
-        while (!there->second.empty() && is_taken(there->second.back())) there->second.pop_back();
-        if (!there->second.empty()) take(i, there->second.back());
+      } else if (const auto* point = nearest(at, &PointInDrawing::now, i)) {
+        take(i, point);
       }
     }
   }
@@ -170,11 +156,11 @@ class Check {
   // Each listed point, its copies right behind it.
   void tell_listed() {
     std::unordered_map<Handle, Points> copies;
-    std::unordered_map<PlaceKey, Points, PlaceHash> at;
+    ByPlace left(&PointInDrawing::registered);
     for (const PointInDrawing& point : points_) {
       if (!point.has_record || is_taken(&point)) continue;
       if (point.recorded != 0) copies[point.recorded].push_back(&point);
-      at[key_of(point.registered)].push_back(&point);
+      left.add(point);
     }
     findings_.controlled = listed_.size();
     for (std::size_t i = 0; i < listed_.size(); ++i) {
@@ -184,30 +170,33 @@ class Check {
       } else {
         tell_present(point_of_[i], &entry);
       }
-      if (const auto own = copies.find(entry.handle); own != copies.end()) tell_copies(own->second, entry);
-      if (const auto there = at.find(key_of(entry.registered)); there != at.end()) tell_copies(there->second, entry);
+      const auto tell_copy = [&](const PointInDrawing* point) {
+        if (!is_taken(point)) tell({Change::copied, point, &entry});
+        is_taken(point) = true;
+        return true;
+      };
+      if (const auto own = copies.find(entry.handle); own != copies.end())
+        std::erase_if(own->second, [&](const PointInDrawing* point) {
+          return is_taken(point) || (is_same(point->registered, entry.registered) && tell_copy(point));
+        });
+      left.for_each_near(entry.registered, tell_copy);
     }
-  }
-
-  void tell_copies(Points& points, const ListedPoint& entry) {
-    std::erase_if(points, [&](const PointInDrawing* point) {
-      if (is_taken(point)) return true;
-      if (!is_same(point->registered, entry.registered)) return false;
-      is_taken(point) = true;
-      tell({Change::copied, point, &entry});
-      return true;
-    });
   }
 
   // Points whose import left no list: those registered at one place are one point and its copies, unless they stand
   // there still and name different handles, as imported ones may.
   void tell_unlisted() {
-    std::unordered_map<PlaceKey, Points, PlaceHash> at;
+    ByPlace left(&PointInDrawing::registered);
     for (const PointInDrawing& point : points_)
-      if (point.has_record && !is_taken(&point)) at[key_of(point.registered)].push_back(&point);
+      if (point.has_record && !is_taken(&point)) left.add(point);
     for (const PointInDrawing& point : points_) {
-      const auto group = point.has_record && !is_taken(&point) ? at.find(key_of(point.registered)) : at.end();
-      if (group != at.end()) tell_group(group->second);
+      if (!point.has_record || is_taken(&point)) continue;
+      Points group;
+      left.for_each_near(point.registered, [&group](const PointInDrawing* near) {
+        group.push_back(near);
+        return true;
+      });
+      tell_group(group);
     }
   }
 

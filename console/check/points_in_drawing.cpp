@@ -1,17 +1,14 @@
 #include "console/check/points_in_drawing.h"
 
-#include <algorithm>
-#include <map>
 #include <unordered_map>
 #include <utility>
 
 #include "console/dxf/tag_reader.h"
 #include "siblings/vexo_reaktywne_core/reaktywne_core.h"
+#include "vexo_xyz_impl/drawing/control.h"
 
 namespace console {
 namespace {
-
-constexpr std::string_view kRecordKind = "XYZPKT";
 
 // Takes one of the three reals that stand under `base`, `base` + 10 and `base` + 20.
 bool take_real(Position& position, const Tag& tag, int base) {
@@ -78,7 +75,7 @@ class EntityReader {
       return;
     }
     if (tag.code == 1001) is_ours_ = tag.says(vexo_reaktywne_core::kApplication);
-    if (tag.code == 1001 || tag.code == 1000) is_record_ = is_ours_ && tag.says(kRecordKind);
+    if (tag.code == 1001 || tag.code == 1000) is_record_ = is_ours_ && tag.says(vexo_xyz_impl::kRecordKind);
     if (!is_record_) return;
     if (tag.code == 1005 && point.recorded == 0) point.recorded = tag.handle().value_or(0);
     if (take_real(point.registered, tag, 1010)) point.has_record = true;
@@ -100,22 +97,16 @@ void for_each_tag(std::string_view bytes, const Outline& outline, std::string_vi
   while (reader.next(tag)) visit(std::as_const(tag));
 }
 
-// Dictionaries and records among the objects, by handle.
-class ObjectReader {
+// Records among the objects, by handle.
+class RecordReader {
  public:
   void tag(const Tag& tag) {
     if (tag.code == 0) {
       own_ = 0;
-      is_dictionary_ = tag.says("DICTIONARY");
       is_record_ = false;
       may_be_record_ = tag.says("XRECORD");
     } else if (tag.code == 5 && own_ == 0) {
       own_ = tag.handle().value_or(0);
-    } else if (is_dictionary_) {
-      if (tag.code == 3) name_ = tag.trimmed();
-      const bool is_pointer = tag.code == 350 || tag.code == 360;
-      if (is_pointer && !name_.empty())
-        entries_[own_].emplace_back(std::exchange(name_, std::string_view()), tag.handle().value_or(0));
     } else if (may_be_record_ && tag.code == 100) {
       is_record_ = tag.says("AcDbXrecord");
     } else if (is_record_) {
@@ -123,19 +114,19 @@ class ObjectReader {
     }
   }
 
-  void take_lists(DrawingPoints& found) const {
-    for (const auto& [handle, entries] : entries_)
-      for (const auto& [name, object] : entries) {
-        Tag entry;
-        entry.value = name;
-        const auto control = entries_.find(object);
-        if (entry.says(kControlDictionaryName) && control != entries_.end()) take_lists_of(control->second, found);
+  void take_lists_of(const DictionaryOutline& control, DrawingPoints& found) const {
+    for (const DictionaryEntry& entry : control.entries) {
+      const auto record = records_.find(entry.pointer.handle().value_or(0));
+      if (record == records_.end()) continue;
+      for (ListedPoint point : record->second) {
+        point.list = found.lists.size();
+        found.listed.push_back(point);
       }
+      found.lists.push_back(entry.name);
+    }
   }
 
  private:
-  using Entries = std::vector<std::pair<std::string_view, Handle>>;
-
   void of_record(const Tag& tag) {
     auto& list = records_[own_];
     if (tag.code == 320) list.push_back({tag.handle().value_or(0), {}, {}, 0});
@@ -144,23 +135,8 @@ class ObjectReader {
     if (tag.code == 1) list.back().label = tag.value;
   }
 
-  void take_lists_of(const Entries& control, DrawingPoints& found) const {
-    for (const auto& [name, object] : control) {
-      const auto record = records_.find(object);
-      if (record == records_.end()) continue;
-      for (ListedPoint point : record->second) {
-        point.list = found.lists.size();
-        found.listed.push_back(point);
-      }
-      found.lists.push_back(name);
-    }
-  }
-
-  std::map<Handle, Entries> entries_;
   std::unordered_map<Handle, std::vector<ListedPoint>> records_;
   Handle own_ = 0;
-  std::string_view name_;
-  bool is_dictionary_ = false;
   bool may_be_record_ = false;
   bool is_record_ = false;
 };
@@ -173,9 +149,10 @@ DrawingPoints points_in(std::string_view bytes, const Outline& outline) {
     EntityReader entities(found.points);
     for_each_tag(bytes, outline, section, [&entities](const Tag& tag) { entities.tag(tag); });
   }
-  ObjectReader objects;
-  for_each_tag(bytes, outline, "OBJECTS", [&objects](const Tag& tag) { objects.tag(tag); });
-  objects.take_lists(found);
+  if (!outline.control) return found;
+  RecordReader records;
+  for_each_tag(bytes, outline, "OBJECTS", [&records](const Tag& tag) { records.tag(tag); });
+  records.take_lists_of(*outline.control, found);
   return found;
 }
 

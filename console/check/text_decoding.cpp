@@ -3,9 +3,6 @@
 #include <charconv>
 #include <optional>
 
-#include <iconv.h>
-
-#include "console/dxf/text_encoding.h"
 #include "vexo_xyz_impl/text/utf8.h"
 
 namespace console {
@@ -13,13 +10,12 @@ namespace {
 
 namespace text = vexo_xyz_impl::text;
 
-constexpr int kUtf8Since = 1021;
-
 std::optional<char32_t> number_in(std::string_view digits, std::size_t count, int base) {
+  if (digits.size() < count) return std::nullopt;
   unsigned value = 0;
-  const char* const end = digits.data() + std::min(count, digits.size());
+  const char* const end = digits.data() + count;
   const auto [stop, fault] = std::from_chars(digits.data(), end, value, base);
-  if (fault != std::errc() || stop != digits.data() + count) return std::nullopt;
+  if (fault != std::errc() || stop != end) return std::nullopt;
   return static_cast<char32_t>(value);
 }
 
@@ -72,44 +68,13 @@ std::string valid(std::string_view bytes) {
 
 }  // namespace
 
-class TextDecoding::Converter {
- public:
-  explicit Converter(std::string_view code_page) : library_(iconv_open("UTF-8", library_name(code_page).c_str())) {}
-  Converter(const Converter&) = delete;
-  Converter& operator=(const Converter&) = delete;
-  ~Converter() {
-    if (is_known()) iconv_close(library_);
-  }
-
-  // Of a code page that is not known, and of a text that is none in it, the bytes as they stand.
-  [[nodiscard]] std::string converted(std::string_view bytes) const {
-    constexpr std::size_t kMostBytes = 4;  // of a letter, for one that was at least one
-    if (!is_known()) return std::string(bytes);
-    std::string from(bytes);
-    std::string to(bytes.size() * kMostBytes, '\0');
-    char* in = from.data();
-    char* out = to.data();
-    std::size_t left = from.size();
-    std::size_t room = to.size();
-    iconv(library_, nullptr, nullptr, nullptr, nullptr);
-    if (iconv(library_, &in, &left, &out, &room) == static_cast<std::size_t>(-1)) return from;
-    to.resize(to.size() - room);
-    return to;
-  }
-
- private:
-  // NOLINTNEXTLINE(performance-no-int-to-ptr,cppcoreguidelines-pro-type-cstyle-cast): as the library says failure
-  [[nodiscard]] bool is_known() const { return library_ != (iconv_t)-1; }
-
-  iconv_t library_;
-};
-
-TextDecoding::TextDecoding(int version, std::string_view code_page) {
-  if (version < kUtf8Since) converter_ = std::make_shared<const Converter>(code_page);
+TextDecoding::TextDecoding(const TextEncoding& encoding) {
+  if (!encoding.code_page().empty()) to_utf8_ = std::make_shared<const Conversion>("UTF-8", encoding.code_page());
 }
 
 std::string TextDecoding::operator()(std::string_view spelled) const {
-  return without_codes(valid(converter_ == nullptr ? std::string(spelled) : converter_->converted(spelled)));
+  const auto converted = to_utf8_ == nullptr ? std::nullopt : (*to_utf8_)(spelled);
+  return without_codes(valid(converted ? *converted : spelled));
 }
 
 }  // namespace console

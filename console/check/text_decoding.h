@@ -5,19 +5,21 @@
 #include <string>
 #include <string_view>
 
+#include "console/dxf/code_page.h"
+#include "console/dxf/text_encoding.h"
+
 namespace console {
 
 class TextDecoding {
  public:
-  /// UTF-8, as from version 2007 on, whose number is 1021; before it the code page that $DWGCODEPAGE names.
-  TextDecoding(int version, std::string_view code_page);
+  /// Of texts in the letters of `encoding`.
+  explicit TextDecoding(const TextEncoding& encoding);
 
   /// In UTF-8, with U+FFFD for what is none; \U+nnnn and the codes of group 1 (%%nnn, ^ and a blank) are undone.
   [[nodiscard]] std::string operator()(std::string_view spelled) const;
 
  private:
-  class Converter;
-  std::shared_ptr<const Converter> converter_;  // none: UTF-8
+  std::shared_ptr<const Conversion> to_utf8_;  // none: they are in UTF-8
 };
 
 }  // namespace console

@@ -2,20 +2,14 @@
 
 #include <utility>
 
-#include "vexo_xyz_impl/text/ascii.h"
+#include "console/dxf/sections.h"
 
 namespace console {
 namespace {
 
-struct Entry {
-  std::string_view name;
-  Tag pointer;
-};
-
 struct Dictionary {
   DictionaryOutline outline;
   Handle owner = 0;
-  std::vector<Entry> entries;
 };
 
 // Reads the dictionary whose first tag was read; leaves the tag behind it.
@@ -37,11 +31,10 @@ Dictionary read_dictionary(TagReader& reader, Tag& tag) {
     if (is_extended) read.outline.entries_end = tag.begin;
     if ((tag.code == 350 || tag.code == 360) && is_named) {
       read.outline.entry_code = tag.code;
-      read.outline.names.emplace(name);
-      read.entries.push_back({name, tag});
+      read.outline.entries.push_back({name, tag});
     }
     is_named = tag.code == 3;
-    if (is_named) name = tag.value;
+    if (is_named) name = tag.trimmed();
   }
   if (!is_extended) read.outline.entries_end = is_followed ? tag.begin : tag.end;
   return read;
@@ -64,10 +57,9 @@ void visit_dictionaries(std::string_view bytes, const Stretch& objects, Visit vi
   }
 }
 
-std::optional<Tag> pointer_in(const Dictionary& root, std::string_view name) {
-  for (const Entry& entry : root.entries)
-    if (vexo_xyz_impl::text::equal_ascii_case(entry.name, name)) return entry.pointer;
-  return std::nullopt;
+std::optional<Tag> pointer_in(const DictionaryOutline& dictionary, std::string_view name) {
+  const DictionaryEntry* const entry = dictionary.entry(name);
+  return entry == nullptr ? std::nullopt : std::optional(entry->pointer);
 }
 
 }  // namespace
@@ -80,9 +72,9 @@ void find_dictionaries(std::string_view bytes, const Stretch& objects, Outline& 
     return is_root;
   });
   if (!root) return;
-  outline.root = root->outline;
-  outline.groups_entry = pointer_in(*root, kGroupDictionaryName);
-  outline.control_entry = pointer_in(*root, kControlDictionaryName);
+  outline.root = std::move(root->outline);
+  outline.groups_entry = pointer_in(*outline.root, kGroupDictionary);
+  outline.control_entry = pointer_in(*outline.root, kControlDictionary);
   const auto is_at = [](const std::optional<Tag>& pointer, Handle handle) {
     return pointer && handle != 0 && pointer->handle() == handle;
   };

@@ -38,7 +38,8 @@ Ground ground_of(const Outline& outline) {
   Ground ground;
   ground.first_free = outline.first_free;
   ground.holds_groups = form_of(outline).has_subclasses();
-  if (outline.groups) ground.group_names.assign(outline.groups->names.begin(), outline.groups->names.end());
+  if (outline.groups)
+    for (const DictionaryEntry& group : outline.groups->entries) ground.group_names.emplace_back(group.name);
   if (const Tag* const mode = outline.variable("$PDMODE"))
     ground.variables.PDMODE = static_cast<std::int16_t>(mode->whole().value_or(0));
   if (const Tag* const size = outline.variable("$PDSIZE")) ground.variables.PDSIZE = size->real().value_or(0.0);

@@ -102,7 +102,7 @@ class EntityWriter {
 
   void compose_text_tail(Handle style) {
     style_ = style;
-    text_tail_ = "7\n" + std::string(style_name(style)) + "\n";
+    text_tail_ = "7\n" + form_.encoding.name(style_name(style)) + "\n";
     if (form_.has_subclasses()) text_tail_ += "100\nAcDbText\n";
   }
 

@@ -31,23 +31,9 @@ void begin_section(TagWriter& tags, std::string_view name) {
 
 void end_section(TagWriter& tags) { tags.lines("0\nENDSEC\n"); }
 
-void begin_table(TagWriter& tags, std::string_view name, Fixed handle, std::size_t records) {
-  tags.lines("0\nTABLE\n");
-  tags.text(2, name);
-  tags.handle(5, at(handle));
-  tags.lines("330\n0\n100\nAcDbSymbolTable\n");
-  tags.whole(70, static_cast<long long>(records));
-}
-
 void end_table(TagWriter& tags) { tags.lines("0\nENDTAB\n"); }
 
-// A record that is the same in all versions that new drawings are written in.
-void begin_record(TagWriter& tags, std::string_view kind, Fixed handle, Fixed table, std::string_view subclass,
-                  std::string_view name, int handle_code = 5) {
-  console::begin_record(tags, DxfForm{}, kind, {at(handle), at(table), subclass, name}, handle_code);
-}
-
-void write_viewport_table(TagWriter& tags, const Extents& extents) {
+void write_viewport_table(TagWriter& tags, const DxfForm& form, const Extents& extents) {
   const double width = extents.largest.x - extents.smallest.x;
   const double height = std::max(extents.largest.y - extents.smallest.y, width / kViewAspect);
   const double view_height = std::max(height * kViewMargin, kSmallestView);
@@ -58,8 +44,9 @@ void write_viewport_table(TagWriter& tags, const Extents& extents) {
   const double offset_x = centre_x / 2.0 + view_height * kViewAspect / 4.0;
   const double offset_y = centre_y / 2.0 + view_height / 4.0;
 
-  begin_table(tags, "VPORT", Fixed::vport_table, 1);
-  begin_record(tags, "VPORT", Fixed::active_vport, Fixed::vport_table, "AcDbViewportTableRecord", "*ACTIVE");
+  begin_table(tags, form, "VPORT", at(Fixed::vport_table), 1);
+  begin_record(tags, form, "VPORT",
+               {at(Fixed::active_vport), at(Fixed::vport_table), "AcDbViewportTableRecord", "*ACTIVE"});
   tags.lines("70\n0\n10\n0.0\n20\n0.0\n11\n1.0\n21\n1.0\n");
   tags.real(12, offset_x);
   tags.real(22, offset_y);
@@ -74,10 +61,10 @@ void write_viewport_table(TagWriter& tags, const Extents& extents) {
   end_table(tags);
 }
 
-void write_line_type_table(TagWriter& tags) {
-  begin_table(tags, "LTYPE", Fixed::ltype_table, 3);
+void write_line_type_table(TagWriter& tags, const DxfForm& form) {
+  begin_table(tags, form, "LTYPE", at(Fixed::ltype_table), 3);
   const auto line_type = [&](Fixed handle, std::string_view name, std::string_view description) {
-    begin_record(tags, "LTYPE", handle, Fixed::ltype_table, "AcDbLinetypeTableRecord", name);
+    begin_record(tags, form, "LTYPE", {at(handle), at(Fixed::ltype_table), "AcDbLinetypeTableRecord", name});
     tags.lines("70\n0\n");
     tags.text(3, description);
     tags.lines("72\n65\n73\n0\n40\n0.0\n");
@@ -91,7 +78,7 @@ void write_line_type_table(TagWriter& tags) {
 void write_layer_table(TagWriter& tags, const NewDrawing& file) {
   const std::vector<LayerRecord> own = layers_of(file.drawing, file.layers);
   const LayerPointer plot_style{390, at(Fixed::plot_style_normal)};  // a layer without one is repaired or refused
-  begin_table(tags, "LAYER", Fixed::layer_table, 1 + own.size());
+  begin_table(tags, file.form, "LAYER", at(Fixed::layer_table), 1 + own.size());
   const auto layer = [&](const LayerRecord& record) {
     write_layer(tags, file.form, record, at(Fixed::layer_table), {&plot_style, 1});
   };
@@ -102,7 +89,7 @@ void write_layer_table(TagWriter& tags, const NewDrawing& file) {
 
 void write_style_table(TagWriter& tags, const NewDrawing& file) {
   const auto& own = file.drawing.text_styles();
-  begin_table(tags, "STYLE", Fixed::style_table, 1 + own.size());
+  begin_table(tags, file.form, "STYLE", at(Fixed::style_table), 1 + own.size());
   const auto style = [&](const TextStyle& record) { write_style(tags, file.form, record, at(Fixed::style_table)); };
   style({at(Fixed::style_standard), "Standard", "txt"});
   for (const TextStyle& record : own) style(record);
@@ -110,27 +97,27 @@ void write_style_table(TagWriter& tags, const NewDrawing& file) {
 }
 
 void write_application_table(TagWriter& tags, const DxfForm& form) {
-  begin_table(tags, "APPID", Fixed::appid_table, 2);
+  begin_table(tags, form, "APPID", at(Fixed::appid_table), 2);
   const Handle table = at(Fixed::appid_table);
   write_application(tags, form, at(Fixed::appid_acad), "ACAD", table);
   write_application(tags, form, at(Fixed::appid_vexo), vexo_reaktywne_core::kApplication, table);
   end_table(tags);
 }
 
-void write_dimension_style_table(TagWriter& tags) {
-  begin_table(tags, "DIMSTYLE", Fixed::dimstyle_table, 1);
+void write_dimension_style_table(TagWriter& tags, const DxfForm& form) {
+  begin_table(tags, form, "DIMSTYLE", at(Fixed::dimstyle_table), 1);
   tags.lines("100\nAcDbDimStyleTable\n71\n0\n");
-  begin_record(tags, "DIMSTYLE", Fixed::dimstyle_standard, Fixed::dimstyle_table, "AcDbDimStyleTableRecord", "Standard",
-               105);
+  begin_record(tags, form, "DIMSTYLE",
+               {at(Fixed::dimstyle_standard), at(Fixed::dimstyle_table), "AcDbDimStyleTableRecord", "Standard"}, 105);
   tags.lines("70\n0\n");
   tags.handle(340, at(Fixed::style_standard));
   end_table(tags);
 }
 
 void write_block_record_table(TagWriter& tags, const DxfForm& form) {
-  begin_table(tags, "BLOCK_RECORD", Fixed::block_record_table, 2);
+  begin_table(tags, form, "BLOCK_RECORD", at(Fixed::block_record_table), 2);
   const auto block = [&](Fixed handle, std::string_view name, Fixed layout) {
-    begin_record(tags, "BLOCK_RECORD", handle, Fixed::block_record_table, "AcDbBlockTableRecord", name);
+    begin_record(tags, form, "BLOCK_RECORD", {at(handle), at(Fixed::block_record_table), "AcDbBlockTableRecord", name});
     tags.handle(340, at(layout));
     if (form.version >= DxfVersion::r2007) tags.lines("70\n6\n280\n1\n281\n0\n");
   };
@@ -227,18 +214,19 @@ void write_classes(TagWriter& tags, const NewDrawing& file) {
 }
 
 void write_tables(TagWriter& tags, const NewDrawing& file) {
+  const DxfForm& form = file.form;
   begin_section(tags, "TABLES");
-  write_viewport_table(tags, file.extents);
-  write_line_type_table(tags);
+  write_viewport_table(tags, form, file.extents);
+  write_line_type_table(tags, form);
   write_layer_table(tags, file);
   write_style_table(tags, file);
-  begin_table(tags, "VIEW", Fixed::view_table, 0);
+  begin_table(tags, form, "VIEW", at(Fixed::view_table), 0);
   end_table(tags);
-  begin_table(tags, "UCS", Fixed::ucs_table, 0);
+  begin_table(tags, form, "UCS", at(Fixed::ucs_table), 0);
   end_table(tags);
-  write_application_table(tags, file.form);
-  write_dimension_style_table(tags);
-  write_block_record_table(tags, file.form);
+  write_application_table(tags, form);
+  write_dimension_style_table(tags, form);
+  write_block_record_table(tags, form);
   end_section(tags);
 }
 

@@ -14,8 +14,8 @@ void DrawingEdit::edit_objects() {
     const Handle groups = drawing_.groups().empty() ? 0 : handle_of_dictionary(outline_.groups);
     const Handle control = is_listed ? handle_of_dictionary(outline_.control) : 0;
     add_named(root, end,
-              {{kGroupDictionaryName, groups, outline_.groups_entry, outline_.groups.has_value()},
-               {kControlDictionaryName, control, outline_.control_entry, outline_.control.has_value()}});
+              {{kGroupDictionary, groups, outline_.groups_entry, outline_.groups.has_value()},
+               {kControlDictionary, control, outline_.control_entry, outline_.control.has_value()}});
     if (groups != 0) add_groups(groups, root, end);
     if (control != 0) add_control_list(control, root, end);
   });
@@ -53,14 +53,7 @@ void DrawingEdit::add_entries(const DictionaryOutline& there, const Entries& ent
 
 void DrawingEdit::add_dictionary(std::size_t place, Handle dictionary, Handle owner, const Entries& entries) {
   edits_.insert(place, [=, this](TagWriter& tags) {
-    if (owner == 0) {
-      tags.lines("0\nDICTIONARY\n");
-      tags.handle(5, dictionary);
-      if (form_.has_owners()) tags.lines("330\n0\n");
-    } else {
-      begin_owned(tags, form_, "DICTIONARY", dictionary, owner);
-    }
-    begin_entries(tags, form_);
+    begin_dictionary(tags, form_, dictionary, owner);
     for (const auto& [name, object] : entries) write_entry(tags, name, object);
   });
 }
@@ -88,7 +81,7 @@ void DrawingEdit::add_control_list(Handle control, Handle root, std::size_t end)
 std::string DrawingEdit::free_list_name() const {
   const std::string stem(control_list_name(drawing_));
   std::string name = stem;
-  for (int number = 2; outline_.control && outline_.control->names.contains(name); ++number)
+  for (int number = 2; outline_.control && outline_.control->entry(name) != nullptr; ++number)
     name = stem + "_" + std::to_string(number);
   return name;
 }

@@ -9,16 +9,6 @@ namespace {
 
 Handle at(Fixed object) { return handle_of(object); }
 
-// Of an object that new drawings always have.
-void begin_owned(TagWriter& tags, std::string_view kind, Fixed object, Fixed owner) {
-  console::begin_owned(tags, DxfForm{}, kind, at(object), at(owner));
-}
-
-void begin_dictionary(TagWriter& tags, Fixed dictionary) {
-  begin_owned(tags, "DICTIONARY", dictionary, Fixed::root_dictionary);
-  begin_entries(tags, DxfForm{});
-}
-
 struct LayoutFacts {
   Fixed handle;
   Fixed block;
@@ -29,7 +19,7 @@ struct LayoutFacts {
 };
 
 void write_layout(TagWriter& tags, const DxfForm& form, const LayoutFacts& layout) {
-  begin_owned(tags, "LAYOUT", layout.handle, Fixed::layout_dictionary);
+  begin_owned(tags, form, "LAYOUT", at(layout.handle), at(Fixed::layout_dictionary));
   tags.lines(
       "100\nAcDbPlotSettings\n1\n\n2\nnone_device\n4\n\n6\n\n40\n0.0\n41\n0.0\n42\n0.0\n43\n0.0\n44\n0.0\n45\n0.0\n"
       "46\n0.0\n47\n0.0\n48\n0.0\n49\n0.0\n140\n0.0\n141\n0.0\n142\n1.0\n143\n1.0\n");
@@ -47,36 +37,34 @@ void write_layout(TagWriter& tags, const DxfForm& form, const LayoutFacts& layou
   tags.handle(330, at(layout.block));
 }
 
-void write_plot_styles(TagWriter& tags) {
-  begin_owned(tags, "ACDBDICTIONARYWDFLT", Fixed::plot_style_dictionary, Fixed::root_dictionary);
-  begin_entries(tags, DxfForm{});
+void write_plot_styles(TagWriter& tags, const DxfForm& form) {
+  begin_dictionary(tags, form, at(Fixed::plot_style_dictionary), at(Fixed::root_dictionary), "ACDBDICTIONARYWDFLT");
   write_entry(tags, "Normal", at(Fixed::plot_style_normal));
   tags.lines("100\nAcDbDictionaryWithDefault\n");
   tags.handle(340, at(Fixed::plot_style_normal));
-  begin_owned(tags, "ACDBPLACEHOLDER", Fixed::plot_style_normal, Fixed::plot_style_dictionary);
+  begin_owned(tags, form, "ACDBPLACEHOLDER", at(Fixed::plot_style_normal), at(Fixed::plot_style_dictionary));
 }
 
-void write_dictionaries(TagWriter& tags, const Drawing& drawing) {
-  tags.lines("0\nDICTIONARY\n");
-  tags.handle(5, at(Fixed::root_dictionary));
-  tags.lines("330\n0\n");
-  begin_entries(tags, DxfForm{});
-  write_entry(tags, "ACAD_GROUP", at(Fixed::group_dictionary));
+void write_dictionaries(TagWriter& tags, const NewDrawing& file) {
+  const Drawing& drawing = file.drawing;
+  const Handle root = at(Fixed::root_dictionary);
+  begin_dictionary(tags, file.form, root, 0);
+  write_entry(tags, kGroupDictionary, at(Fixed::group_dictionary));
   write_entry(tags, "ACAD_LAYOUT", at(Fixed::layout_dictionary));
   write_entry(tags, "ACAD_PLOTSTYLENAME", at(Fixed::plot_style_dictionary));
   if (drawing.control_record_count() > 0) write_entry(tags, kControlDictionary, at(Fixed::control_dictionary));
 
-  begin_dictionary(tags, Fixed::group_dictionary);
+  begin_dictionary(tags, file.form, at(Fixed::group_dictionary), root);
   for (const Group& group : drawing.groups()) write_entry(tags, group.name, group.handle);
 
-  begin_dictionary(tags, Fixed::layout_dictionary);
+  begin_dictionary(tags, file.form, at(Fixed::layout_dictionary), root);
   write_entry(tags, "Model", at(Fixed::model_layout));
   write_entry(tags, "Layout1", at(Fixed::paper_layout));
 }
 
 void write_controls(TagWriter& tags, const NewDrawing& file) {
   if (file.drawing.control_record_count() == 0) return;
-  begin_dictionary(tags, Fixed::control_dictionary);
+  begin_dictionary(tags, file.form, at(Fixed::control_dictionary), at(Fixed::root_dictionary));
   write_entry(tags, control_list_name(file.drawing), at(Fixed::control_list));
   write_control_list(tags, file.drawing, file.form, at(Fixed::control_list), at(Fixed::control_dictionary));
 }
@@ -104,11 +92,11 @@ void write_objects(TagWriter& tags, const NewDrawing& file) {
   constexpr int kPaperPlotFlags = 688;
   constexpr Extents kSheet = {{0.0, 0.0, 0.0}, {420.0, 297.0, 0.0}};  // millimetres
   tags.lines("0\nSECTION\n2\nOBJECTS\n");
-  write_dictionaries(tags, file.drawing);
+  write_dictionaries(tags, file);
   for (const Group& group : file.drawing.groups()) write_group(tags, file.form, group, at(Fixed::group_dictionary));
   write_layout(tags, file.form, {Fixed::model_layout, Fixed::model_space, "Model", 0, kModelPlotFlags, file.extents});
   write_layout(tags, file.form, {Fixed::paper_layout, Fixed::paper_space, "Layout1", 1, kPaperPlotFlags, kSheet});
-  write_plot_styles(tags);
+  write_plot_styles(tags, file.form);
   write_controls(tags, file);
   tags.lines("0\nENDSEC\n");
 }

@@ -197,6 +197,13 @@ bool NoCase::operator()(std::string_view one, std::string_view other) const {
   });
 }
 
+const DictionaryEntry* DictionaryOutline::entry(std::string_view name) const {
+  const auto found = std::find_if(entries.begin(), entries.end(), [name](const DictionaryEntry& one) {
+    return vexo_xyz_impl::text::equal_ascii_case(one.name, name);
+  });
+  return found == entries.end() ? nullptr : &*found;
+}
+
 const Tag* Outline::variable(std::string_view name) const {
   const auto found = header.find(name);
   return found == header.end() || found->second.empty() ? nullptr : &found->second.front();

@@ -46,11 +46,19 @@ struct TableOutline : Stretch {
   std::optional<Tag> count;  ///< the 70 that says how many records there are
 };
 
+struct DictionaryEntry {
+  std::string_view name;
+  Tag pointer;
+};
+
 struct DictionaryOutline {
   Handle handle = 0;
-  Names names;
+  std::vector<DictionaryEntry> entries;
   int entry_code = 350;         ///< what its entries point with
   std::size_t entries_end = 0;  ///< where one more goes
+
+  /// The entry of that name, letter case aside; null where there is none.
+  [[nodiscard]] const DictionaryEntry* entry(std::string_view name) const;
 };
 
 /// A position in plan, drawing units.
@@ -81,9 +89,6 @@ struct Outline {
   /// The value of a header variable that has one; null where there is none.
   [[nodiscard]] const Tag* variable(std::string_view name) const;
 };
-
-inline constexpr std::string_view kGroupDictionaryName = "ACAD_GROUP";
-inline constexpr std::string_view kControlDictionaryName = "VEXO_KONTROLA";
 
 /// Throws DrawingFault. The bytes outlive the outline, which holds views of them.
 [[nodiscard]] Outline outline_of(std::string_view bytes);

@@ -41,16 +41,28 @@ void write_application(TagWriter& tags, const DxfForm& form, Handle handle, std:
   tags.lines("70\n0\n");
 }
 
+void begin_table(TagWriter& tags, const DxfForm& form, std::string_view name, Handle table, std::size_t records) {
+  tags.lines("0\nTABLE\n");
+  tags.text(2, name);
+  if (form.has_subclasses()) tags.handle(5, table);
+  if (form.has_owners()) tags.lines("330\n0\n");
+  if (form.has_subclasses()) tags.lines("100\nAcDbSymbolTable\n");
+  tags.whole(70, static_cast<long long>(records));
+}
+
 void begin_owned(TagWriter& tags, const DxfForm& form, std::string_view kind, Handle handle, Handle owner) {
   tags.text(0, kind);
   tags.handle(5, handle);
-  tags.lines("102\n{ACAD_REACTORS\n");
-  tags.handle(330, owner);
-  tags.lines("102\n}\n");
+  if (owner != 0) {
+    tags.lines("102\n{ACAD_REACTORS\n");
+    tags.handle(330, owner);
+    tags.lines("102\n}\n");
+  }
   if (form.has_owners()) tags.handle(330, owner);
 }
 
-void begin_entries(TagWriter& tags, const DxfForm& form) {
+void begin_dictionary(TagWriter& tags, const DxfForm& form, Handle dictionary, Handle owner, std::string_view kind) {
+  begin_owned(tags, form, kind, dictionary, owner);
   tags.lines("100\nAcDbDictionary\n");
   if (form.has_owners()) tags.lines("281\n1\n");  // on a clash while merging drawings the present entry stays
 }

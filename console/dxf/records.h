@@ -31,11 +31,15 @@ void write_layer(TagWriter& tags, const DxfForm& form, const LayerRecord& layer,
 void write_style(TagWriter& tags, const DxfForm& form, const TextStyle& style, Handle table);
 void write_application(TagWriter& tags, const DxfForm& form, Handle handle, std::string_view name, Handle table);
 
-/// The beginning of an object that its owner watches: handle, reactor and owner.
+/// A table up to its records; `table` is 0 in versions without handles of tables.
+void begin_table(TagWriter& tags, const DxfForm& form, std::string_view name, Handle table, std::size_t records);
+
+/// The beginning of an object: handle, owner, and the owner's watching it. The owner of the root dictionary is 0.
 void begin_owned(TagWriter& tags, const DxfForm& form, std::string_view kind, Handle handle, Handle owner);
 
-/// What follows a dictionary's owner.
-void begin_entries(TagWriter& tags, const DxfForm& form);
+/// A dictionary up to its entries.
+void begin_dictionary(TagWriter& tags, const DxfForm& form, Handle dictionary, Handle owner,
+                      std::string_view kind = "DICTIONARY");
 void write_entry(TagWriter& tags, std::string_view name, Handle object, int code = 350);
 
 void write_group(TagWriter& tags, const DxfForm& form, const Group& group, Handle dictionary);

@@ -40,8 +40,11 @@ struct LayerRecord {
 /// among them. Their handles are those of new drawings.
 [[nodiscard]] std::vector<LayerRecord> layers_of(const Drawing& drawing, const Layers& layers);
 
-/// The dictionary of the lists below, in the root dictionary, and the name of this drawing's list in it.
+/// Dictionaries in the root one: of groups, and of lists of points under control.
+inline constexpr std::string_view kGroupDictionary = "ACAD_GROUP";
 inline constexpr std::string_view kControlDictionary = "VEXO_KONTROLA";
+
+/// The name of this drawing's list.
 [[nodiscard]] std::string_view control_list_name(const Drawing& drawing);
 
 /// The list of an import's points under control, for the dictionary of that handle: by it points are missed that are

@@ -42,12 +42,7 @@ void DrawingEdit::add_to_table(const NewRecords& added, std::size_t section_end)
 void DrawingEdit::add_table(const NewRecords& added, std::size_t place) {
   const Handle table = form_.has_subclasses() ? new_handle() : 0;
   edits_.insert(place, [=, this](TagWriter& tags) {
-    tags.lines("0\nTABLE\n");
-    tags.text(2, added.table);
-    if (form_.has_subclasses()) tags.handle(5, table);
-    if (form_.has_owners()) tags.lines("330\n0\n");
-    if (form_.has_subclasses()) tags.lines("100\nAcDbSymbolTable\n");
-    tags.whole(70, static_cast<long long>(added.records.size()));
+    begin_table(tags, form_, added.table, table, added.records.size());
     for (const RecordWriter& record : added.records) record(tags, table);
     tags.lines("0\nENDTAB\n");
   });

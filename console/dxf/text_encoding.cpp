@@ -5,14 +5,10 @@
 #include "console/dxf/text_encoding.h"
 
 #include <algorithm>
-#include <array>
 #include <map>
-#include <optional>
 #include <utility>
 
-#include <iconv.h>
-
-#include "vexo_xyz_impl/text/ascii.h"
+#include "console/dxf/code_page.h"
 #include "vexo_xyz_impl/text/utf8.h"
 
 namespace console {
@@ -46,53 +42,38 @@ void append_by_number(std::string& to, char32_t letter) {
 
 }  // namespace
 
-std::string library_name(std::string_view code_page) {
-  std::string name(code_page);
-  std::transform(name.begin(), name.end(), name.begin(), text::ascii_upper);
-  for (const std::string_view prefix : {"ANSI_", "DOS"})
-    if (name.starts_with(prefix)) return "CP" + name.substr(prefix.size());
-  return name;
-}
-
 // Letters beyond ASCII as one code page has them. Each is asked for once.
 class TextEncoding::CodePage {
  public:
-  explicit CodePage(std::string_view name) : library_(iconv_open(library_name(name).c_str(), "UTF-8")) {}
-  CodePage(const CodePage&) = delete;
-  CodePage& operator=(const CodePage&) = delete;
-  ~CodePage() {
-    if (is_known()) iconv_close(library_);
-  }
+  explicit CodePage(std::string_view name) : name_(name), converted_(name, "UTF-8") {}
+
+  [[nodiscard]] std::string_view name() const { return name_; }
 
   const std::string& bytes_of(char32_t letter) const {
     const auto [found, is_new] = letters_.try_emplace(letter);
-    if (is_new && !convert(letter, found->second)) append_by_number(found->second, letter);
+    if (is_new) {
+      std::string utf8;
+      text::append(utf8, letter);
+      if (auto bytes = converted_(utf8)) {
+        found->second = *std::move(bytes);
+      } else {
+        append_by_number(found->second, letter);
+      }
+    }
     return found->second;
   }
 
  private:
-  // NOLINTNEXTLINE(performance-no-int-to-ptr,cppcoreguidelines-pro-type-cstyle-cast): as the library says failure
-  [[nodiscard]] bool is_known() const { return library_ != (iconv_t)-1; }
-
-  bool convert(char32_t letter, std::string& bytes) const {
-    if (!is_known()) return false;
-    std::string utf8;
-    text::append(utf8, letter);
-    std::array<char, 8> converted{};
-    char* from = utf8.data();
-    char* to = converted.data();
-    std::size_t left = utf8.size();
-    std::size_t room = converted.size();
-    if (iconv(library_, &from, &left, &to, &room) != 0) return false;  // what is not exactly it counts too
-    bytes.assign(converted.data(), to);
-    return true;
-  }
-
-  iconv_t library_;
+  std::string name_;
+  Conversion converted_;
   mutable std::map<char32_t, std::string> letters_;
 };
 
 TextEncoding::TextEncoding(std::string_view code_page) : code_page_(std::make_shared<CodePage>(code_page)) {}
+
+std::string_view TextEncoding::code_page() const {
+  return code_page_ == nullptr ? std::string_view() : code_page_->name();
+}
 
 void TextEncoding::append(std::string& to, char32_t letter) const {
   if (code_page_ == nullptr || letter < 0x80) {

@@ -7,9 +7,6 @@
 
 namespace console {
 
-/// The C library's name of a code page: CP1250 for ANSI_1250, CP852 for dos852, ISO8859-2 as it stands.
-[[nodiscard]] std::string library_name(std::string_view code_page);
-
 class TextEncoding {
  public:
   /// UTF-8, as from version 2007 on.
@@ -18,6 +15,9 @@ class TextEncoding {
   /// The code page that $DWGCODEPAGE names, "ANSI_1250" or the like, as up to version 2004. Of one that is not known,
   /// nothing but ASCII is used.
   explicit TextEncoding(std::string_view code_page);
+
+  /// Empty: UTF-8.
+  [[nodiscard]] std::string_view code_page() const;
 
   /// A text as group 1 of a TEXT holds it: what CAD programs would read as a code of theirs (%%d, ^J, \U+0041 …) is
   /// spelled so that they do not; control characters become blanks; letters that the code page lacks become \U+nnnn.

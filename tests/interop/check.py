@@ -84,6 +84,13 @@ def handles_anew(function):
     return changed
 
 
+def registered_places_rounded(path):
+    """By another program, which gives handles anew and keeps none in records."""
+    handles_anew(lambda doc: None)(path)
+    spoil(r"\n *1005\n\w+", "")(path)
+    spoil(r"(\n *10[1-3]0\n)(\d{3,}\.?\d*)", lambda match: f"{match[1]}{float(match[2]) + 0.0003}")(path)
+
+
 def without_lists(doc):
     del doc.rootdict["VEXO_KONTROLA"]
 
@@ -116,6 +123,7 @@ CASES = {
     "records lost": ([], change(lambda doc: ([point.discard_xdata("VEXO") for point in points(doc)],
                                              move(points(doc)[3], 1), points(doc)[5].destroy())), ["Ż4"], ["Ż6"], [], True),
     "handles lost in records": ([], spoil(r"\n *1005\n\w+", ""), [], [], [], True),
+    "registered places rounded": ([], registered_places_rounded, [], [], [], True),
     "exponents": ([], spoil(r"(\n *1010\n)(\d)(\d{6})\.(\d+)", r"\1+\2.\3\4E+06"), [], [], [], True),
     "a code page": (["--dxf", "2000"], change(lambda doc: move(points(doc)[2], 1)), ["Ż3"], [], [], True),
     "R12": ([], change(lambda doc: (as_r12(doc), move(points(doc)[2], 1))), ["Ż3"], [], [], False),

@@ -78,12 +78,6 @@ class EveryDay(unittest.TestCase):
                                       stderr=subprocess.PIPE)
                 self.assertEqual((done.returncode, b"standard output" in done.stderr), (3, True), done.stderr)
 
-        for room, outcomes in [(5, {"not_started"}), (12, {None})]:  # descriptors
-            done = subprocess.run(["sh", "-c", f'ulimit -n {room}; exec "$0" "$@"', PROGRAM, *["a.csv"] * 5, "--json",
-                                   "--jobs", "5"], cwd=self.folder, env=self.environment, capture_output=True)
-            reasons = [(one["reason"] or {}).get("code") for one in json.loads(done.stdout)]
-            self.assertEqual((len(reasons), set(reasons)), (5, outcomes))
-
         self.write(large_csv=POINTS * 50000, none_csv="")
         process = subprocess.Popen([PROGRAM, "large.csv", "none.csv", "d.csv", "--lang", "EN"], cwd=self.folder,
                                    env=self.environment, stdout=subprocess.PIPE, text=True)

@@ -10,8 +10,6 @@
 namespace vexo_xyz_impl {
 namespace {
 
-constexpr std::string_view kRecordKind = "XYZPKT";
-
 bool mark(host::ReactiveCore& core, host::GcDbObjectId oid) {
   try {
     const std::string h = core.handle_z_oid(oid);

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <span>
 #include <string>
+#include <string_view>
 
 #include "vexo_xyz_impl/host/values.h"
 
@@ -11,6 +12,9 @@ namespace vexo_xyz_impl {
 
 /// The most points that one import registers; a larger import registers none.
 inline constexpr std::size_t _MAX_KONTROLA = 2000;
+
+/// What the record of a registered point says that it is.
+inline constexpr std::string_view kRecordKind = "XYZPKT";
 
 /// How many points were registered, and why none were, in the catalogue's words; empty when there is nothing to say.
 struct MarkingResult {
