@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <system_error>
 #include <utility>
 
 #include <sys/ioctl.h>
@@ -25,10 +26,14 @@ std::size_t width_of(int terminal) {
   return ioctl(terminal, TIOCGWINSZ, &size) == 0 && size.ws_col > 0 ? size.ws_col : kUsual;
 }
 
-// Signals are for the thread that works.
+// Signals are for the thread that works. Where the system gives no other, nothing is drawn.
 std::thread started(std::function<void()> work) {
   const SignalsHeld held;
-  return std::thread(std::move(work));
+  try {
+    return std::thread(std::move(work));
+  } catch (const std::system_error&) {
+    return {};
+  }
 }
 
 void write_to(int terminal, std::string_view text) {
@@ -50,7 +55,7 @@ Progress::~Progress() {
     ends_ = true;
   }
   changed_.notify_one();
-  drawer_.join();
+  if (drawer_.joinable()) drawer_.join();
 }
 
 void Progress::go_on(std::string name, Measure measure, std::uint64_t total) {
