@@ -6,6 +6,7 @@
 #include "console/dxf/tag_reader.h"
 #include "siblings/vexo_reaktywne_core/reaktywne_core.h"
 #include "vexo_xyz_impl/drawing/control.h"
+#include "vexo_xyz_impl/text/ascii.h"
 
 namespace console {
 namespace {
@@ -45,12 +46,8 @@ class EntityReader {
 
   // *Model_Space, *Paper_Space0 and the like.
   static bool is_layout(std::string_view name) {
-    Tag beginning;
-    for (const std::string_view layout : {"*MODEL_SPACE", "*PAPER_SPACE"}) {
-      beginning.value = name.substr(0, layout.size());
-      if (beginning.says(layout)) return true;
-    }
-    return false;
+    using vexo_xyz_impl::text::starts_with_ascii_case;
+    return starts_with_ascii_case(name, "*MODEL_SPACE") || starts_with_ascii_case(name, "*PAPER_SPACE");
   }
 
   void begin(const Tag& tag) {

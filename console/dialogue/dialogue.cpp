@@ -17,13 +17,6 @@ namespace text = vexo_xyz_impl::text;
 
 namespace {
 
-// Letter case of ASCII aside; keywords are chosen so that nothing else is needed to tell them apart.
-bool begins_with(std::string_view word, std::string_view beginning) {
-  return word.size() >= beginning.size() &&
-         std::equal(beginning.begin(), beginning.end(), word.begin(),
-                    [](char a, char b) { return text::ascii_lower(a) == text::ascii_lower(b); });
-}
-
 std::vector<std::string> split_at_blanks(std::string_view words) {
   std::vector<std::string> split;
   while (!words.empty()) {
@@ -35,11 +28,12 @@ std::vector<std::string> split_at_blanks(std::string_view words) {
 }
 
 // The keywords that an answer may mean: one that it equals, or all that it begins. In the present catalogues the first
-// letters differ; a translation may begin two words alike, or one with the other.
+// letters differ; a translation may begin two words alike, or one with the other. Keywords are chosen so that no case
+// but that of ASCII letters matters.
 std::vector<std::string> matches(const std::vector<std::string>& keywords, std::string_view answer) {
   std::vector<std::string> found;
   for (const std::string& word : keywords) {
-    if (!begins_with(word, answer)) continue;
+    if (!text::starts_with_ascii_case(word, answer)) continue;
     if (word.size() == answer.size()) return {word};
     found.push_back(word);
   }

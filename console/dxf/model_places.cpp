@@ -3,12 +3,16 @@
 #include <algorithm>
 #include <array>
 
+#include "vexo_xyz_impl/text/ascii.h"
+
 namespace console {
 namespace {
 
+using vexo_xyz_impl::text::equal_ascii_case;
+
 template <std::size_t n>
 bool is_among(const std::array<std::string_view, n>& kinds, std::string_view kind) {
-  return std::find(kinds.begin(), kinds.end(), kind) != kinds.end();
+  return std::any_of(kinds.begin(), kinds.end(), [kind](std::string_view one) { return equal_ascii_case(one, kind); });
 }
 
 // A polyline's own position says its elevation alone; its vertices follow it.
@@ -22,8 +26,8 @@ constexpr std::array<std::string_view, 11> kOnOwnPlane = {"TEXT",  "ATTRIB", "AT
 void ModelPlaces::begin(std::string_view kind) {
   takes_ = !is_among(kNowhere, kind);
   takes_all_ = is_among(kOfManyPoints, kind);
-  is_line_ = kind == "LINE";
-  first_is_height_ = kind == "HATCH";
+  is_line_ = equal_ascii_case(kind, "LINE");
+  first_is_height_ = equal_ascii_case(kind, "HATCH");
   is_on_own_plane_ = is_among(kOnOwnPlane, kind);
   is_in_paper_ = false;
   awaited_ = 0;

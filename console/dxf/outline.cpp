@@ -124,10 +124,9 @@ class OutlineReader {
   }
 
   static int version_of(std::string_view text) {
-    Tag number;
-    number.value = text.substr(std::min<std::size_t>(2, text.size()));
-    const auto version = number.whole();
-    return text.starts_with("AC") && version && *version <= 9999 ? static_cast<int>(*version) : kVersionUntold;
+    if (!text.starts_with("AC")) return kVersionUntold;
+    const auto version = whole_in(text.substr(2));
+    return version && *version <= 9999 ? static_cast<int>(*version) : kVersionUntold;
   }
 
   void read_tables() {

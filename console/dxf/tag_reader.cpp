@@ -1,6 +1,5 @@
 #include "console/dxf/tag_reader.h"
 
-#include <algorithm>
 #include <charconv>
 #include <cmath>
 
@@ -32,14 +31,11 @@ std::string_view Tag::trimmed() const {
   return text;
 }
 
-bool Tag::says(std::string_view text) const {
-  const std::string_view own = trimmed();
-  return std::equal(own.begin(), own.end(), text.begin(), text.end(), [](char one, char other) {
-    return vexo_xyz_impl::text::ascii_upper(one) == vexo_xyz_impl::text::ascii_upper(other);
-  });
-}
+bool Tag::says(std::string_view text) const { return vexo_xyz_impl::text::equal_ascii_case(trimmed(), text); }
 
-std::optional<long long> Tag::whole() const { return number_in<long long>(trimmed()); }
+std::optional<long long> whole_in(std::string_view text) { return number_in<long long>(text); }
+
+std::optional<long long> Tag::whole() const { return whole_in(trimmed()); }
 
 std::optional<double> Tag::real() const {
   const auto number = number_in<double>(trimmed());

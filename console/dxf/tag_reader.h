@@ -12,6 +12,9 @@
 
 namespace console {
 
+/// The number that all of the text is; none where it is none or more than the type holds.
+[[nodiscard]] std::optional<long long> whole_in(std::string_view text);
+
 struct Tag {
   int code = 0;
   std::string_view value;  ///< without the line's end

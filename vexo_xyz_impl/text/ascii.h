@@ -15,4 +15,9 @@ namespace vexo_xyz_impl::text {
                     [](char x, char y) { return ascii_lower(x) == ascii_lower(y); });
 }
 
+/// Whether the text begins so, letter case aside.
+[[nodiscard]] constexpr bool starts_with_ascii_case(std::string_view text, std::string_view beginning) {
+  return equal_ascii_case(text.substr(0, beginning.size()), beginning);
+}
+
 }  // namespace vexo_xyz_impl::text
