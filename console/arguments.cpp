@@ -66,10 +66,11 @@ std::vector<std::string> words_of(const CLI::App& app, const Arguments& argument
       continue;
     }
     const auto value = option->as<std::string>();
+    words.push_back(name);
     if (value.starts_with('-')) {
-      words.push_back(name + "=" + value);
+      words.back().append("=").append(value);
     } else {
-      words.insert(words.end(), {name, value});
+      words.push_back(value);
     }
   }
   if (app.count("--market") == 0)
@@ -234,7 +235,7 @@ std::vector<std::string> separate_arguments(const CLI::App& app, int argc, const
   std::vector<std::string> arguments(argv + std::min(1, argc), argv + argc);
   for (std::size_t i = 0; i < arguments.size() && arguments[i] != "--"; ++i) {
     std::string& argument = arguments[i];
-    const std::string_view next = i + 1 < arguments.size() ? arguments[i + 1] : "";
+    const std::string next = i + 1 < arguments.size() ? arguments[i + 1] : "";
     const bool has_decimals = next.size() == 1 && std::isdigit(static_cast<unsigned char>(next[0])) != 0;
     if (takes_next(argument)) {
       ++i;
