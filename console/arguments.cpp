@@ -66,10 +66,11 @@ std::vector<std::string> words_of(const CLI::App& app, const Arguments& argument
       continue;
     }
     const auto value = option->as<std::string>();
+    words.push_back(name);
     if (value.starts_with('-')) {
-      words.push_back(name + "=" + value);
+      words.back().append("=").append(value);
     } else {
-      words.insert(words.end(), {name, value});
+      words.push_back(value);
     }
   }
   if (app.count("--market") == 0)
@@ -226,17 +227,24 @@ void declare_import(CLI::App& app, Arguments& arguments) {
   declare_choice(app, arguments.choice);
 }
 
-std::vector<std::string> separate_arguments(int argc, const char* const* argv) {
-  std::vector<std::string> last_first;
-  for (int i = 1; i < argc; ++i) {
-    std::string argument = argv[i];
-    const std::string_view next = i + 1 < argc ? argv[i + 1] : "";
+std::vector<std::string> separate_arguments(const CLI::App& app, int argc, const char* const* argv) {
+  const auto takes_next = [&app](const std::string& argument) {
+    const CLI::Option* const option = app.get_option_no_throw(argument);
+    return option != nullptr && option->get_expected_min() > 0 && option->nonpositional();
+  };
+  std::vector<std::string> arguments(argv + std::min(1, argc), argv + argc);
+  for (std::size_t i = 0; i < arguments.size() && arguments[i] != "--"; ++i) {
+    std::string& argument = arguments[i];
+    const std::string next = i + 1 < arguments.size() ? arguments[i + 1] : "";
     const bool has_decimals = next.size() == 1 && std::isdigit(static_cast<unsigned char>(next[0])) != 0;
-    if (argument == "--heights" && !has_decimals) argument += "=2";
-    last_first.push_back(std::move(argument));
+    if (takes_next(argument)) {
+      ++i;
+    } else if (argument == "--heights" && !has_decimals) {
+      argument += "=2";
+    }
   }
-  std::reverse(last_first.begin(), last_first.end());
-  return last_first;
+  std::reverse(arguments.begin(), arguments.end());
+  return arguments;
 }
 
 void check(const CLI::App& app, const Arguments& arguments) {

@@ -38,9 +38,9 @@ struct Arguments {
 /// Declares the options, whose values are kept in `arguments`.
 void declare_import(CLI::App& app, Arguments& arguments);
 
-/// The arguments behind the program's name, last first as the library takes them; "--heights FILE" becomes
-/// "--heights=2 FILE".
-[[nodiscard]] std::vector<std::string> separate_arguments(int argc, const char* const* argv);
+/// The arguments behind the program's name, last first as the library takes them. A file behind "--heights" would be
+/// taken for its number of decimals, so what has none gets it: "--heights=2 FILE".
+[[nodiscard]] std::vector<std::string> separate_arguments(const CLI::App& app, int argc, const char* const* argv);
 
 /// Fails with CLI::ValidationError where the market is not one of the list, be it named by an option or by the
 /// environment, or where an option for one file goes with several.

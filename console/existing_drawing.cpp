@@ -173,6 +173,9 @@ OpenedDrawing read_existing(const std::filesystem::path& path) {
 OpenedDrawing open_existing(const std::filesystem::path& path) {
   OpenedDrawing opened = read_existing(path);
   if (const auto* const drawing = std::get_if<std::unique_ptr<ExistingDrawing>>(&opened)) {
+    // A file may be replaced that may not be written; but who protects a drawing means it.
+    if (access((*drawing)->path().c_str(), W_OK) != 0)
+      return text_of("konsola.blad_zapisu", path, std::system_error(errno, std::generic_category()));
     if (const auto refusal = refusal_of((*drawing)->path())) return text_of("konsola.blad_zapisu", path, *refusal);
   }
   return opened;

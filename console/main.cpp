@@ -4,10 +4,13 @@
 #include <cstdio>
 #include <cstring>
 #include <exception>
+#include <filesystem>
 #include <iostream>
 #include <memory>
 #include <ostream>
 #include <sstream>
+#include <string>
+#include <system_error>
 #include <utility>
 
 #include <CLI/CLI.hpp>
@@ -15,7 +18,7 @@
 #include <unistd.h>
 
 #include "console/arguments.h"
-#include "console/batch.h"
+#include "console/batch/batch.h"
 #include "console/check_arguments.h"
 #include "console/dialogue/typed_path.h"
 #include "console/kept_memory.h"
@@ -24,6 +27,7 @@
 #include "console/report/report_file.h"
 #include "console/session.h"
 #include "console/written.h"
+#include "vexo_xyz_impl/command/questions.h"
 
 namespace {
 
@@ -39,6 +43,13 @@ void use_utf8_locale() {
 std::unique_ptr<console::LineSource> typed_lines(std::ostream& out) {
   return at_a_terminal() && &out == &std::cout ? console::lines_of_terminal(out)
                                                : console::lines_of_stream(std::cin, out);
+}
+
+// What an argument names; of a file of points the import itself takes off blanks and quotes.
+std::string pasted_path(const std::string& typed) {
+  std::error_code ignored;
+  if (std::filesystem::exists(typed, ignored)) return typed;
+  return std::string(vexo_xyz_impl::clean_path(console::existing_path(typed)));
 }
 
 int run(int argc, char** argv) {
@@ -68,7 +79,7 @@ int run(int argc, char** argv) {
       ->callback(print(console::bash_completion))
       ->group("");
   try {
-    app.parse(console::separate_arguments(argc, argv));
+    app.parse(console::separate_arguments(app, argc, argv));
     if (preparing->parsed()) {
       console::check_market(prepare.choice);
     } else if (checking->parsed()) {
@@ -80,7 +91,9 @@ int run(int argc, char** argv) {
     return app.exit(error) == 0 ? console::kImported : console::kUsage;
   }
   for (std::string& file : arguments.files) file = console::existing_path(std::move(file));
-  prepare.options.file = console::existing_path(std::move(prepare.options.file));
+  arguments.into = pasted_path(arguments.into);
+  prepare.options.file = pasted_path(prepare.options.file);
+  check.options.file = pasted_path(check.options.file.string());
   const bool is_asked_for_json = checking->parsed() ? check.options.json : arguments.json && !preparing->parsed();
   std::ostream& out = is_asked_for_json ? std::cerr : std::cout;
   const auto lines = typed_lines(out);

@@ -62,7 +62,7 @@ class Preparation {
     if (output_is_refused()) return refused(kFailure);
     const std::filesystem::path folder = std::filesystem::path(options_.file).parent_path();
     if (const auto failure = options_.output ? refusal_of(*options_.output) : refusal_in(folder))
-      return cannot_write(options_.output.value_or(folder), *failure);
+      return cannot_write(options_.output ? *options_.output : free_name(options_.file), *failure);
     const intake::FileKind kind = intake::file_kind(options_.file);
     table_ = intake::open_table(options_.file, kind, options_.sheet);
     if (!table_) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <system_error>
 #include <utility>
 
 #include <unistd.h>
@@ -18,10 +19,14 @@ constexpr auto kPatience = std::chrono::seconds(1);  // what is done before need
 constexpr auto kInterval = std::chrono::milliseconds(100);
 constexpr std::size_t kBar = 30;  // character cells
 
-// Signals are for the thread that works.
+// Signals are for the thread that works. Where the system gives no other, nothing is drawn.
 std::thread started(std::function<void()> work) {
   const SignalsHeld held;
-  return std::thread(std::move(work));
+  try {
+    return std::thread(std::move(work));
+  } catch (const std::system_error&) {
+    return {};
+  }
 }
 
 void write_to(int terminal, std::string_view text) {
@@ -43,7 +48,7 @@ Progress::~Progress() {
     ends_ = true;
   }
   changed_.notify_one();
-  drawer_.join();
+  if (drawer_.joinable()) drawer_.join();
 }
 
 void Progress::go_on(std::string name, Measure measure, std::uint64_t total) {

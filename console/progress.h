@@ -24,7 +24,7 @@ class Progress {
   /// What there is to show: seconds gone, the share of a total, bytes written.
   enum class Measure { seconds, share, bytes };
 
-  /// Draws on the terminal at `descriptor`.
+  /// Draws on the terminal at `descriptor`; not at all where the system gives no thread.
   explicit Progress(int descriptor);
   Progress(const Progress&) = delete;
   Progress& operator=(const Progress&) = delete;

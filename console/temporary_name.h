@@ -1,7 +1,10 @@
-// A file under a random name that no end of the program leaves behind.
+// A file under a random name that is not left behind when the program ends.
 //
 // Every signal that can be caught and would end the program removes the file first and then does what it would have
-// done; signals that are ignored stay so. Names are made and given up by one thread at a time.
+// done; signals that are ignored stay so. SIGKILL and a power cut leave the file, and so does any signal where eight
+// others are there already or its path is longer than 4095 bytes. When the last such file is gone, signals do again
+// what they did when the first one came: nobody may change that meanwhile. Names are made and given up by one thread
+// at a time.
 #pragma once
 
 #include <cstddef>

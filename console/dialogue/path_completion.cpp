@@ -76,7 +76,9 @@ PathCompletion candidates(Spelling spelling, std::string_view typed) {
   const std::string folder = std::filesystem::exists(as_typed, ignored) ? as_typed : with_home(as_typed);
 
   PathCompletion completion;
-  for (const auto& entry : std::filesystem::directory_iterator(folder.empty() ? "." : folder, ignored)) {
+  std::filesystem::directory_iterator entries(folder.empty() ? "." : folder, ignored);
+  for (; entries != std::filesystem::directory_iterator(); entries.increment(ignored)) {
+    const std::filesystem::directory_entry& entry = *entries;
     std::string name = entry.path().filename().string();
     const bool hidden = name.starts_with('.') && !beginning.starts_with('.');
     if (hidden || !name.starts_with(beginning)) continue;

@@ -17,7 +17,7 @@ struct PathCompletion {
 /// Candidates for the end of `typed`, whose leading blanks and quotes belong to no name: folders and files that may
 /// hold points, so no drawings, backups and logs. As in typed_path.h, what is typed is read as it stands if that is the
 /// beginning of a name there is, else with ~ for the home folder, %20 and backslashes; the addition is spelled
-/// likewise. Hidden names are offered only when their dot is typed. Folders that cannot be read have no candidates.
+/// likewise. Hidden names are offered only when their dot is typed. Folders have the candidates that can be read.
 [[nodiscard]] PathCompletion complete_path(std::string_view typed);
 
 /// The names in columns, read downwards, that fit so many character cells; each line ended.

@@ -56,6 +56,7 @@ class TerminalLines final : public LineSource {
     signals_ = &signals;
     int count = 0;
     const char* typed = el_gets(editor_.get(), &count);
+    signals_ = nullptr;
     if (typed == nullptr || count <= 0 || escaped_) {
       at_end_ = !escaped_;
       out_ << '\n' << std::flush;
@@ -81,8 +82,17 @@ class TerminalLines final : public LineSource {
 
   static char* prompt_of(EditLine* editor) { return self_of(editor).prompt_.data(); }
 
-  // The library's own completion spells blanks and quotes as a shell would, which no path prompt takes.
+  // The library is in C, which no exception can pass.
   static unsigned char complete(EditLine* editor, int /*key*/) {
+    try {
+      return complete_path_of(editor);
+    } catch (...) {
+      return CC_ERROR;
+    }
+  }
+
+  // The library's own completion spells blanks and quotes as a shell would, which no path prompt takes.
+  static unsigned char complete_path_of(EditLine* editor) {
     const LineInfo* line = el_line(editor);
     const std::string_view typed(line->buffer, static_cast<std::size_t>(line->cursor - line->buffer));
     const PathCompletion completion = complete_path(typed);
