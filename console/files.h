@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "console/dxf/tag_writer.h"
+#include "console/byte_sink.h"
 #include "console/file_failure.h"
 #include "console/temporary_name.h"
 

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "console/drawing/column.h"
-#include "console/dxf/outline.h"
+#include "console/drawing/drawing.h"
 
 namespace console {
 
