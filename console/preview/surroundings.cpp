@@ -185,7 +185,7 @@ void draw_title(SvgElements& svg, const Picture& picture, const Page& page) {
   const std::string date = vexo_xyz_impl::text::local_time("%Y-%m-%d");
   const std::string what =
       filled("konsola.podglad_liczba", {count_of(picture.points.size())}) + " · " + systems_of(picture);
-  const std::string title = picture.group.empty() ? picture.file : picture.group;
+  const std::string& title = picture.title();
   svg.text(x, 148, kLarge, fitting(title, kLarge, room), Anchor::start, attribute("font-weight", "bold"));
   svg.text(x, 205, kUsual, fitting(what, kUsual, room));
   svg.text(x, 252, kUsual, fitting(picture.file + " · " + date, kUsual, room));
