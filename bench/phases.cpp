@@ -150,7 +150,7 @@ void save(const console::Drawing& drawing, const std::string& target, Steps& ste
   steps.done("make the DXF text", sink.used);
   steps.add("write to the file", sink.used);
   file.flush();
-  if (!file.commit(target, true)) throw std::runtime_error("cannot name the drawing " + target);
+  file.replace(target);
   steps.done("flush to the disk and rename");
 }
 

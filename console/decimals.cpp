@@ -22,4 +22,12 @@ std::string spelled(double value, int decimals) {
   return text;
 }
 
+std::string distance_text(double metres) {
+  constexpr double kKilometre = 1000.0;
+  constexpr double kWithDecimal = 9.95;  // from there on the first decimal says nothing
+  const bool is_far = metres >= kKilometre - 0.5;
+  const double value = is_far ? metres / kKilometre : metres;
+  return with_decimals(value, value < kWithDecimal ? 1 : 0) + (is_far ? " km" : " m");
+}
+
 }  // namespace console

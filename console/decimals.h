@@ -11,4 +11,7 @@ namespace console {
 /// The same without needless noughts.
 [[nodiscard]] std::string spelled(double value, int decimals = 1);
 
+/// Metres as people say them: "0.4 m", "12 m", "3.2 km", "541 km".
+[[nodiscard]] std::string distance_text(double metres);
+
 }  // namespace console

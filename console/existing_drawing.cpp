@@ -152,7 +152,7 @@ void ExistingDrawing::save(const Drawing* added, const Layers& layers) const {
     file.write(bytes_);
   }
   file.flush();
-  file.commit_keeping(path_, backup());
+  file.replace_keeping(path_, backup());
 }
 
 OpenedDrawing read_existing(const std::filesystem::path& path) {

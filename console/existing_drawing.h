@@ -10,10 +10,10 @@
 #include <string_view>
 #include <variant>
 
+#include "console/byte_sink.h"
 #include "console/drawing/drawing.h"
 #include "console/drawing/wishes.h"
 #include "console/dxf/outline.h"
-#include "console/dxf/tag_writer.h"
 
 namespace console {
 

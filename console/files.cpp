@@ -118,7 +118,7 @@ void AtomicFile::flush() {
   if (close(closing) != 0) fail(FileStep::write);  // some file systems tell only now
 }
 
-void AtomicFile::replace(const std::filesystem::path& target, const std::filesystem::path& rights_of) {
+void AtomicFile::rename_over(const std::filesystem::path& target, const std::filesystem::path& rights_of) {
   struct stat was {};
   if (stat(rights_of.c_str(), &was) == 0) {
     const int descriptor = open(temporary_.c_str(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC);
@@ -140,22 +140,22 @@ bool AtomicFile::rename_to_free_name(const std::filesystem::path& target) {
   fail(FileStep::rename);
 }
 
-bool AtomicFile::commit(const std::filesystem::path& target, bool replace_existing) {
-  if (replace_existing) {
-    const std::filesystem::path final = final_target(target);
-    replace(final, final);
-    return true;
-  }
+void AtomicFile::replace(const std::filesystem::path& target) {
+  const std::filesystem::path final = final_target(target);
+  rename_over(final, final);
+}
+
+bool AtomicFile::take_free(const std::filesystem::path& target) {
   if (!rename_to_free_name(target)) return false;
   flush_folder(target);
   return true;
 }
 
-void AtomicFile::commit_keeping(const std::filesystem::path& target, const std::filesystem::path& backup) {
+void AtomicFile::replace_keeping(const std::filesystem::path& target, const std::filesystem::path& backup) {
   const std::filesystem::path original = final_target(target);
   std::error_code ignored;
   if (std::filesystem::exists(original, ignored) && !link_as(original, backup)) copy(original, backup);
-  replace(original, original);
+  rename_over(original, original);
 }
 
 void AtomicFile::copy(const std::filesystem::path& original, const std::filesystem::path& backup) {
@@ -168,7 +168,23 @@ void AtomicFile::copy(const std::filesystem::path& original, const std::filesyst
   } while (bytes);
   if (!bytes.eof()) throw FileFailure(FileStep::write, EIO);
   file.flush();
-  file.replace(backup, original);
+  file.rename_over(backup, original);
+}
+
+void write_whole(const std::filesystem::path& path, std::string_view bytes) {
+  AtomicFile file(final_target(path).parent_path());
+  file.write(bytes);
+  file.flush();
+  file.replace(path);
+}
+
+bool begins_with_any(const std::filesystem::path& path, std::initializer_list<std::string_view> beginnings) {
+  std::string head(std::ranges::max(beginnings, {}, &std::string_view::size).size(), '\0');
+  std::ifstream file(path, std::ios::binary);
+  file.read(head.data(), std::ssize(head));
+  head.resize(static_cast<std::size_t>(file.gcount()));
+  return head.empty() ||
+         std::any_of(beginnings.begin(), beginnings.end(), [&head](auto known) { return head.starts_with(known); });
 }
 
 std::filesystem::path final_target(std::filesystem::path path) {

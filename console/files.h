@@ -2,11 +2,12 @@
 #pragma once
 
 #include <filesystem>
+#include <initializer_list>
 #include <optional>
 #include <string>
 #include <string_view>
 
-#include "console/dxf/tag_writer.h"
+#include "console/byte_sink.h"
 #include "console/file_failure.h"
 #include "console/temporary_name.h"
 
@@ -14,9 +15,9 @@ namespace console {
 
 /// A file that appears under its name only when it is complete.
 ///
-/// Bytes go to a temporary file beside the target; `commit` renames it. Without a commit, and when a signal ends the
-/// program, the temporary file is removed. A file that is replaced hands its owner, mode and access list on to the new
-/// one, a symbolic link to it stays. Every operation fails with FileFailure.
+/// Bytes go to a temporary file beside the target, which is given its name at the end. Where that does not come to it,
+/// and when a signal ends the program, the temporary file is removed. A file that is replaced hands its owner, mode and
+/// access list on to the new one, a symbolic link to it stays. Every operation fails with FileFailure.
 class AtomicFile final : public ByteSink {
  public:
   /// Creates the temporary file in the folder where the target is to stand, which for a target that may be a symbolic
@@ -31,19 +32,21 @@ class AtomicFile final : public ByteSink {
   /// Makes sure that all bytes are on the disk; nothing may be written after it.
   void flush();
 
-  /// Gives the flushed file its name. With `replace_existing` an existing file of that name is replaced; else false is
-  /// returned when there is one, and another name may be tried.
-  [[nodiscard]] bool commit(const std::filesystem::path& target, bool replace_existing);
+  /// Gives the flushed file its name, in the place of the file at `target` if there is one.
+  void replace(const std::filesystem::path& target);
+
+  /// Gives the flushed file a name that no other file has; false when one has it, and another may be tried.
+  [[nodiscard]] bool take_free(const std::filesystem::path& target);
 
   /// Replaces the file at `target`, if there is one, which gets the name `backup` in the place of an older backup. At
   /// every moment one of the two names is a whole file.
-  void commit_keeping(const std::filesystem::path& target, const std::filesystem::path& backup);
+  void replace_keeping(const std::filesystem::path& target, const std::filesystem::path& backup);
 
  private:
   static constexpr std::size_t kStep = std::size_t{32} << 20U;  // bytes; most drawings are smaller
 
   void begin_step();
-  void replace(const std::filesystem::path& target, const std::filesystem::path& rights_of);
+  void rename_over(const std::filesystem::path& target, const std::filesystem::path& rights_of);
   static void copy(const std::filesystem::path& original, const std::filesystem::path& backup);
   [[nodiscard]] bool rename_to_free_name(const std::filesystem::path& target);
 
@@ -53,6 +56,13 @@ class AtomicFile final : public ByteSink {
   std::size_t next_step_ = kStep;
   bool has_room_ahead_ = false;
 };
+
+/// Writes a file whole or not at all, in the place of the one at `path` if there is one. Fails with FileFailure.
+void write_whole(const std::filesystem::path& path, std::string_view bytes);
+
+/// Whether the file begins with one of these, or is empty: one of this program's that may be replaced.
+[[nodiscard]] bool begins_with_any(const std::filesystem::path& path,
+                                   std::initializer_list<std::string_view> beginnings);
 
 /// What a path stands for that may be a symbolic link, or a link to a link; it need not exist.
 [[nodiscard]] std::filesystem::path final_target(std::filesystem::path path);

@@ -1,8 +1,6 @@
 #include "console/nearness.h"
 
 #include <algorithm>
-#include <array>
-#include <charconv>
 #include <cmath>
 #include <limits>
 #include <span>
@@ -10,14 +8,14 @@
 namespace console {
 namespace {
 
-struct Box {
+struct PlanBox {
   PlanPoint low;
   PlanPoint high;
 };
 
 double squared(double value) { return value * value; }
 
-double squared_to(const Box& box, const PlanPoint& from) {
+double squared_to(const PlanBox& box, const PlanPoint& from) {
   return squared(std::max({box.low.x - from.x, 0.0, from.x - box.high.x})) +
          squared(std::max({box.low.y - from.y, 0.0, from.y - box.high.y}));
 }
@@ -34,12 +32,12 @@ class Halves {
   static constexpr std::size_t kFew = 8;
 
   struct Node {
-    Box box;
+    PlanBox box;
     std::size_t other = 0;  // the node of the second half; the first one's is the next
   };
 
-  static Box box_of(std::span<const PlanPoint> points) {
-    Box box{points.front(), points.front()};
+  static PlanBox box_of(std::span<const PlanPoint> points) {
+    PlanBox box{points.front(), points.front()};
     for (const PlanPoint& one : points) {
       box.low = {std::min(box.low.x, one.x), std::min(box.low.y, one.y)};
       box.high = {std::max(box.high.x, one.x), std::max(box.high.y, one.y)};
@@ -49,7 +47,7 @@ class Halves {
 
   void split(std::span<PlanPoint> points) {
     const std::size_t node = nodes_.size();
-    const Box box = box_of(points);
+    const PlanBox box = box_of(points);
     nodes_.push_back({box});
     if (points.size() <= kFew) return;
     const bool is_wide = box.high.x - box.low.x > box.high.y - box.low.y;
@@ -94,18 +92,6 @@ std::optional<double> least_distance(std::vector<PlanPoint> points, const Column
   for (std::size_t at = 0; at < places.size(); ++at) halves.search(places[at], best);
   if (!std::isfinite(best)) return std::nullopt;
   return std::sqrt(best);
-}
-
-std::string distance_text(double metres) {
-  constexpr double kKilometre = 1000.0;
-  constexpr double kWithDecimal = 9.95;  // from there on the first decimal says nothing
-  const bool is_far = metres >= kKilometre - 0.5;
-  const double value = is_far ? metres / kKilometre : metres;
-  std::array<char, 400> digits{};
-  char* const end = std::to_chars(digits.data(), digits.data() + digits.size(), value, std::chars_format::fixed,
-                                  value < kWithDecimal ? 1 : 0)
-                        .ptr;
-  return std::string(digits.data(), end) + (is_far ? " km" : " m");
 }
 
 }  // namespace console

@@ -2,19 +2,15 @@
 #pragma once
 
 #include <optional>
-#include <string>
 #include <vector>
 
 #include "console/drawing/column.h"
-#include "console/dxf/outline.h"
+#include "console/drawing/drawing.h"
 
 namespace console {
 
 /// The least distance in plan between one of `points` and one of `places`, in their unit; empty where one of the sets
 /// is. What is not finite counts for nothing.
 [[nodiscard]] std::optional<double> least_distance(std::vector<PlanPoint> points, const Column<PlanPoint>& places);
-
-/// Metres as people say them: "0.4 m", "12 m", "3.2 km", "541 km".
-[[nodiscard]] std::string distance_text(double metres);
 
 }  // namespace console

@@ -78,12 +78,16 @@ std::filesystem::path Outputs::write_new(const Drawing& drawing, const std::file
   write_dxf(drawing, wishes_, code_page, counted);
   file.flush();
   if (targets_.output) {
-    if (file.commit(*targets_.output, targets_.force)) return *targets_.output;
-    throw FileFailure(FileStep::rename, EEXIST);
+    if (targets_.force) {
+      file.replace(*targets_.output);
+    } else if (!file.take_free(*targets_.output)) {
+      throw FileFailure(FileStep::rename, EEXIST);
+    }
+    return *targets_.output;
   }
   for (int number = 1; number <= kMostNames; ++number) {
     std::filesystem::path name = drawing_name(points, number);
-    if (file.commit(name, false)) return name;
+    if (file.take_free(name)) return name;
   }
   throw FileFailure(FileStep::rename, EEXIST);
 }

@@ -8,11 +8,6 @@
 namespace console {
 namespace {
 
-std::size_t width_of(const std::string& cell) {
-  return static_cast<std::size_t>(
-      std::count_if(cell.begin(), cell.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }));
-}
-
 // What a cell says, on one line.
 std::string shown(const std::string& cell) {
   std::string shown = without_control_characters(cell);
@@ -27,12 +22,12 @@ std::string plain_table(const std::vector<Align>& columns, std::vector<std::vect
   for (auto& row : rows) std::transform(row.begin(), row.end(), row.begin(), shown);
   std::vector<std::size_t> widths(columns.size());
   for (const auto& row : rows)
-    for (std::size_t i = 0; i < row.size(); ++i) widths[i] = std::max(widths[i], width_of(row[i]));
+    for (std::size_t i = 0; i < row.size(); ++i) widths[i] = std::max(widths[i], cells_of(row[i]));
   std::string text;
   for (const auto& row : rows) {
     std::string line;
     for (std::size_t i = 0; i < row.size(); ++i) {
-      const std::string gap(widths[i] - width_of(row[i]), ' ');
+      const std::string gap(widths[i] - cells_of(row[i]), ' ');
       line += i == 0 ? "" : "  ";
       line += columns[i] == Align::left ? row[i] + gap : gap + row[i];
     }

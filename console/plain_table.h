@@ -1,4 +1,4 @@
-// Tables of plain text, their columns aligned by characters.
+// Tables of plain text, their columns aligned by the cells that characters take.
 #pragma once
 
 #include <string>

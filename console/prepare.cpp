@@ -129,7 +129,9 @@ class Preparation {
         return refused(kNothingImported);
       }
       file.flush();
-      if (!file.commit(output, options_.force)) {
+      if (options_.force) {
+        file.replace(output);
+      } else if (!file.take_free(output)) {
         say("konsola.plik_istnieje", {output.string()});
         return refused(kFailure);
       }
@@ -171,7 +173,11 @@ class Preparation {
     AtomicFile log(final_target(path).parent_path());
     log.write(prepare_log(options_.file, output.string(), *table_, account));
     log.flush();
-    if (!log.commit(path, options_.force)) throw std::system_error(EEXIST, std::generic_category(), "renaming");
+    if (options_.force) {
+      log.replace(path);
+    } else if (!log.take_free(path)) {
+      throw std::system_error(EEXIST, std::generic_category(), "renaming");
+    }
     say("konsola.prep_dziennik", {path.string()});
   }
 

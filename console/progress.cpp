@@ -5,7 +5,6 @@
 #include <system_error>
 #include <utility>
 
-#include <sys/ioctl.h>
 #include <unistd.h>
 
 #include "console/dialogue/shown_text.h"
@@ -19,12 +18,6 @@ using Clock = std::chrono::steady_clock;
 constexpr auto kPatience = std::chrono::seconds(1);  // what is done before needs no line
 constexpr auto kInterval = std::chrono::milliseconds(100);
 constexpr std::size_t kBar = 30;  // character cells
-
-std::size_t width_of(int terminal) {
-  constexpr std::size_t kUsual = 80;
-  winsize size{};
-  return ioctl(terminal, TIOCGWINSZ, &size) == 0 && size.ws_col > 0 ? size.ws_col : kUsual;
-}
 
 // Signals are for the thread that works. Where the system gives no other, nothing is drawn.
 std::thread started(std::function<void()> work) {
@@ -103,7 +96,7 @@ void Progress::draw() {
   if (owner >= 0 && owner != getpgrp()) return;  // the terminal is another's now
   std::string drawn = line();
   const std::size_t cells = cells_of(drawn);
-  if (cells >= width_of(descriptor_)) return;  // it would not stay one line
+  if (cells >= terminal_width(descriptor_)) return;  // it would not stay one line
   if (drawn_ > cells) drawn.append(drawn_ - cells, ' ');
   write_to(descriptor_, "\r" + drawn);
   drawn_ = cells;

@@ -14,8 +14,8 @@
 #include <thread>
 #include <utility>
 
+#include "console/byte_sink.h"
 #include "console/dialogue/line_source.h"
-#include "console/dxf/tag_writer.h"
 
 namespace console {
 

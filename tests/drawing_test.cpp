@@ -14,6 +14,7 @@
 #include "console/drawing/database.h"
 #include "console/dxf/dxf_writer.h"
 #include "console/dxf/tag_writer.h"
+#include "console/dxf/text_encoding.h"
 
 namespace console {
 namespace {

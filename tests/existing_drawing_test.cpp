@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include "console/decimals.h"
 #include "console/dxf/drawing_fault.h"
 #include "console/dxf/outline.h"
 #include "console/nearness.h"

@@ -48,7 +48,7 @@ TEST_F(Files, AreAsLongAsWhatWasWritten) {
     for (std::size_t i = 0; i < pieces; ++i) file.write(piece);
     file.write("end");
     file.flush();
-    ASSERT_TRUE(file.commit(folder_ / "drawing.dxf", true));
+    file.replace(folder_ / "drawing.dxf");
     std::ifstream written(folder_ / "drawing.dxf", std::ios::binary);
     std::string read(piece.size(), ' ');
     for (std::size_t i = 0; i < pieces; ++i) ASSERT_TRUE(written.read(read.data(), std::ssize(read)) && read == piece);
@@ -76,8 +76,8 @@ TEST_F(Files, HandTheirRightsOn) {
     AtomicFile file(final_target(folder_ / "link to link.dxf").parent_path());
     file.write("new");
     file.flush();
-    EXPECT_FALSE(file.commit(target, false));
-    ASSERT_TRUE(file.commit(folder_ / "link to link.dxf", true));
+    EXPECT_FALSE(file.take_free(target));
+    file.replace(folder_ / "link to link.dxf");
   }
   EXPECT_EQ(content(target), "new");
   EXPECT_TRUE(fs::is_symlink(link));
@@ -123,7 +123,7 @@ TEST_F(Files, AreWholeUnderOneOfTheirNames) {
     AtomicFile file(folder_);
     file.write(text);
     file.flush();
-    file.commit_keeping(target, backup);
+    file.replace_keeping(target, backup);
     return content(target) == text;
   };
   EXPECT_TRUE(replaced_by("first") && count() == 1);

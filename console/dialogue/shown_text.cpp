@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cwchar>
 
+#include <sys/ioctl.h>
+
 #include "vexo_xyz_impl/text/utf8.h"
 
 namespace console {
@@ -55,6 +57,12 @@ std::size_t cells_of(std::string_view line) {
     at += code_point ? code_point->bytes : 1;
   }
   return cells;
+}
+
+std::size_t terminal_width(int descriptor) {
+  constexpr std::size_t kUsual = 80;
+  winsize size{};
+  return ioctl(descriptor, TIOCGWINSZ, &size) == 0 && size.ws_col > 0 ? size.ws_col : kUsual;
 }
 
 std::string shown_text(std::string_view raw) {

@@ -17,4 +17,7 @@ namespace console {
 /// How many character cells a line of text takes on a terminal.
 [[nodiscard]] std::size_t cells_of(std::string_view line);
 
+/// How many of them a line of the terminal has; the usual 80 where the descriptor is none.
+[[nodiscard]] std::size_t terminal_width(int descriptor);
+
 }  // namespace console

@@ -8,7 +8,6 @@
 
 #include <histedit.h>
 #include <poll.h>
-#include <sys/ioctl.h>
 #include <unistd.h>
 
 #include "console/dialogue/line_source.h"
@@ -26,12 +25,6 @@ constexpr int kSequenceGapMs = 50;  // the bytes of one key arrive together, a p
 bool more_keys_follow() {
   pollfd input{STDIN_FILENO, POLLIN, 0};
   return poll(&input, 1, kSequenceGapMs) > 0;
-}
-
-std::size_t terminal_width() {
-  constexpr std::size_t kUsual = 80;
-  winsize size{};
-  return ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0 ? size.ws_col : kUsual;
 }
 
 std::size_t sequence_length(char lead) {
@@ -107,7 +100,7 @@ class TerminalLines final : public LineSource {
       return el_insertstr(editor, completion.addition.c_str()) == 0 ? CC_REFRESH : CC_ERROR;
     }
     if (completion.names.size() < 2) return CC_ERROR;
-    self_of(editor).out_ << '\n' << in_columns(completion.names, terminal_width()) << std::flush;
+    self_of(editor).out_ << '\n' << in_columns(completion.names, terminal_width(STDOUT_FILENO)) << std::flush;
     return CC_REDISPLAY;
   }
 
@@ -128,7 +121,7 @@ class TerminalLines final : public LineSource {
   [[nodiscard]] std::size_t rows_above_cursor() const {
     const LineInfo* line = el_line(editor_.get());
     const std::string_view before(line->buffer, static_cast<std::size_t>(line->cursor - line->buffer));
-    return (cells_of(prompt_) + cells_of(before)) / terminal_width();
+    return (cells_of(prompt_) + cells_of(before)) / terminal_width(STDOUT_FILENO);
   }
 
   void act_on(int signal_number) {

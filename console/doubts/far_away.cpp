@@ -5,9 +5,9 @@
 #include <utility>
 #include <vector>
 
+#include "console/decimals.h"
 #include "console/doubts/doubts.h"
 #include "console/doubts/range.h"
-#include "console/nearness.h"
 #include "vexo_xyz_impl/messages.h"
 
 namespace console {

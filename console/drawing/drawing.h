@@ -24,6 +24,12 @@ namespace console {
 using Handle = std::uint64_t;
 using Position = vexo_xyz_impl::host::GcGePoint3d;
 
+/// A position in plan, drawing units.
+struct PlanPoint {
+  double x = 0.0;
+  double y = 0.0;
+};
+
 /// Handles of the objects that every drawing has; those of everything else begin behind them.
 enum class Fixed : Handle {
   vport_table = 1,

@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-#include "console/dxf/form.h"
+#include "console/dxf/version.h"
 
 namespace console {
 

@@ -3,11 +3,11 @@
 
 #include <string_view>
 
+#include "console/byte_sink.h"
 #include "console/drawing/drawing.h"
 #include "console/drawing/wishes.h"
 #include "console/dxf/form.h"
 #include "console/dxf/outline.h"
-#include "console/dxf/tag_writer.h"
 
 namespace console {
 

@@ -1,14 +1,10 @@
 // What a version of DXF writes of what all drawings have, and how it spells text.
 #pragma once
 
-#include <string_view>
-
 #include "console/dxf/text_encoding.h"
+#include "console/dxf/version.h"
 
 namespace console {
-
-/// Versions by the number of their $ACADVER.
-enum class DxfVersion { r12 = 1009, r13 = 1012, r14 = 1014, r2000 = 1015, r2004 = 1018, r2007 = 1021, r2018 = 1032 };
 
 /// Versions between two named ones have the form of the earlier.
 struct DxfForm {

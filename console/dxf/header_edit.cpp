@@ -1,5 +1,4 @@
 // Header: what stands there is changed in its place, what does not is added at its end.
-#include <array>
 #include <cmath>
 
 #include "console/drawing/database.h"
@@ -8,15 +7,6 @@
 #include "console/dxf/sections.h"
 
 namespace console {
-namespace {
-
-std::string spelled(double value) {
-  std::array<char, kLongestNumeral> text{};
-  return {text.data(), put_real(text.data(), value)};
-}
-
-}  // namespace
-
 void DrawingEdit::edit_header() {
   in_section("HEADER", [this](std::size_t end) {
     if (section("HEADER") == nullptr) edits_.insert(end, "9\n$ACADVER\n1\nAC1009\n");
@@ -42,9 +32,9 @@ void DrawingEdit::edit_size(std::size_t end) {
   const double value = drawing_.variables.PDSIZE;
   const Tag* const there = outline_.variable("$PDSIZE");
   if (there == nullptr) {
-    edits_.insert(end, "9\n$PDSIZE\n40\n" + spelled(value) + "\n");
+    edits_.insert(end, "9\n$PDSIZE\n40\n" + numeral(value) + "\n");
   } else if (there->real() != value) {
-    edits_.replace(*there, spelled(value));
+    edits_.replace(*there, numeral(value));
   }
 }
 
@@ -65,7 +55,7 @@ void DrawingEdit::widen(std::string_view name, const Position& wanted, Beyond be
   for (const Tag& tag : found->second) {
     const double value = tag.code == 10 ? wanted.x : tag.code == 20 ? wanted.y : wanted.z;
     const auto there = tag.real();
-    if (there && std::abs(*there) < kNoExtents && beyond(*there, value)) edits_.replace(tag, spelled(value));
+    if (there && std::abs(*there) < kNoExtents && beyond(*there, value)) edits_.replace(tag, numeral(value));
   }
 }
 

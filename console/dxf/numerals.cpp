@@ -1,6 +1,7 @@
 #include "console/dxf/numerals.h"
 
 #include <algorithm>
+#include <array>
 
 namespace console {
 
@@ -9,6 +10,11 @@ char* put_shortest(char* to, double value) {
   if (std::find(to, written, '.') != written) return written;
   constexpr std::string_view kFraction = ".0";
   return std::copy(kFraction.begin(), kFraction.end(), written);
+}
+
+std::string numeral(double value) {
+  std::array<char, kLongestNumeral> text{};
+  return {text.data(), put_real(text.data(), value)};
 }
 
 }  // namespace console

@@ -7,6 +7,7 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 namespace console {
@@ -61,5 +62,8 @@ inline char* put_real(char* to, double value) {
   to[3] = static_cast<char>('0' + fraction % 10);
   return to + (to[3] != '0' ? 4 : to[2] != '0' ? 3 : 2);
 }
+
+/// The same as a text.
+[[nodiscard]] std::string numeral(double value);
 
 }  // namespace console

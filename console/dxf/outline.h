@@ -61,12 +61,6 @@ struct DictionaryOutline {
   [[nodiscard]] const DictionaryEntry* entry(std::string_view name) const;
 };
 
-/// A position in plan, drawing units.
-struct PlanPoint {
-  double x = 0.0;
-  double y = 0.0;
-};
-
 struct Outline {
   int version = 1009;  ///< the number of $ACADVER; files that tell none are read as such
   bool crlf = false;

@@ -10,17 +10,11 @@
 #include <string_view>
 #include <vector>
 
+#include "console/byte_sink.h"
 #include "console/drawing/drawing.h"
 #include "console/dxf/numerals.h"
 
 namespace console {
-
-/// Where finished bytes go.
-class ByteSink {
- public:
-  virtual ~ByteSink() = default;
-  virtual void write(std::string_view bytes) = 0;
-};
 
 class TagWriter {
  public:

@@ -39,7 +39,9 @@ struct Picture {
   bool axes_known = false;              ///< the points lie east and north, as far as anybody can tell
   bool in_degrees = false;              ///< the numbers are degrees, so that nothing can be said in metres
   std::string file;                     ///< what the points were read from, without its folder; for the caller to name
-  std::string group;                    ///< likewise
+  std::string group;                    ///< likewise; empty where no group was made
+
+  [[nodiscard]] const std::string& title() const { return group.empty() ? file : group; }
 };
 
 /// The picture of an import that has ended; `doubts` are those that it raised.

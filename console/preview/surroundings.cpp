@@ -126,10 +126,8 @@ std::string name_of(Suspicion suspicion) {
   return suspicion == Suspicion::none ? std::string() : T(kKeys[static_cast<std::size_t>(suspicion)]);
 }
 
-std::string distance_text(double distance, const Picture& picture) {
-  if (picture.in_degrees) return spelled(distance, 1) + "°";
-  if (distance < 1000.0) return spelled(distance, 0) + " m";
-  return spelled(distance / 1000.0, distance < 10000.0 ? 1 : 0) + " km";
+std::string distance_in(const Picture& picture, double distance) {
+  return picture.in_degrees ? spelled(distance) + "°" : distance_text(distance);
 }
 
 void draw_arrowhead(SvgElements& svg, double x, double y, double turned, std::string_view colour) {
@@ -187,7 +185,7 @@ void draw_title(SvgElements& svg, const Picture& picture, const Page& page) {
   const std::string date = vexo_xyz_impl::text::local_time("%Y-%m-%d");
   const std::string what =
       filled("konsola.podglad_liczba", {count_of(picture.points.size())}) + " · " + systems_of(picture);
-  const std::string title = picture.group.empty() ? picture.file : picture.group;
+  const std::string& title = picture.title();
   svg.text(x, 148, kLarge, fitting(title, kLarge, room), Anchor::start, attribute("font-weight", "bold"));
   svg.text(x, 205, kUsual, fitting(what, kUsual, room));
   svg.text(x, 252, kUsual, fitting(picture.file + " · " + date, kUsual, room));

@@ -26,7 +26,7 @@ void draw_foot(SvgElements& svg, const Picture& picture, const Page& page, const
 [[nodiscard]] std::string name_of(Suspicion suspicion);
 
 /// A distance for people, in metres or kilometres; or in degrees where the picture is in these.
-[[nodiscard]] std::string distance_text(double distance, const Picture& picture);
+[[nodiscard]] std::string distance_in(const Picture& picture, double distance);
 
 /// An arrowhead that points to the right, turned by degrees clockwise.
 void draw_arrowhead(SvgElements& svg, double x, double y, double turned, std::string_view colour);

@@ -1,10 +1,6 @@
 #include "console/preview/svg.h"
 
-#include <algorithm>
 #include <cmath>
-#include <fstream>
-#include <iterator>
-#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -76,7 +72,7 @@ std::size_t draw_outside(SvgElements& svg, const Picture& picture, const Page& p
   for (const auto& [point, x, y] : marks) {
     area.occupy({x - kArrow, y - kArrow, x + kArrow, y + kArrow}, OccupiedArea::By::label);
     const double distance = std::hypot(point->x - page.middle_x, point->y - page.middle_y);
-    texts.push_back(std::string(point->label) + " · " + distance_text(distance, picture));
+    texts.push_back(std::string(point->label) + " · " + distance_in(picture, distance));
   }
   for (std::size_t i = 0; i < marks.size(); ++i) wishes.push_back({marks[i].x, marks[i].y, texts[i]});
   const auto placed = place_labels(wishes, kLetters, kArrow + 6, area);
@@ -120,13 +116,7 @@ std::size_t draw_points(SvgElements& svg, const Picture& picture, const Page& pa
 
 }  // namespace
 
-bool is_picture(const std::filesystem::path& path) {
-  std::ifstream file(path, std::ios::binary);
-  std::string beginning(kBeginning.size(), '\0');
-  file.read(beginning.data(), static_cast<std::streamsize>(beginning.size()));
-  beginning.resize(static_cast<std::size_t>(file.gcount()));
-  return beginning.empty() || beginning == kBeginning;
-}
+bool is_picture(const std::filesystem::path& path) { return begins_with_any(path, {kBeginning}); }
 
 std::string svg_of(const Picture& picture) {
   const Page page = page_for(picture.points);
@@ -137,7 +127,7 @@ std::string svg_of(const Picture& picture) {
           attribute("height", spelled(page.height / 10) + "mm") +
           attribute("viewBox", "0 0 " + spelled(page.width) + " " + spelled(page.height)) +
           attribute("font-family", "Arial, Helvetica, sans-serif") + attribute("fill", kInk) + ">\n");
-  svg.add("<title>" + escaped(picture.group) + "</title>\n");
+  svg.add("<title>" + escaped(picture.title()) + "</title>\n");
   svg.rectangle(0, 0, page.width, page.height, attribute("fill", "#ffffff"));
   draw_frame(svg, picture, page);
   const std::size_t labels = draw_points(svg, picture, page, marks);
@@ -147,12 +137,6 @@ std::string svg_of(const Picture& picture) {
   return std::move(svg.markup());
 }
 
-void write_picture(const Picture& picture, const std::filesystem::path& path) {
-  const std::string svg = svg_of(picture);
-  AtomicFile file(final_target(path).parent_path());
-  file.write(svg);
-  file.flush();
-  if (!file.commit(path, true)) throw std::system_error(EEXIST, std::generic_category());
-}
+void write_picture(const Picture& picture, const std::filesystem::path& path) { write_whole(path, svg_of(picture)); }
 
 }  // namespace console

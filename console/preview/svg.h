@@ -11,7 +11,7 @@ namespace console {
 /// Whether an earlier picture of this program stands there, or an empty file: one that may be replaced.
 [[nodiscard]] bool is_picture(const std::filesystem::path& path);
 
-/// The picture as an SVG document, in the user's language; of a picture without points too.
+/// The picture as an SVG document, in the user's language. There must be a point.
 [[nodiscard]] std::string svg_of(const Picture& picture);
 
 /// Writes the picture whole or not at all, in the place of an earlier one. Fails with std::system_error.

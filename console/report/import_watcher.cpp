@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "console/account/account_lines.h"
+#include "console/decimals.h"
 #include "console/dialogue/shown_text.h"
 #include "console/nearness.h"
 #include "console/report/reasons.h"

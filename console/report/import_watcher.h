@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "console/doubts/doubts.h"
-#include "console/dxf/outline.h"
+#include "console/drawing/drawing.h"
 #include "console/preview/picture.h"
 #include "console/report/findings.h"
 #include "vexo_xyz_impl/host/command_line.h"

@@ -1,17 +1,14 @@
 #include "console/report/report_file.h"
 
-#include <cerrno>
 #include <cstddef>
-#include <fstream>
 #include <string>
-#include <system_error>
 #include <utility>
 
 #include <nlohmann/json.hpp>
 
 #include "console/account/account_lines.h"
+#include "console/decimals.h"
 #include "console/files.h"
-#include "console/nearness.h"
 #include "vexo_xyz_impl/messages.h"
 
 namespace console {
@@ -163,20 +160,10 @@ std::string report_as_json(const Findings& findings) {
   return text + "\n}\n";
 }
 
-bool is_report(const std::filesystem::path& path) {
-  std::ifstream file(path, std::ios::binary);
-  std::string beginning(kJsonBeginning.size(), '\0');
-  file.read(beginning.data(), static_cast<std::streamsize>(beginning.size()));
-  beginning.resize(static_cast<std::size_t>(file.gcount()));
-  return beginning.empty() || beginning == kJsonBeginning || beginning.starts_with(kTextBeginning);
-}
+bool is_report(const std::filesystem::path& path) { return begins_with_any(path, {kJsonBeginning, kTextBeginning}); }
 
 void write_report(const Findings& findings, const std::filesystem::path& path) {
-  const std::string report = path.extension() == ".json" ? report_as_json(findings) : as_text(findings);
-  AtomicFile file(final_target(path).parent_path());
-  file.write(report);
-  file.flush();
-  if (!file.commit(path, true)) throw std::system_error(EEXIST, std::generic_category());
+  write_whole(path, path.extension() == ".json" ? report_as_json(findings) : as_text(findings));
 }
 
 }  // namespace console
