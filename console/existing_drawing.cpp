@@ -34,17 +34,6 @@ class Descriptor {
   int number_;
 };
 
-std::string text_of(std::string_view key, const std::filesystem::path& path) {
-  const std::string name = path.string();
-  return vexo_xyz_impl::filled(key, {std::string_view(name)});
-}
-
-std::string text_of(std::string_view key, const std::filesystem::path& path, const std::system_error& failure) {
-  const std::string name = path.string();
-  const std::string reason = failure_text(failure);
-  return vexo_xyz_impl::filled(key, {std::string_view(name), std::string_view(reason)});
-}
-
 std::string_view key_of(Damage damage) {
   switch (damage) {
     case Damage::no_drawing:
@@ -66,7 +55,7 @@ std::string_view key_of(Damage damage) {
 }
 
 std::string text_of(const std::filesystem::path& path, const DrawingFault& fault) {
-  if (fault.line() == 0) return text_of(key_of(fault.damage()), path);
+  if (fault.line() == 0) return text_about(key_of(fault.damage()), path);
   const std::string name = path.string();
   const std::string what = vexo_xyz_impl::T(key_of(fault.damage()));
   return vexo_xyz_impl::filled("konsola.rys_uszkodzony",
@@ -118,8 +107,11 @@ std::string ExistingDrawing::notes(const DrawingWishes& wishes) const {
   constexpr long long kMetre = 6;
   const TextEncoding encoding = form_of(outline_).encoding;
   std::string hidden;
+  Names told;
   const auto look_at = [&](const std::string& layer) {
-    if (outline_.hidden_layers.contains(encoding.name(layer))) hidden += (hidden.empty() ? "" : ", ") + layer;
+    const std::string name = encoding.name(layer);
+    if (outline_.hidden_layers.contains(name) && told.insert(name).second)
+      hidden += (hidden.empty() ? "" : ", ") + layer;
   };
   look_at(wishes.layers.points);
   look_at(wishes.layers.labels);
@@ -144,7 +136,8 @@ void ExistingDrawing::go_on_with(std::string bytes) {
   bytes_ = *written_;
 }
 
-void ExistingDrawing::save(const Drawing* added, const Layers& layers) const {
+bool ExistingDrawing::save(const Drawing* added, const Layers& layers) const {
+  if (!is_unchanged()) return false;
   AtomicFile file(path_.parent_path());
   if (added != nullptr) {
     write(*added, layers, file);
@@ -152,21 +145,23 @@ void ExistingDrawing::save(const Drawing* added, const Layers& layers) const {
     file.write(bytes_);
   }
   file.flush();
+  if (!is_unchanged()) return false;  // all that may have taken seconds
   file.replace_keeping(path_, backup());
+  return true;
 }
 
 OpenedDrawing read_existing(const std::filesystem::path& path) {
   std::error_code ignored;
   const auto status = std::filesystem::status(path, ignored);
-  if (status.type() == std::filesystem::file_type::not_found) return text_of("konsola.rys_brak", path);
+  if (status.type() == std::filesystem::file_type::not_found) return text_about("konsola.rys_brak", path);
   if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status))
-    return text_of("konsola.rys_nie_plik", path);
+    return text_about("konsola.rys_nie_plik", path);
   try {
     return std::make_unique<ExistingDrawing>(path);
   } catch (const DrawingFault& fault) {
     return text_of(path, fault);
   } catch (const std::system_error& failure) {
-    return text_of("konsola.rys_nie_otwarto", path, failure);
+    return text_about("konsola.rys_nie_otwarto", path, failure);
   }
 }
 
@@ -175,18 +170,17 @@ OpenedDrawing open_existing(const std::filesystem::path& path) {
   if (const auto* const drawing = std::get_if<std::unique_ptr<ExistingDrawing>>(&opened)) {
     // A file may be replaced that may not be written; but who protects a drawing means it.
     if (access((*drawing)->path().c_str(), W_OK) != 0)
-      return text_of("konsola.blad_zapisu", path, std::system_error(errno, std::generic_category()));
-    if (const auto refusal = refusal_of((*drawing)->path())) return text_of("konsola.blad_zapisu", path, *refusal);
+      return text_about("konsola.blad_zapisu", path, std::system_error(errno, std::generic_category()));
+    if (const auto refusal = refusal_of((*drawing)->path())) return text_about("konsola.blad_zapisu", path, *refusal);
   }
   return opened;
 }
 
 std::optional<std::string> save_existing(const ExistingDrawing& drawing, const Drawing* added, const Layers& layers) {
-  if (!drawing.is_unchanged()) return text_of("konsola.rys_zmieniony", drawing.path());
   try {
-    drawing.save(added, layers);
+    if (!drawing.save(added, layers)) return text_about("konsola.rys_zmieniony", drawing.path());
   } catch (const std::system_error& failure) {
-    return text_of("konsola.blad_zapisu", drawing.path(), failure);
+    return text_about("konsola.blad_zapisu", drawing.path(), failure);
   }
   return std::nullopt;
 }

@@ -22,6 +22,9 @@ class ExistingDrawing {
   /// Reads the file. Fails with DrawingFault where it is no drawing that can be added to, with std::system_error where
   /// it cannot be read.
   explicit ExistingDrawing(const std::filesystem::path& path);
+  ExistingDrawing(const ExistingDrawing&) = delete;
+  ExistingDrawing& operator=(const ExistingDrawing&) = delete;
+  ~ExistingDrawing() = default;
 
   [[nodiscard]] const std::filesystem::path& path() const { return path_; }
   [[nodiscard]] std::filesystem::path backup() const { return path_.string() + ".bak"; }
@@ -29,9 +32,6 @@ class ExistingDrawing {
   [[nodiscard]] const Outline& outline() const { return outline_; }
   [[nodiscard]] Ground ground() const;
   [[nodiscard]] const Column<PlanPoint>& places() const { return outline_.places; }  ///< what model space holds
-
-  /// Whether the file on the disk is still the one that was read.
-  [[nodiscard]] bool is_unchanged() const;
 
   /// What the user should know of it once points were added: that their layers do not show, that its unit is not the
   /// metre. Lines; empty for nothing.
@@ -44,8 +44,9 @@ class ExistingDrawing {
   void go_on_with(std::string bytes);
 
   /// Writes the file, with `added` in the drawing if there is something; the former file becomes the backup. At every
-  /// moment one of the two is whole. Fails with FileFailure.
-  void save(const Drawing* added, const Layers& layers) const;
+  /// moment one of the two is whole. False, and nothing is changed, when another program changed the file meanwhile.
+  /// Fails with FileFailure.
+  [[nodiscard]] bool save(const Drawing* added, const Layers& layers) const;
 
  private:
   struct Identity {
@@ -59,6 +60,7 @@ class ExistingDrawing {
 
   [[nodiscard]] static Identity identity_of(int descriptor);
   void read();
+  [[nodiscard]] bool is_unchanged() const;  // on the disk, since it was read
 
   std::filesystem::path path_;
   std::unique_ptr<char[]> memory_;  // NOLINT(modernize-avoid-c-arrays): bytes that nobody clears before they are read

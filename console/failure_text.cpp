@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
-#include <string_view>
 #include <utility>
 
 #include "console/files.h"
@@ -56,6 +55,20 @@ std::string failure_text(const std::system_error& failure) {
   const auto* const of_file = dynamic_cast<const FileFailure*>(&failure);
   if (of_file == nullptr) return reason;
   return vexo_xyz_impl::filled(key_of(of_file->step()), {std::string_view(reason)});
+}
+
+std::string text_about(std::string_view key, const std::filesystem::path& path) {
+  const std::string name = path.string();
+  return vexo_xyz_impl::filled(key, {std::string_view(name)});
+}
+
+std::string text_about(std::string_view key, const std::filesystem::path& path, std::string_view reason) {
+  const std::string name = path.string();
+  return vexo_xyz_impl::filled(key, {std::string_view(name), reason});
+}
+
+std::string text_about(std::string_view key, const std::filesystem::path& path, const std::system_error& failure) {
+  return text_about(key, path, failure_text(failure));
 }
 
 }  // namespace console

@@ -179,7 +179,9 @@ void write_whole(const std::filesystem::path& path, std::string_view bytes) {
 }
 
 bool begins_with_any(const std::filesystem::path& path, std::initializer_list<std::string_view> beginnings) {
-  std::string head(std::ranges::max(beginnings, {}, &std::string_view::size).size(), '\0');
+  std::size_t longest = 0;
+  for (const std::string_view known : beginnings) longest = std::max(longest, known.size());
+  std::string head(longest, '\0');
   std::ifstream file(path, std::ios::binary);
   file.read(head.data(), std::ssize(head));
   head.resize(static_cast<std::size_t>(file.gcount()));

@@ -16,8 +16,6 @@
 namespace console {
 namespace {
 
-using vexo_xyz_impl::filled;
-
 constexpr int kMostNames = 10000;  // drawings of one name in one folder
 
 // Does it; where it fails, the text of `key` says of `path` why.
@@ -25,8 +23,7 @@ Saved saved_by(const std::function<std::filesystem::path()>& write, std::string_
   try {
     return {write().string(), std::nullopt};
   } catch (const std::system_error& failure) {
-    const std::string reason = failure_text(failure);
-    return {path, filled(key, {std::string_view(path), std::string_view(reason)})};
+    return {path, text_about(key, path, failure)};
   }
 }
 
@@ -56,7 +53,7 @@ std::optional<std::string> Outputs::refusal_of_drawing(const std::filesystem::pa
 
 std::optional<std::string> Outputs::open_existing_one() {
   const std::string path = into_->string();
-  if (is_file_of_points_(path)) return filled("konsola.rys_plik_punktow", {std::string_view(path)});
+  if (is_file_of_points_(path)) return text_about("konsola.rys_plik_punktow", path);
   if (existing_) return std::nullopt;
   OpenedDrawing opened = open_existing(path);
   if (const auto* const why_not = std::get_if<std::string>(&opened)) return *why_not;
@@ -101,10 +98,8 @@ Saved Outputs::save_into_existing(const Drawing& added) const {
 }
 
 std::string Outputs::told_of(const Saved& saved) const {
-  if (!existing_) return filled("konsola.zapisano", {std::string_view(saved.path)});
-  const std::string backup = existing_->backup().string();
-  return filled("konsola.rys_zapisano", {std::string_view(saved.path), std::string_view(backup)}) +
-         existing_->notes(wishes_);
+  if (!existing_) return text_about("konsola.zapisano", saved.path);
+  return text_about("konsola.rys_zapisano", saved.path, existing_->backup().string()) + existing_->notes(wishes_);
 }
 
 Saved Outputs::save_preview(const Picture& picture) const {

@@ -1,6 +1,5 @@
 #include "console/targets.h"
 
-#include <string_view>
 #include <system_error>
 
 #include "console/failure_text.h"
@@ -14,16 +13,6 @@ namespace {
 
 using vexo_xyz_impl::T;
 
-std::string filled(std::string_view key, const std::filesystem::path& path) {
-  const std::string name = path.string();
-  return vexo_xyz_impl::filled(key, {std::string_view(name)});
-}
-
-std::string filled(std::string_view key, const std::filesystem::path& path, const std::string& reason) {
-  const std::string name = path.string();
-  return vexo_xyz_impl::filled(key, {std::string_view(name), std::string_view(reason)});
-}
-
 // Folders of the system's own, in which no drawing is looked for: a table piped in is a file of theirs.
 bool is_of_the_system(const std::filesystem::path& path) {
   std::error_code ignored;
@@ -33,13 +22,13 @@ bool is_of_the_system(const std::filesystem::path& path) {
 
 std::optional<std::string> refused_beside(const std::filesystem::path& points) {
   if (points.empty()) return std::nullopt;
-  if (is_of_the_system(points)) return filled("konsola.urzadzenie", points);
+  if (is_of_the_system(points)) return text_about("konsola.urzadzenie", points);
   std::error_code ignored;
   if (!std::filesystem::exists(points, ignored)) return std::nullopt;  // which is told when it is read
   // Whether names are taken is no matter: another one is made.
   const auto refusal = refusal_in(points.parent_path());
   if (!refusal) return std::nullopt;
-  return filled("konsola.blad_zapisu", drawing_name(points, 1), failure_text(*refusal)) + T("konsola.rada_nazwa");
+  return text_about("konsola.blad_zapisu", drawing_name(points, 1), *refusal) + T("konsola.rada_nazwa");
 }
 
 bool is_name(const std::filesystem::path& path, const std::optional<std::filesystem::path>& other) {
@@ -67,19 +56,19 @@ std::optional<std::string> drawing_refused(const Targets& targets, const std::fi
   if (!targets.output) return refused_beside(points);
   const std::filesystem::path& output = *targets.output;
   std::error_code ignored;
-  if (is_file_of_points(output)) return filled("konsola.plik_zrodlowy", output);
+  if (is_file_of_points(output)) return text_about("konsola.plik_zrodlowy", output);
   const auto status = std::filesystem::status(output, ignored);
   if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status))
-    return filled("konsola.blad_zapisu", output, T("konsola.powod_nie_plik"));
-  if (std::filesystem::exists(status) && !targets.force) return filled("konsola.plik_istnieje", output);
-  if (const auto refusal = refusal_of(output)) return filled("konsola.blad_zapisu", output, failure_text(*refusal));
+    return text_about("konsola.blad_zapisu", output, T("konsola.powod_nie_plik"));
+  if (std::filesystem::exists(status) && !targets.force) return text_about("konsola.plik_istnieje", output);
+  if (const auto refusal = refusal_of(output)) return text_about("konsola.blad_zapisu", output, *refusal);
   return std::nullopt;
 }
 
 std::optional<std::string> report_refused(const Targets& targets, const IsFileOfPoints& is_file_of_points) {
   if (!targets.report) return std::nullopt;
   const auto reason = reason_against(*targets.report, targets, is_file_of_points, is_report);
-  return reason ? std::optional(filled("konsola.raport_blad", *targets.report, *reason)) : std::nullopt;
+  return reason ? std::optional(text_about("konsola.raport_blad", *targets.report, *reason)) : std::nullopt;
 }
 
 std::optional<std::string> preview_refused(const Targets& targets, const IsFileOfPoints& is_file_of_points) {
@@ -87,7 +76,7 @@ std::optional<std::string> preview_refused(const Targets& targets, const IsFileO
   const auto reason = is_name(*targets.preview, targets.report)
                           ? std::optional(T("konsola.powod_raport"))
                           : reason_against(*targets.preview, targets, is_file_of_points, is_picture);
-  return reason ? std::optional(filled("konsola.podglad_blad", *targets.preview, *reason)) : std::nullopt;
+  return reason ? std::optional(text_about("konsola.podglad_blad", *targets.preview, *reason)) : std::nullopt;
 }
 
 std::filesystem::path with_extension(std::filesystem::path output) {

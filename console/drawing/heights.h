@@ -5,8 +5,8 @@
 
 namespace console {
 
-/// Writes the height of each point below its number, as large as that, with so many decimals; the drawing's groups take
-/// the heights of their members in. A point without a label gets none.
+/// Writes the height of each point below its number, as large as that, with so many decimals. All groups of the drawing
+/// take in all heights. A point without a label gets none.
 void add_heights(Drawing& drawing, int decimals);
 
 }  // namespace console

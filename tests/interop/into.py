@@ -301,7 +301,7 @@ class Into(unittest.TestCase):
         mirrored = {"extrusion": (0, 0, -1), "insert": (6542010.25, 6024815.5)}
         drawing.modelspace().add_text("mirrored", dxfattribs=mirrored)
         drawing.saveas(self.plan)
-        output = self.added()
+        output = self.added("--label-layer", "Pikiety")
         self.assertIn("the points are 525 km away from what the drawing holds. Another coordinate system", output)
         self.assertNotIn("Nearest", output)
         self.assertIn("off or frozen in the drawing: PIKIETY.", output)
