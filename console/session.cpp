@@ -194,7 +194,7 @@ ExitCode Session::save() {
 }
 
 ExitCode Session::save_preview() {
-  if (!outputs_.has_preview()) return kImported;
+  if (!outputs_.has_preview() || watcher_.picture().points.empty()) return kImported;
   Picture& picture = watcher_.picture();
   picture.file = source().filename().string();
   if (!database_.drawing().groups().empty()) picture.group = database_.drawing().groups().front().name;

@@ -166,7 +166,8 @@ std::span<const Text> reason_texts() {
        "this file by itself."},
       {"konsola.powod_axes_open", "",
        "współrzędne pasują do więcej niż jednej kolejności osi: podaj --axes albo wczytaj ten plik osobno.",
-       "Die Koordinaten lassen mehr als eine Reihenfolge der Achsen zu: --axes angeben oder diese Datei allein einlesen.",
+       "Die Koordinaten lassen mehr als eine Reihenfolge der Achsen zu: --axes angeben oder diese Datei allein "
+       "einlesen.",
        "coordonatele se potrivesc cu mai multe ordini ale axelor: dați --axes sau citiți fișierul separat.",
        "the coordinates fit more than one reading of the axes: give --axes, or import this file by itself."},
   });
