@@ -74,7 +74,7 @@ class Program(unittest.TestCase):
         """An empty home, and a folder to work in that holds one file."""
         home = tempfile.TemporaryDirectory()
         self.addCleanup(home.cleanup)
-        self.folder, self.log = (pathlib.Path(home.name, *part) for part in (["work"], ["state", "vexo-xyz", "log"]))
+        self.folder, self.log = (pathlib.Path(home.name, *part) for part in (["pomiary"], ["state", "vexo-xyz", "log"]))
         self.folder.mkdir()
         self.environment = {"HOME": home.name, "XDG_STATE_HOME": os.path.join(home.name, "state"), "TERM": "xterm"}
         for variable in ("PATH", "ASAN_OPTIONS", "UBSAN_OPTIONS"):
@@ -294,7 +294,7 @@ class Program(unittest.TestCase):
             ("dane.csv", POINTS, 0, []), (' "dane.csv" \r\n', POINTS, 0, []), ('\t""dane.csv\n', POINTS, 0, []),
             ("./dane.csv\nz\n", AXES, 0, []), ("dane.csv\n", COLUMNS, 1, CANCELLED), ("", POINTS, 1, CANCELLED),
             (" \t \n", POINTS, 1, CANCELLED), ("dane.csv\x1b\n", POINTS, 1, CANCELLED),
-            ("'dane.csv'\n", POINTS, 0, []), (" ~/work/dane.csv\n", POINTS, 0, []), ("dan\\e.csv\n", POINTS, 0, []),
+            ("'dane.csv'\n", POINTS, 0, []), (" ~/pomiary/dane.csv\n", POINTS, 0, []), ("dan\\e.csv\n", POINTS, 0, []),
             ("file://{}/dane%2Ecsv\n", POINTS, 0, []), ("'file://localhost{}/dane.csv'\n", POINTS, 0, []),
             ("'dane.csv\n", POINTS, 3, [CANNOT_OPEN + "'dane.csv\n"]), ("file://x{}/dane.csv\n", POINTS, 3, [CANNOT_OPEN]),
             ('""\n', POINTS, 3, [CANNOT_OPEN]), ("dane.csv\0\a\x9b2J.txt\n", POINTS, 3, [CANNOT_OPEN]),
@@ -383,7 +383,7 @@ class Program(unittest.TestCase):
         tongues = [{}, {"LC_ALL": "C"}, {"LANG": "C"}, {"LC_ALL": "C.UTF-8"}, {"LC_ALL": "xx_XX"}, {"TERM": "dumb"}]
         polish = [("zażółć_gęślą.csv", keys) for keys in ("zażółć_gęślą.csv\r", ' "./zażó\t\r', "zażx\x7f\t\r")]
         for name, keys, environment in [(*case, tongue) for case in polish for tongue in tongues] + [
-            ("dom nad rzeką.csv", "dom\t\r", {}), ("dom nad rzeką.csv", "dom nad\t\r", {}), ("dom nad rzeką.csv", "~/work/do\t\r", {}),
+            ("dom nad rzeką.csv", "dom\t\r", {}), ("dom nad rzeką.csv", "dom nad\t\r", {}), ("dom nad rzeką.csv", "~/pomiary/do\t\r", {}),
             ("dom nad rzeką.csv", "dom\\ n\t\r", {}), ("dom nad rzeką.csv", "'dom\t'\r", {}),
             ("dom nad rzeką.csv", "file://{}/dom%20n\t\r", {}), ("o'c.csv", "o\t\r", {}),
             ("punkty (2).csv", "pun\t\r", {}), ("a&b.csv", "a&\t\r", {}), ("50%s$x.csv", "50\t\r", {}),
